@@ -1,0 +1,12 @@
+#pragma once
+#include <ctime>
+#include <string>
+
+namespace nomra::text {
+
+// The list's date form "yyyy-mm-dd hh:nn:ss", in local time, whole seconds.
+std::string FormatListDate(std::time_t t);
+
+inline constexpr const char* kDefaultListDate = "1980-01-01 00:00:00";
+
+}  // namespace nomra::text

@@ -1,0 +1,44 @@
+#include "base/Helpers.h"
+
+namespace nomra {
+
+std::string AddBackslash(std::string_view path) {
+  std::string out(path);
+  if (out.empty() || out.back() != kPathSeparator) out.push_back(kPathSeparator);
+  return out;
+}
+
+std::string FormatMessage(std::string_view text, const std::vector<std::string>& values) {
+  std::string out(text);
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    const std::string marker = "%" + std::to_string(i + 1);
+    std::string next;
+    std::size_t from = 0;
+    for (std::size_t at = out.find(marker); at != std::string::npos; at = out.find(marker, from)) {
+      next.append(out, from, at - from);
+      next += values[i];
+      from = at + marker.size();
+    }
+    next.append(out, from, std::string::npos);
+    out = std::move(next);
+  }
+  return out;
+}
+
+std::string CleanFileName(std::string_view name) {
+  std::string out;
+  out.reserve(name.size());
+  for (char c : name) {
+    if (kForbiddenNameCharacters.find(c) == std::string_view::npos) out.push_back(c);
+  }
+  return out;
+}
+
+bool ToBoolean(long value, bool defaultValue) {
+  if (value < 0) return defaultValue;
+  return value != 0;
+}
+
+int FromBoolean(bool flag) { return flag ? 1 : 0; }
+
+}  // namespace nomra

@@ -1,0 +1,29 @@
+#pragma once
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace nomra {
+
+// The platform's path separator; folder texts end with it.
+inline constexpr char kPathSeparator = '/';
+
+// Appends the separator when the last character isn't one.
+std::string AddBackslash(std::string_view path);
+
+// Replaces "%1", "%2", ... one after the other with the values, in order;
+// an empty list leaves the text alone.
+std::string FormatMessage(std::string_view text, const std::vector<std::string>& values);
+
+// The nine characters that never stand in a file name.
+inline constexpr std::string_view kForbiddenNameCharacters = "\\/:?*<>|\"";
+
+// Removes each of the nine forbidden characters from a name.
+std::string CleanFileName(std::string_view name);
+
+// 1 is true, 0 is false, anything below 0 (a missing setting) gives the
+// default; other values above 1 count as true.
+bool ToBoolean(long value, bool defaultValue);
+int FromBoolean(bool flag);
+
+}  // namespace nomra

@@ -1,0 +1,89 @@
+#include "core/AddFile.h"
+
+#include <cerrno>
+#include <cstring>
+#include <vector>
+
+#include "base/CaseMap.h"
+#include "base/DateText.h"
+#include "base/Fault.h"
+#include "base/Helpers.h"
+#include "base/NumberText.h"
+
+namespace nomra {
+
+namespace {
+
+constexpr long kPumpInterval = 100;
+
+bool IsJpegName(const std::string& name) {
+  const std::size_t dot = name.rfind('.');
+  if (dot == std::string::npos) return false;
+  const std::string extension = text::ToLower(name.substr(dot));
+  return extension == ".jpg" || extension == ".jpeg";
+}
+
+void FillRow(MainModel& model, FileEntry& row, const platform::FileStatus& status) {
+  const std::size_t slash = row.key.rfind(kPathSeparator);
+  row[kColPath] = row.key.substr(0, slash + 1);
+  row[kColOldName] = row.key.substr(slash + 1);
+  row[kColNewName] = row[kColOldName];
+  row[kColSize] = text::FormatGrouped(status.size);
+  row.sizeTag = text::FormatPadded(status.size, 12);
+  // A file whose dates can't be read keeps the 1980 text.
+  row[kColCreated] = status.created ? text::FormatListDate(*status.created) : text::kDefaultListDate;
+  row[kColModified] = status.modified ? text::FormatListDate(*status.modified) : text::kDefaultListDate;
+  // A row added late gets as many history levels as the others have.
+  for (int column = kColHistory0; column <= kColHistory0 + model.undoLevels && column <= kColHistoryLast; ++column) {
+    row[column] = row[kColOldName];
+  }
+}
+
+}  // namespace
+
+void AddFile(MainModel& model, std::string& path) {
+  if (++model.addCounter % kPumpInterval == 0) model.frontEnd.Pump();
+
+  platform::FileStatus status = model.fileSystem.Status(path);
+  if (status.kind == platform::EntryKind::Folder) {
+    AddFolder(model, model.fileSystem.AbsolutePath(path));
+    return;
+  }
+  if (status.kind != platform::EntryKind::File) {
+    if (model.checkExistence) return;
+    const int error = status.error != 0 ? status.error : ENOENT;
+    throw RuntimeFault("Cannot add \"" + path + "\": " + std::strerror(error));
+  }
+  path = model.fileSystem.AbsolutePath(path);
+
+  FileEntry* row = model.list.Add(path);
+  if (row == nullptr) return;  // a file is never listed twice
+  FillRow(model, *row, status);
+
+  ++model.statusCounter;
+  model.frontEnd.SetStatusText(model.statusTexts[2] + " " + std::to_string(model.statusCounter));
+
+  if (model.loadExifDates && IsJpegName((*row)[kColOldName])) {
+    if (auto date = model.exifDates.ReadExifDate(row->key)) (*row)[kColExifDate] = *date;
+  }
+}
+
+void AddFolder(MainModel& model, const std::string& folder) {
+  const std::string base = AddBackslash(folder);
+  std::vector<std::string> subfolders;
+  model.fileSystem.ListFolder(base, [&](std::string_view name, platform::EntryKind kind) {
+    if (kind == platform::EntryKind::File) {
+      std::string path = base + std::string(name);
+      try {
+        AddFile(model, path);
+      } catch (const RuntimeFault&) {
+        // A file that went away during the walk is passed over.
+      }
+    } else if (kind == platform::EntryKind::Folder) {
+      subfolders.push_back(base + std::string(name));
+    }
+  });
+  for (const std::string& subfolder : subfolders) AddFolder(model, subfolder);
+}
+
+}  // namespace nomra

@@ -1,0 +1,41 @@
+#include "core/NameHistory.h"
+
+#include <utility>
+
+#include "core/RefreshPreview.h"
+
+namespace nomra {
+
+bool mnuUndo(MainModel& model) {
+  if (model.securityQuestions[0] &&
+      model.frontEnd.Ask({"MsgText07", "", MessageStyle::YesNo, {}}) != Answer::Yes) {
+    return false;
+  }
+  model.frontEnd.SetBusy(true);
+  model.list.ForEach([](FileEntry& row) {
+    row[kColNewName] = row[kColHistoryFirst];
+    for (int column = kColHistory0; column < kColHistoryLast; ++column) {
+      row[column] = std::move(row[column + 1]);
+    }
+    row[kColHistoryLast].clear();
+  });
+  refreshPreview(model);
+  model.frontEnd.SetBusy(false);
+  return true;
+}
+
+bool mnuRejectChanges(MainModel& model) {
+  if (model.securityQuestions[2] &&
+      model.frontEnd.Ask({"MsgText04", "MsgCap04", MessageStyle::YesNoWarningDefaultNo, {}}) != Answer::Yes) {
+    return false;
+  }
+  model.list.ForEach([](FileEntry& row) {
+    row[kColNewName] = row[kColOldName];
+    row[kColHistory0] = row[kColOldName];
+    for (int column = kColHistoryFirst; column <= kColHistoryLast; ++column) row[column].clear();
+  });
+  refreshPreview(model);
+  return true;
+}
+
+}  // namespace nomra

@@ -1,0 +1,11 @@
+#pragma once
+#include <string>
+#include <string_view>
+
+namespace nomra {
+
+// The sort text of a column: each run of the digits "0" to "9" becomes its
+// value in 15 digits, so "9" sorts before "10". Other characters stay.
+std::string NaturalSortKey(std::string_view text);
+
+}  // namespace nomra

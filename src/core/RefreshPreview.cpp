@@ -1,0 +1,113 @@
+#include "core/RefreshPreview.h"
+
+#include <utility>
+
+#include "base/Helpers.h"
+#include "base/NumberText.h"
+#include "core/SortFileList.h"
+
+namespace nomra {
+
+namespace {
+
+// Each history level takes the one before it; column 9 takes the new name.
+void PushHistory(FileList& list) {
+  list.ForEach([](FileEntry& row) {
+    for (int column = kColHistoryLast; column >= kColHistoryFirst; --column) {
+      row[column] = std::move(row[column - 1]);
+    }
+    row[kColHistory0] = row[kColNewName];
+  });
+}
+
+int CountFolders(MainModel& model) {
+  FileList& list = model.list;
+  if (list.Empty()) return 0;
+  const int savedColumn = list.sortKey;
+  // Folder order first, so that equal folders lie together.
+  SortRowsByColumn(list, kColPath);
+  int folders = 1;
+  for (int i = 2; i <= list.Count(); ++i) {
+    if (list.Item(i)[kColPath] != list.Item(i - 1)[kColPath]) ++folders;
+  }
+  list.sortKey = savedColumn;
+  // A saved column of 0 is no sort head: the rows stay in folder order.
+  sortFileList(model, savedColumn + 1);
+  return folders;
+}
+
+int CountUndoLevels(const FileList& list) {
+  if (list.Empty()) return 0;
+  const FileEntry& first = list.Item(1);
+  int levels = 0;
+  for (int column = kColHistoryFirst; column <= kColHistoryLast; ++column) {
+    if (!first[column].empty()) ++levels;
+  }
+  return levels;
+}
+
+void ComputeCommandState(MainModel& model) {
+  auto& enabled = model.commands.enabled;
+  enabled.clear();
+  for (const char* always : {"OpenFile", "Options", "ImgPreview"}) enabled.insert(always);
+  if (model.changedCount > 0) {
+    for (const char* name : {"mnuTakeChanges", "mnuRejectChanges", "TakeChanges", "RejectChanges"}) {
+      enabled.insert(name);
+    }
+  }
+  if (model.list.Empty()) return;
+  for (const char* name : {"lstApplyTo", "mnuDelList", "mnuEdit", "mnuFindDuplications", "mnuSpecial",
+                           "mnuScript", "mnuRename", "StartRunScript"}) {
+    enabled.insert(name);
+  }
+  if (!model.scriptRecording) enabled.insert("StartRecordScript");
+  if (model.scriptMenuHasEntries) enabled.insert("RunSelectedScript");
+  if (model.undoLevels > 0) {
+    enabled.insert("mnuUndo");
+    enabled.insert("Undo");
+  }
+  enabled.insert("DelList");
+  for (const std::string& key : MainToolBarKeys()) {
+    if (key >= "Rename01" && key <= "Rename99") enabled.insert(key);
+  }
+}
+
+}  // namespace
+
+void refreshPreview(MainModel& model) {
+  FileList& list = model.list;
+  model.folderCount = list.Empty() ? 0 : 1;
+  model.changedCount = 0;
+  model.undoLevels = 0;
+
+  bool newState = false;
+  int position = 0;
+  list.ForEach([&](FileEntry& row) {
+    ++position;
+    row[kColDisplay] = model.iconView ? row[kColNewName] : std::string();
+    if (row[kColOldName] == row[kColNewName]) {
+      row.colour = RowColour::Black;
+    } else {
+      row.colour = RowColour::DarkRed;
+      ++model.changedCount;
+      // A name that went back to its old form is no new state on its own.
+      if (row[kColNewName] != row[kColHistory0]) newState = true;
+    }
+    row[kColListPosition] = text::FormatPadded(static_cast<std::uint64_t>(position), 12);
+  });
+
+  if (newState) PushHistory(list);
+  model.folderCount = CountFolders(model);
+
+  if (list.Empty()) model.selectedScriptLabel = model.statusTexts[5];
+  model.undoLevels = CountUndoLevels(list);
+  ComputeCommandState(model);
+
+  model.statusCounter = 0;
+  const std::string status =
+      FormatMessage(model.statusTexts[1], {std::to_string(list.Count()), std::to_string(model.folderCount),
+                                           std::to_string(model.changedCount)});
+  model.frontEnd.SetStatusText(status);
+}
+
+}  // namespace nomra

@@ -1,0 +1,179 @@
+#include "platform/posix/PosixFileSystem.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <sys/vfs.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <memory>
+#include <vector>
+
+#include "base/CaseMap.h"
+
+namespace nomra::platform {
+
+namespace {
+
+constexpr long kMsdosMagic = 0x4d44;        // FAT12/16/32, vfat
+constexpr long kExfatMagic = 0x2011BAB0;
+constexpr long kCifsMagic = 0xFF534D42;
+constexpr long kSmb2Magic = 0xFE534D42;
+constexpr long kSmbMagic = 0x517B;
+constexpr long kFuseMagic = 0x65735546;
+constexpr unsigned kCasefoldFlag = 0x40000000;  // FS_CASEFOLD_FL
+
+EntryKind KindOfMode(mode_t mode) {
+  if (S_ISREG(mode)) return EntryKind::File;
+  if (S_ISDIR(mode)) return EntryKind::Folder;
+  return EntryKind::Other;
+}
+
+std::string WorkingFolder() {
+  std::vector<char> buffer(4096);
+  while (getcwd(buffer.data(), buffer.size()) == nullptr) {
+    if (errno != ERANGE) return "/";
+    buffer.resize(buffer.size() * 2);
+  }
+  return buffer.data();
+}
+
+bool HasCasefoldAttribute(const std::string& folder) {
+  const int fd = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (fd < 0) return false;
+  unsigned flags = 0;
+  const bool ok = ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0;
+  close(fd);
+  return ok && (flags & kCasefoldFlag) != 0;
+}
+
+// Looks up an entry of the folder under another case; the same inode means
+// the folder ignores case.
+bool LookupIgnoresCase(const std::string& folder) {
+  std::unique_ptr<DIR, int (*)(DIR*)> dir(opendir(folder.c_str()), closedir);
+  if (!dir) return false;
+  while (dirent* entry = readdir(dir.get())) {
+    const std::string name = entry->d_name;
+    if (name == "." || name == "..") continue;
+    std::string flipped = text::ToUpper(name);
+    if (flipped == name) flipped = text::ToLower(name);
+    if (flipped == name) continue;
+    struct stat original {};
+    struct stat other {};
+    const std::string base = folder.empty() || folder.back() == '/' ? folder : folder + "/";
+    if (lstat((base + name).c_str(), &original) != 0) continue;
+    if (lstat((base + flipped).c_str(), &other) != 0) return false;
+    return original.st_ino == other.st_ino && original.st_dev == other.st_dev;
+  }
+  return false;
+}
+
+}  // namespace
+
+FileStatus PosixFileSystem::Status(const std::string& path) {
+  FileStatus status;
+  struct statx sx {};
+  if (statx(AT_FDCWD, path.c_str(), 0, STATX_TYPE | STATX_SIZE | STATX_MTIME | STATX_BTIME, &sx) != 0) {
+    status.error = errno;
+    return status;
+  }
+  status.kind = KindOfMode(sx.stx_mode);
+  status.size = sx.stx_size;
+  if (sx.stx_mask & STATX_MTIME) status.modified = static_cast<std::time_t>(sx.stx_mtime.tv_sec);
+  if (sx.stx_mask & STATX_BTIME) status.created = static_cast<std::time_t>(sx.stx_btime.tv_sec);
+  return status;
+}
+
+std::string PosixFileSystem::AbsolutePath(const std::string& path) {
+  return NormalizeAbsolutePath(path, path.starts_with('/') ? std::string() : WorkingFolder());
+}
+
+bool PosixFileSystem::ListFolder(const std::string& folder, const EntryVisitor& visit) {
+  std::unique_ptr<DIR, int (*)(DIR*)> dir(opendir(folder.c_str()), closedir);
+  if (!dir) return false;
+  const int dirFd = dirfd(dir.get());
+  errno = 0;
+  while (dirent* entry = readdir(dir.get())) {
+    const std::string_view name = entry->d_name;
+    if (name == "." || name == "..") continue;
+    EntryKind kind = EntryKind::Other;
+    switch (entry->d_type) {
+      case DT_REG:
+        kind = EntryKind::File;
+        break;
+      case DT_DIR:
+        kind = EntryKind::Folder;
+        break;
+      case DT_LNK:
+      case DT_UNKNOWN: {
+        struct stat target {};
+        if (fstatat(dirFd, entry->d_name, &target, 0) == 0) {
+          kind = KindOfMode(target.st_mode);
+          if (kind == EntryKind::Folder && entry->d_type == DT_LNK) kind = EntryKind::FolderLink;
+          if (kind == EntryKind::Folder && entry->d_type == DT_UNKNOWN) {
+            struct stat self {};
+            if (fstatat(dirFd, entry->d_name, &self, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(self.st_mode)) {
+              kind = EntryKind::FolderLink;
+            }
+          }
+        }
+        break;
+      }
+      default:
+        break;
+    }
+    visit(name, kind);
+  }
+  return true;
+}
+
+bool PosixFileSystem::IsCaseInsensitiveFolder(const std::string& folder) {
+  auto found = caseRuleByFolder_.find(folder);
+  if (found != caseRuleByFolder_.end()) return found->second;
+  const bool insensitive = ProbeCaseInsensitiveFolder(folder);
+  caseRuleByFolder_.emplace(folder, insensitive);
+  return insensitive;
+}
+
+bool ProbeCaseInsensitiveFolder(const std::string& folder) {
+  struct statfs fs {};
+  if (statfs(folder.c_str(), &fs) != 0) return false;
+  const long type = static_cast<long>(fs.f_type);
+  if (type == kMsdosMagic || type == kExfatMagic || type == kCifsMagic || type == kSmb2Magic ||
+      type == kSmbMagic) {
+    return true;
+  }
+  if (HasCasefoldAttribute(folder)) return true;
+  if (type == kFuseMagic) return LookupIgnoresCase(folder);
+  return false;
+}
+
+std::string NormalizeAbsolutePath(const std::string& path, const std::string& workingFolder) {
+  const std::string joined = path.starts_with('/') ? path : workingFolder + "/" + path;
+  std::vector<std::string_view> parts;
+  std::string_view rest = joined;
+  while (!rest.empty()) {
+    const std::size_t slash = rest.find('/');
+    const std::string_view part = rest.substr(0, slash);
+    rest = slash == std::string_view::npos ? std::string_view() : rest.substr(slash + 1);
+    if (part.empty() || part == ".") continue;
+    if (part == "..") {
+      if (!parts.empty()) parts.pop_back();
+      continue;
+    }
+    parts.push_back(part);
+  }
+  std::string out;
+  for (std::string_view part : parts) {
+    out.push_back('/');
+    out.append(part);
+  }
+  if (out.empty()) out = "/";
+  if (path.size() > 1 && path.back() == '/' && out.back() != '/') out.push_back('/');
+  return out;
+}
+
+}  // namespace nomra::platform

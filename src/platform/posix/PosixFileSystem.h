@@ -1,0 +1,28 @@
+#pragma once
+#include <string>
+#include <unordered_map>
+
+#include "platform/FileSystem.h"
+
+namespace nomra::platform {
+
+class PosixFileSystem final : public FileSystem {
+ public:
+  FileStatus Status(const std::string& path) override;
+  std::string AbsolutePath(const std::string& path) override;
+  bool ListFolder(const std::string& folder, const EntryVisitor& visit) override;
+  bool IsCaseInsensitiveFolder(const std::string& folder) override;
+
+ private:
+  std::unordered_map<std::string, bool> caseRuleByFolder_;
+};
+
+// The folder probe itself, without memory: file system type, then the
+// casefold attribute, then, on FUSE mounts, a look-up with flipped case.
+bool ProbeCaseInsensitiveFolder(const std::string& folder);
+
+// Lexical normalisation: joins to the working folder when relative, drops
+// "." and empty parts, and lets ".." take away the part before it.
+std::string NormalizeAbsolutePath(const std::string& path, const std::string& workingFolder);
+
+}  // namespace nomra::platform
