@@ -1,0 +1,24 @@
+#pragma once
+#include <string>
+
+#include "core/MainModel.h"
+
+namespace nomra {
+
+struct StartupPaths {
+  std::string appFolder;     // holds the language files; ends with the separator
+  std::string dataFolder;    // per-user data; ends with the separator
+  std::string settingsPath;  // dataFolder + "settings.nrp"
+  bool dataFolderUsable = false;  // false: nothing is stored, reads give defaults
+};
+
+// Finds the data folder (the override when not empty), creates it, copies the
+// first-run files, merges update instructions and compacts the settings.
+StartupPaths PrepareStartup(const std::string& dataFolderOverride);
+
+// Reads the flags the list needs from the settings into the model and creates
+// the rename protocol when it is missing. A value that isn't a number is
+// shown as a fault and the default is used instead; the start goes on.
+void LoadStartupSettings(MainModel& model, const StartupPaths& paths);
+
+}  // namespace nomra

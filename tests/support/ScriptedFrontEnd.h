@@ -1,0 +1,40 @@
+#pragma once
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/FrontEnd.h"
+
+namespace nomra::testing {
+
+// A front end whose answers are given in advance; it remembers every
+// question, fault and status text it was shown.
+class ScriptedFrontEnd final : public FrontEnd {
+ public:
+  std::deque<Answer> answers;  // taken in order; when none is left, No
+  std::vector<Message> asked;
+  std::vector<std::string> faults;
+  std::vector<std::string> statusTexts;
+  int pumps = 0;
+  int busyDepth = 0;
+  // Runs during a pump, as a click on the cancel button would.
+  std::function<void()> onPump;
+
+  Answer Ask(const Message& message) override {
+    asked.push_back(message);
+    if (answers.empty()) return Answer::No;
+    const Answer answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+  void ShowFault(const std::string& text) override { faults.push_back(text); }
+  void SetStatusText(const std::string& text) override { statusTexts.push_back(text); }
+  void Pump() override {
+    ++pumps;
+    if (onPump) onPump();
+  }
+  void SetBusy(bool busy) override { busyDepth += busy ? 1 : -1; }
+};
+
+}  // namespace nomra::testing
