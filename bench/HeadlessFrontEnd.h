@@ -1,0 +1,19 @@
+#pragma once
+#include <string>
+
+#include "core/FrontEnd.h"
+
+namespace nomra::bench {
+
+// A front end that shows nothing: what the engine costs on its own.
+class HeadlessFrontEnd final : public FrontEnd {
+ public:
+  Answer Ask(const Message&) override { return Answer::No; }
+  void ShowFault(const std::string&) override {}
+  void SetStatusText(const std::string& text) override { last = text; }
+  void Pump() override {}
+  void SetBusy(bool) override {}
+  std::string last;
+};
+
+}  // namespace nomra::bench

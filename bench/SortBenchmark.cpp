@@ -1,0 +1,80 @@
+// Sorting by new name and the refresh after an action, on 100,000 rows.
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+#include "HeadlessFrontEnd.h"
+#include "core/MainModel.h"
+#include "core/RefreshPreview.h"
+#include "core/SortFileList.h"
+#include "platform/posix/PosixFileSystem.h"
+
+namespace {
+
+constexpr int kRows = 100000;
+constexpr int kFolders = 1000;
+
+// Rows as AddFile makes them, without the disk: 100 files in each of 1,000
+// folders, names in a shuffled order.
+void FillRows(nomra::MainModel& model) {
+  for (int i = 0; i < kRows; ++i) {
+    const int scrambled = static_cast<int>((static_cast<long long>(i) * 7919) % kRows);
+    const std::string folder = "/home/user/photos/d" + std::to_string(i % kFolders) + "/";
+    const std::string name = "IMG_" + std::to_string(scrambled) + ".jpg";
+    nomra::FileEntry* row = model.list.Add(folder + name);
+    (*row)[nomra::kColPath] = folder;
+    (*row)[nomra::kColOldName] = name;
+    (*row)[nomra::kColNewName] = name;
+    (*row)[nomra::kColHistory0] = name;
+    (*row)[nomra::kColCreated] = "2020-01-01 12:00:00";
+    (*row)[nomra::kColModified] = "2020-01-01 12:00:00";
+    (*row)[nomra::kColSize] = "0";
+    row->sizeTag = "000000000000";
+  }
+}
+
+struct Fixture {
+  nomra::platform::PosixFileSystem fs;
+  nomra::bench::HeadlessFrontEnd ui;
+  nomra::NoExifDates exif;
+  nomra::MainModel model{fs, ui, exif};
+  Fixture() { FillRows(model); }
+};
+
+void BM_SortByNewName(benchmark::State& state) {
+  Fixture f;
+  for (auto _ : state) {
+    f.model.list.sortOrder = f.model.list.sortOrder == 0 ? 1 : 0;
+    nomra::sortFileList(f.model, 4);
+  }
+  state.counters["rows"] = f.model.list.Count();
+}
+BENCHMARK(BM_SortByNewName)->Unit(benchmark::kMillisecond);
+
+// Each iteration is an action that changes every tenth name, then the refresh.
+void RefreshAfterTenPercentChanged(benchmark::State& state, int sortColumn) {
+  Fixture f;
+  f.model.list.sortKey = sortColumn;
+  int round = 0;
+  for (auto _ : state) {
+    state.PauseTiming();
+    ++round;
+    int position = 0;
+    f.model.list.ForEach([&](nomra::FileEntry& row) {
+      if (++position % 10 == 0) row[nomra::kColNewName] = "new_" + std::to_string(round) + "_" + row[nomra::kColOldName];
+    });
+    state.ResumeTiming();
+    nomra::refreshPreview(f.model);
+  }
+  state.counters["rows"] = f.model.list.Count();
+  state.counters["changed"] = f.model.changedCount;
+}
+
+void BM_RefreshFolderOrder(benchmark::State& state) { RefreshAfterTenPercentChanged(state, 0); }
+void BM_RefreshSortedByNewName(benchmark::State& state) { RefreshAfterTenPercentChanged(state, nomra::kColNewName); }
+BENCHMARK(BM_RefreshFolderOrder)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_RefreshSortedByNewName)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,42 @@
+#include "core/ManualEdit.h"
+
+#include <gtest/gtest.h>
+
+#include "support/ListFixture.h"
+
+namespace nomra {
+namespace {
+
+class ManualEditTest : public testing::ListTest {};
+
+TEST_F(ManualEditTest, TypedNameBecomesThePendingNameAsTyped) {
+  AddFiles({"a.txt"});
+  EXPECT_TRUE(ApplyManualEdit(model, 1, " new name.txt "));
+  EXPECT_EQ(model.list.Item(1)[kColNewName], " new name.txt ");
+  EXPECT_EQ(model.changedCount, 1);
+}
+
+TEST_F(ManualEditTest, NameOfOnlyBlanksIsIgnored) {
+  AddFiles({"a.txt"});
+  EXPECT_FALSE(ApplyManualEdit(model, 1, "   "));
+  EXPECT_FALSE(ApplyManualEdit(model, 1, ""));
+  EXPECT_EQ(model.list.Item(1)[kColNewName], "a.txt");
+}
+
+TEST_F(ManualEditTest, ForbiddenCharactersAreDiscardedWhileTyping) {
+  for (char32_t c : {U'\\', U'/', U':', U'?', U'*', U'<', U'>', U'|', U'"'}) {
+    EXPECT_FALSE(AcceptsNameCharacter(c)) << static_cast<int>(c);
+  }
+  for (char32_t c : {U'a', U' ', U'.', U'-', U'ä', U'€'}) {
+    EXPECT_TRUE(AcceptsNameCharacter(c)) << static_cast<int>(c);
+  }
+}
+
+TEST_F(ManualEditTest, InPlaceEditRemovesForbiddenCharacters) {
+  AddFiles({"a.txt"});
+  ApplyLabelEdit(model, 1, "b<1>:2.txt");
+  EXPECT_EQ(model.list.Item(1)[kColNewName], "b12.txt");
+}
+
+}  // namespace
+}  // namespace nomra
