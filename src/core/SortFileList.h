@@ -23,7 +23,13 @@ void mnuViewSortingUnsorted(MainModel& model);
 // Which sort menu entry is checked: 1 to 14, or 0 when "unsorted" is.
 int CheckedSortMenuEntry(const MainModel& model);
 
-// Sorts every row by the exact text of one column, in the list's direction.
+// Sorts every row by the text of one column, in the list's direction.
 void SortRowsByColumn(FileList& list, int column);
+
+// What a refresh does to the order: the rows go into folder order, then, for
+// a head that sorts, by that head. Sorting twice, each time keeping equal
+// texts in their order, is one sort by the head with ties in folder order,
+// and that is how it runs.
+void SortInFolderOrderThenByHead(MainModel& model, int columnHead);
 
 }  // namespace nomra
