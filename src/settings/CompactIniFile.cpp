@@ -1,0 +1,48 @@
+#include "settings/CompactIniFile.h"
+
+#include <unistd.h>
+
+#include <string_view>
+#include <vector>
+
+#include "base/Helpers.h"
+#include "settings/AtomicFile.h"
+#include "settings/FileBytes.h"
+#include "settings/IniLines.h"
+#include "settings/SettingsKeys.h"
+
+namespace nomra::settings {
+
+namespace {
+
+// Lines are compared as bytes, so a Windows-1252 file keeps its encoding.
+// "Previous" is the line read, whether it was kept or not: a section keeps
+// its empty line ahead of it also when the key before it was dropped, and
+// one pass never turns one empty line into two.
+std::vector<std::string> CompactedLines(const std::vector<std::string>& lines) {
+  std::vector<std::string> kept;
+  kept.reserve(lines.size());
+  std::string_view previous;
+  for (const std::string& line : lines) {
+    if (!line.empty() && line.front() == '[' && !previous.empty()) kept.emplace_back();
+    if (!TrimBlanks(line).ends_with(kDeleteMarker)) kept.push_back(line);
+    previous = line;
+  }
+  return kept;
+}
+
+}  // namespace
+
+bool CompactIniFile(const std::string& path, const std::string& dataFolder) {
+  const auto source = ReadFileBytes(path);
+  if (!source || !MayReplaceFile(path)) return false;
+  const std::string temp = AddBackslash(dataFolder) + kCompactionTempName;
+  const std::string compacted = JoinLines(CompactedLines(SplitLines(*source)));
+  if (!WriteTemporaryFile(temp, compacted, path) || !MoveFileOver(temp, path)) {
+    unlink(temp.c_str());
+    return false;
+  }
+  return true;
+}
+
+}  // namespace nomra::settings
