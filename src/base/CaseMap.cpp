@@ -74,6 +74,21 @@ char32_t ToLowerChar(char32_t c) {
 std::string ToUpper(std::string_view s) { return MapChars(s, ToUpperChar); }
 std::string ToLower(std::string_view s) { return MapChars(s, ToLowerChar); }
 
+void AppendLowerCase(std::string& out, std::string_view s) {
+  std::size_t i = 0;
+  while (i < s.size()) {
+    const auto b = static_cast<unsigned char>(s[i]);
+    if (b < 0x80) {
+      out.push_back(static_cast<char>(b >= 'A' && b <= 'Z' ? b + 0x20 : b));
+      ++i;
+      continue;
+    }
+    char32_t c;
+    i += DecodeAt(s, i, c);
+    AppendChar(out, ToLowerChar(c));
+  }
+}
+
 int CompareNoCase(std::string_view a, std::string_view b) {
   std::size_t i = 0;
   std::size_t j = 0;

@@ -13,6 +13,8 @@ char32_t ToLowerChar(char32_t c);
 
 std::string ToUpper(std::string_view s);
 std::string ToLower(std::string_view s);
+// Appends the lower-case form; plain ASCII goes through without decoding.
+void AppendLowerCase(std::string& out, std::string_view s);
 
 // Comparison without regard to case, by the same rule (lower-case both).
 bool EqualsNoCase(std::string_view a, std::string_view b);
