@@ -87,7 +87,19 @@ FileStatus PosixFileSystem::Status(const std::string& path) {
   return status;
 }
 
+namespace {
+
+// An absolute path without ".", ".." or doubled separators is its own normal form.
+bool IsNormalAbsolute(const std::string& path) {
+  if (!path.starts_with('/')) return false;
+  return path.find("//") == std::string::npos && path.find("/./") == std::string::npos &&
+         path.find("/../") == std::string::npos && !path.ends_with("/.") && !path.ends_with("/..");
+}
+
+}  // namespace
+
 std::string PosixFileSystem::AbsolutePath(const std::string& path) {
+  if (IsNormalAbsolute(path)) return path;
   return NormalizeAbsolutePath(path, path.starts_with('/') ? std::string() : WorkingFolder());
 }
 
@@ -131,6 +143,14 @@ bool PosixFileSystem::ListFolder(const std::string& folder, const EntryVisitor& 
 }
 
 bool PosixFileSystem::IsCaseInsensitiveFolder(const std::string& folder) {
+  // Files of one folder come one after the other; the last answer is at hand.
+  if (!lastFolder_.empty() && folder == lastFolder_) return lastAnswer_;
+  lastFolder_ = folder;
+  lastAnswer_ = CaseRuleOf(folder);
+  return lastAnswer_;
+}
+
+bool PosixFileSystem::CaseRuleOf(const std::string& folder) {
   auto found = caseRuleByFolder_.find(folder);
   if (found != caseRuleByFolder_.end()) return found->second;
   const bool insensitive = ProbeCaseInsensitiveFolder(folder);

@@ -14,7 +14,11 @@ class PosixFileSystem final : public FileSystem {
   bool IsCaseInsensitiveFolder(const std::string& folder) override;
 
  private:
+  bool CaseRuleOf(const std::string& folder);
+
   std::unordered_map<std::string, bool> caseRuleByFolder_;
+  std::string lastFolder_;
+  bool lastAnswer_ = false;
 };
 
 // The folder probe itself, without memory: file system type, then the
