@@ -28,7 +28,7 @@ std::string DefaultDataFolder() {
   if (!overridden.empty()) return WithSeparator(overridden);
   std::string base = Environment("XDG_DATA_HOME");
   // The XDG rule: a relative value is invalid and must be ignored.
-  if (base.empty() || base.front() != '/') base = Environment("HOME") + "/.local/share";
+  if (base.empty() || base.front() != '/') base = WithSeparator(Environment("HOME")) + ".local/share";
   return WithSeparator(base) + "NR-Software/Nomra/";
 }
 

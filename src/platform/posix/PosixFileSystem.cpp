@@ -107,8 +107,10 @@ bool PosixFileSystem::ListFolder(const std::string& folder, const EntryVisitor& 
   std::unique_ptr<DIR, int (*)(DIR*)> dir(opendir(folder.c_str()), closedir);
   if (!dir) return false;
   const int dirFd = dirfd(dir.get());
-  errno = 0;
-  while (dirent* entry = readdir(dir.get())) {
+  for (;;) {
+    errno = 0;
+    dirent* entry = readdir(dir.get());
+    if (entry == nullptr) break;
     const std::string_view name = entry->d_name;
     if (name == "." || name == "..") continue;
     EntryKind kind = EntryKind::Other;
@@ -139,7 +141,9 @@ bool PosixFileSystem::ListFolder(const std::string& folder, const EntryVisitor& 
     }
     visit(name, kind);
   }
-  return true;
+  // A read error half-way: what was visited stays visited, the answer says
+  // the listing is incomplete.
+  return errno == 0;
 }
 
 bool PosixFileSystem::IsCaseInsensitiveFolder(const std::string& folder) {
@@ -172,7 +176,12 @@ bool ProbeCaseInsensitiveFolder(const std::string& folder) {
 }
 
 std::string NormalizeAbsolutePath(const std::string& path, const std::string& workingFolder) {
-  const std::string joined = path.starts_with('/') ? path : workingFolder + "/" + path;
+  std::string joined;
+  if (!path.starts_with('/')) {
+    joined.reserve(workingFolder.size() + 1 + path.size());
+    joined.append(workingFolder).push_back('/');
+  }
+  joined.append(path);
   std::vector<std::string_view> parts;
   std::string_view rest = joined;
   while (!rest.empty()) {
@@ -191,7 +200,7 @@ std::string NormalizeAbsolutePath(const std::string& path, const std::string& wo
     out.push_back('/');
     out.append(part);
   }
-  if (out.empty()) out = "/";
+  if (out.empty()) out.push_back('/');
   if (path.size() > 1 && path.back() == '/' && out.back() != '/') out.push_back('/');
   return out;
 }

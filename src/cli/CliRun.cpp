@@ -1,0 +1,69 @@
+#include "cli/CliRun.h"
+
+#include <string>
+#include <vector>
+
+#include "base/Fault.h"
+#include "cli/CliFrontEnd.h"
+#include "cli/ExitStatus.h"
+#include "cli/JsonOutput.h"
+#include "cli/TableOutput.h"
+#include "core/AddFile.h"
+#include "core/ExifDateReader.h"
+#include "core/RefreshPreview.h"
+#include "core/Startup.h"
+#include "platform/posix/PosixFileSystem.h"
+
+namespace nomra::cli {
+
+namespace {
+
+// A path that can't be added is reported and the next one still loads.
+void LoadPaths(MainModel& model, const std::vector<std::string>& paths) {
+  for (std::string path : paths) {
+    try {
+      AddFile(model, path);
+    } catch (const RuntimeFault& fault) {
+      model.frontEnd.ShowFault(fault.what());
+    }
+  }
+  refreshPreview(model);
+}
+
+// A fault ends its step only; the steps after it still run.
+void RunSteps(MainModel& model, const std::vector<Step>& steps, std::ostream& notes) {
+  for (const Step& step : steps) {
+    try {
+      step.run(model, notes);
+    } catch (const RuntimeFault& fault) {
+      model.frontEnd.ShowFault(step.option + ": " + fault.what());
+    }
+  }
+}
+
+}  // namespace
+
+int RunInvocation(const Invocation& invocation, std::ostream& out, std::ostream& messages) {
+  CliFrontEnd frontEnd(messages, invocation.answerYes);
+  platform::PosixFileSystem fileSystem;
+  NoExifDates exifDates;
+
+  const StartupPaths paths = PrepareStartup(invocation.dataFolder);
+  MainModel model(fileSystem, frontEnd, exifDates);
+  LoadStartupSettings(model, paths);
+
+  LoadPaths(model, invocation.paths);
+  RunSteps(model, invocation.steps, messages);
+
+  if (invocation.json) {
+    // Nothing the current steps do needs a report entry; renaming on disk will.
+    const std::vector<std::string> report;
+    WriteJson(out, model, report);
+  } else {
+    WriteTable(out, model);
+  }
+  out.flush();
+  return frontEnd.FaultShown() ? kExitFault : kExitSuccess;
+}
+
+}  // namespace nomra::cli

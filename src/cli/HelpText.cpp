@@ -1,0 +1,67 @@
+#include "cli/HelpText.h"
+
+#include <sstream>
+#include <string>
+#include <string_view>
+
+#include "cli/OptionTable.h"
+
+namespace nomra::cli {
+
+namespace {
+
+constexpr std::size_t kLineWidth = 78;
+constexpr std::string_view kIndent = "      ";
+
+// Breaks a text at blanks so that no line is wider than the terminal's usual
+// 80 columns.
+void WriteWrapped(std::ostream& out, std::string_view text) {
+  std::istringstream words{std::string(text)};
+  std::string word;
+  std::size_t column = 0;
+  while (words >> word) {
+    if (column > 0 && column + 1 + word.size() > kLineWidth) {
+      out << '\n';
+      column = 0;
+    }
+    if (column == 0) {
+      out << kIndent;
+      column = kIndent.size();
+    } else {
+      out << ' ';
+      ++column;
+    }
+    out << word;
+    column += word.size();
+  }
+  out << '\n';
+}
+
+void WriteOption(std::ostream& out, const OptionSpec& option) {
+  out << "  ";
+  if (!option.shortName.empty()) out << option.shortName << ", ";
+  out << option.name;
+  if (!option.argument.empty()) out << ' ' << option.argument;
+  out << '\n';
+  WriteWrapped(out, option.help);
+  out << kIndent << "Example: nomra-cli " << option.example << '\n';
+}
+
+}  // namespace
+
+void WriteHelp(std::ostream& out) {
+  out << "Usage: nomra-cli [OPTIONS] PATH...\n\n";
+  WriteWrapped(out,
+               "Loads each PATH into the list (a folder with everything in it, subfolders included), then runs the "
+               "options in the order they are given, each one a step of its own, and prints the rows with a "
+               "pending name change, grouped by folder, and the counts. Paths and options may be mixed; all paths "
+               "load first. Everything after -- is a path. Nothing is renamed on disk.");
+  out << "\nOptions:\n";
+  for (const OptionSpec& option : OptionTable()) WriteOption(out, option);
+  out << "\nExit status:\n";
+  out << kIndent << "0  success\n";
+  out << kIndent << "1  a path or a step met a fault (it is printed; the run goes on)\n";
+  out << kIndent << "2  the command line is wrong; nothing ran\n";
+}
+
+}  // namespace nomra::cli

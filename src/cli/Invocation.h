@@ -1,0 +1,20 @@
+#pragma once
+#include <string>
+#include <vector>
+
+#include "cli/Step.h"
+
+namespace nomra::cli {
+
+// What one command line asks for.
+struct Invocation {
+  std::vector<std::string> paths;  // loaded first, in this order
+  std::vector<Step> steps;         // then run in this order
+  std::string dataFolder;          // empty: NOMRA_DATA_DIR or the default folder
+  bool json = false;
+  bool answerYes = false;
+  bool showHelp = false;
+  bool showVersion = false;
+};
+
+}  // namespace nomra::cli

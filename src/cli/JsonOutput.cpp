@@ -1,0 +1,38 @@
+#include "cli/JsonOutput.h"
+
+#include "cli/JsonText.h"
+
+namespace nomra::cli {
+
+namespace {
+
+void WriteRow(std::ostream& out, const FileEntry& row) {
+  out << "{\"key\":" << JsonString(row.key) << ",\"selected\":" << (row.selected ? "true" : "false")
+      << ",\"columns\":[";
+  for (int column = 0; column < kColumnCount; ++column) {
+    if (column > 0) out << ',';
+    out << JsonString(row[column]);
+  }
+  out << "]}";
+}
+
+}  // namespace
+
+void WriteJson(std::ostream& out, const MainModel& model, const std::vector<std::string>& report) {
+  out << "{\"rows\":[";
+  bool first = true;
+  model.list.ForEach([&](const FileEntry& row) {
+    if (!first) out << ",\n";
+    first = false;
+    WriteRow(out, row);
+  });
+  out << "],\n\"files\":" << model.list.Count() << ",\"folders\":" << model.folderCount
+      << ",\"changed\":" << model.changedCount << ",\"report\":[";
+  for (std::size_t i = 0; i < report.size(); ++i) {
+    if (i > 0) out << ',';
+    out << JsonString(report[i]);
+  }
+  out << "]}\n";
+}
+
+}  // namespace nomra::cli

@@ -1,0 +1,95 @@
+#include "cli/OptionTable.h"
+
+#include "cli/ArgumentValues.h"
+#include "cli/EditStep.h"
+#include "cli/ListSteps.h"
+#include "cli/UsageError.h"
+
+namespace nomra::cli {
+
+namespace {
+
+void AddStep(Invocation& invocation, std::string_view option, std::function<void(MainModel&, std::ostream&)> run) {
+  invocation.steps.push_back(Step{std::string(option), std::move(run)});
+}
+
+void AddSelect(Invocation& invocation, const std::string& argument) {
+  AddStep(invocation, "--select",
+          [patterns = SplitPatterns(argument)](MainModel& model, std::ostream&) { SelectMatching(model, patterns); });
+}
+
+void AddScope(Invocation& invocation, const std::string& argument) {
+  const std::optional<int> scope = ParseApplyScope(argument);
+  if (!scope) throw UsageError("--scope takes all, selected or unselected, not '" + argument + "'");
+  AddStep(invocation, "--scope", [scope = *scope](MainModel& model, std::ostream&) { SetApplyScope(model, scope); });
+}
+
+void AddSort(Invocation& invocation, const std::string& argument) {
+  const std::optional<SortRequest> request = ParseSortRequest(argument);
+  if (!request) {
+    throw UsageError("--sort takes a column name or a head number 1 to 21, optionally with :asc or :desc, not '" +
+                     argument + "'");
+  }
+  AddStep(invocation, "--sort",
+          [request = *request](MainModel& model, std::ostream&) { SortByColumnHead(model, request); });
+}
+
+void AddUndo(Invocation& invocation, const std::string&) { AddStep(invocation, "--undo", UndoOneStep); }
+
+void AddReject(Invocation& invocation, const std::string&) {
+  AddStep(invocation, "--reject", RejectPendingChanges);
+}
+
+void AddEdit(Invocation& invocation, const std::string& argument) {
+  AddStep(invocation, "--edit",
+          [argument](MainModel& model, std::ostream& notes) { EditNamesInScope(model, argument, notes); });
+}
+
+}  // namespace
+
+const std::vector<OptionSpec>& OptionTable() {
+  static const std::vector<OptionSpec> table{
+      {"--select", "", "PATTERN[;PATTERN...]",
+       "From here on exactly the rows whose name on disk matches one of the wildcards are selected, all others "
+       "not. Case is ignored; * stands for any run of characters, ? for one character, # for one digit, "
+       "[a-z] for one of a set.",
+       "--select 'IMG_0001.jpg;IMG_0002.jpg' --scope selected --edit 'Beach.jpg' ~/Pictures", AddSelect},
+      {"--scope", "", "all|selected|unselected",
+       "Which rows the name changes that follow act on: all rows (at start), the selected rows or the rows "
+       "that aren't selected.",
+       "--select '*.bak' --scope unselected --edit 'kept.txt' ./work", AddScope},
+      {"--sort", "", "HEAD[:asc|:desc]",
+       "Sorts the list by a column: folder, old, new, created, modified, exif, size, or unsorted for the order "
+       "of the step before; a column head number 1 to 21 works too. Numbers within names sort by their value.",
+       "--sort size:desc ~/Downloads", AddSort},
+      {"--undo", "", "", "Takes the last change of the pending names back, on every row whatever the scope.",
+       "--edit 'a.txt' --edit 'b.txt' --undo ./docs", AddUndo},
+      {"--reject", "", "", "Brings every pending name back to the name on disk and forgets the earlier ones.",
+       "--edit 'draft.txt' --reject ./docs", AddReject},
+      {"--edit", "", "NAME",
+       "Makes NAME the pending name of every row in the scope, as typed into the name field: the characters "
+       "\\ / : ? * < > | \" are dropped, and a name of only blanks is ignored.",
+       "--select 'report.txt' --scope selected --edit 'Report 2024.txt' ./docs", AddEdit},
+      {"--data-dir", "", "DIR",
+       "The folder of the settings and the rename protocol. Without it NOMRA_DATA_DIR is used, else "
+       "~/.local/share/NR-Software/Nomra/.",
+       "--data-dir /tmp/nomra-trial ./docs",
+       [](Invocation& invocation, const std::string& argument) { invocation.dataFolder = argument; }},
+      {"--json", "", "",
+       "Prints the whole list, every row with its 21 columns, and the counts as one JSON document instead of "
+       "the table of pending changes. A byte of a name that isn't UTF-8 shows as \\udcXX.",
+       "--json ./docs", [](Invocation& invocation, const std::string&) { invocation.json = true; }},
+      {"--yes", "", "",
+       "Answers Yes to every question. Without it each question gets its default answer, and every question "
+       "is noted on stderr with its answer.",
+       "--yes --edit 'draft.txt' --reject ./docs",
+       [](Invocation& invocation, const std::string&) { invocation.answerYes = true; }},
+      {"--help", "-h", "", "Shows this help and ends.", "--help",
+       [](Invocation& invocation, const std::string&) { invocation.showHelp = true; }},
+      {"--version", "", "", "Shows the version and ends.", "--version",
+       [](Invocation& invocation, const std::string&) { invocation.showVersion = true; }},
+  };
+  return table;
+}
+
+}  // namespace nomra::cli

@@ -1,0 +1,18 @@
+#pragma once
+#include <functional>
+#include <ostream>
+#include <string>
+
+#include "core/MainModel.h"
+
+namespace nomra::cli {
+
+// One option that acts on the list, kept in command-line order and run after
+// every path is loaded. Each action leaves the list refreshed, as each
+// command of the window does; notes for the user go to `notes`.
+struct Step {
+  std::string option;  // as typed, for fault messages
+  std::function<void(MainModel& model, std::ostream& notes)> run;
+};
+
+}  // namespace nomra::cli

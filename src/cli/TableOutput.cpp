@@ -1,0 +1,42 @@
+#include "cli/TableOutput.h"
+
+#include <map>
+#include <vector>
+
+#include "base/NumberText.h"
+
+namespace nomra::cli {
+
+namespace {
+
+std::string Counted(int count, const char* one, const char* many) {
+  return text::FormatGrouped(static_cast<std::uint64_t>(count)) + ' ' + (count == 1 ? one : many);
+}
+
+}  // namespace
+
+std::string SummaryLine(int files, int folders, int changed) {
+  return Counted(files, "file", "files") + ", " + Counted(folders, "folder", "folders") + ", " +
+         text::FormatGrouped(static_cast<std::uint64_t>(changed)) + " changed";
+}
+
+void WriteTable(std::ostream& out, const MainModel& model) {
+  // A sort by anything but the folder can mix folders; each still gets one heading.
+  std::vector<std::string> folders;
+  std::map<std::string, std::vector<const FileEntry*>> changedRows;
+  model.list.ForEach([&](const FileEntry& row) {
+    if (!row.HasPendingChange()) return;
+    auto [place, added] = changedRows.try_emplace(row[kColPath]);
+    if (added) folders.push_back(row[kColPath]);
+    place->second.push_back(&row);
+  });
+  for (const std::string& folder : folders) {
+    out << folder << '\n';
+    for (const FileEntry* row : changedRows[folder]) {
+      out << "  " << (*row)[kColOldName] << " -> " << (*row)[kColNewName] << '\n';
+    }
+  }
+  out << SummaryLine(model.list.Count(), model.folderCount, model.changedCount) << '\n';
+}
+
+}  // namespace nomra::cli

@@ -1,0 +1,43 @@
+// nomra-cli: the file list engine on the command line.
+#include <clocale>
+#include <exception>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/CliRun.h"
+#include "cli/CommandLineParser.h"
+#include "cli/ExitStatus.h"
+#include "cli/HelpText.h"
+#include "cli/UsageError.h"
+
+int main(int argc, char** argv) {
+  using namespace nomra::cli;
+  // Sizes and counts are grouped the way the user's locale groups numbers.
+  std::setlocale(LC_ALL, "");
+  std::ios::sync_with_stdio(false);
+
+  const std::vector<std::string> arguments(argv + 1, argv + argc);
+  Invocation invocation;
+  try {
+    invocation = ParseCommandLine(arguments);
+  } catch (const UsageError& error) {
+    std::cerr << "nomra-cli: " << error.what() << "\nTry 'nomra-cli --help'.\n";
+    return kExitUsage;
+  }
+  if (invocation.showHelp) {
+    WriteHelp(std::cout);
+    return kExitSuccess;
+  }
+  if (invocation.showVersion) {
+    std::cout << "nomra-cli " << NOMRA_VERSION << '\n';
+    return kExitSuccess;
+  }
+  try {
+    return RunInvocation(invocation, std::cout, std::cerr);
+  } catch (const std::exception& error) {
+    // Whatever the engine didn't expect still ends with a message, not an abort.
+    std::cerr << "nomra-cli: " << error.what() << '\n';
+    return kExitFault;
+  }
+}

@@ -1,0 +1,59 @@
+#include "base/DateText.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ctime>
+#include <optional>
+#include <string>
+
+namespace nomra::text {
+namespace {
+
+// Sets TZ for one test and puts the earlier value back afterwards.
+class ScopedTimeZone {
+ public:
+  explicit ScopedTimeZone(const char* zone) {
+    if (const char* old = std::getenv("TZ")) saved_ = old;
+    setenv("TZ", zone, 1);
+    tzset();
+  }
+  ~ScopedTimeZone() {
+    if (saved_) {
+      setenv("TZ", saved_->c_str(), 1);
+    } else {
+      unsetenv("TZ");
+    }
+    tzset();
+  }
+  ScopedTimeZone(const ScopedTimeZone&) = delete;
+  ScopedTimeZone& operator=(const ScopedTimeZone&) = delete;
+
+ private:
+  std::optional<std::string> saved_;
+};
+
+TEST(BaseDateText, FormatsTheEpochInUtc) {
+  ScopedTimeZone zone("UTC");
+  EXPECT_EQ(FormatListDate(0), "1970-01-01 00:00:00");
+}
+
+TEST(BaseDateText, FormatsAKnownMomentInUtc) {
+  ScopedTimeZone zone("UTC");
+  EXPECT_EQ(FormatListDate(1700000000), "2023-11-14 22:13:20");
+  EXPECT_EQ(FormatListDate(951782400), "2000-02-29 00:00:00");
+}
+
+TEST(BaseDateText, UsesLocalTime) {
+  // A fixed offset two hours east of UTC (POSIX writes the sign the other way).
+  ScopedTimeZone zone("XXT-2");
+  EXPECT_EQ(FormatListDate(1700000000), "2023-11-15 00:13:20");
+}
+
+TEST(BaseDateText, DefaultListDateHasTheListForm) {
+  ScopedTimeZone zone("UTC");
+  EXPECT_EQ(FormatListDate(315532800), kDefaultListDate);  // 1980-01-01 00:00:00 UTC
+}
+
+}  // namespace
+}  // namespace nomra::text
