@@ -31,16 +31,39 @@ struct FileEntry {
   int position = 0;  // 1-based, kept up to date by the list
   bool selected = false;
   RowColour colour = RowColour::Black;
-  std::array<std::string, kColumnCount> columns;
   std::string sizeTag;  // hidden text of column 7
 
-  std::string& operator[](int column) { return columns.at(static_cast<std::size_t>(column)); }
-  const std::string& operator[](int column) const { return columns.at(static_cast<std::size_t>(column)); }
+  // Columns 0 to 20; anything else throws std::out_of_range.
+  std::string& operator[](int column) { return columns_.at(Slot(column)); }
+  const std::string& operator[](int column) const { return columns_.at(Slot(column)); }
 
-  bool HasPendingChange() const { return columns[kColOldName] != columns[kColNewName]; }
+  bool HasPendingChange() const { return columns_[kColOldName] != columns_[kColNewName]; }
+
+  // Each history level takes the one before it, the oldest is dropped, and
+  // column 9 takes `newest`.
+  void PushHistory(const std::string& newest) {
+    historyStart_ = static_cast<unsigned char>((historyStart_ + kHistoryColumns - 1) % kHistoryColumns);
+    (*this)[kColHistory0] = newest;
+  }
+  // Each history level takes the one after it; column 19 is emptied.
+  void PopHistory() {
+    historyStart_ = static_cast<unsigned char>((historyStart_ + 1) % kHistoryColumns);
+    (*this)[kColHistoryLast].clear();
+  }
 
  private:
   friend class FileList;
+  static constexpr int kHistoryColumns = kColHistoryLast - kColHistory0 + 1;
+
+  // Columns 9 to 19 lie in a ring, so that a new history level costs one
+  // text per row instead of eleven, whatever the number of rows.
+  std::size_t Slot(int column) const {
+    if (column < kColHistory0 || column > kColHistoryLast) return static_cast<std::size_t>(column);
+    return static_cast<std::size_t>(kColHistory0 + (column - kColHistory0 + historyStart_) % kHistoryColumns);
+  }
+
+  std::array<std::string, kColumnCount> columns_;
+  unsigned char historyStart_ = 0;
   std::string foldedKey_;  // lower-cased key, only where the volume ignores case
 };
 

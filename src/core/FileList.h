@@ -52,16 +52,33 @@ class FileList {
   int sortKey = 0;
   int sortOrder = 0;
 
+  // Visits the rows in order. Rows lie wherever they were allocated, so in
+  // sorted order each visit would wait for memory; asking for the rows a few
+  // places ahead keeps a walk over 100,000 rows from doing that.
   template <typename F>
   void ForEach(F&& f) {
-    for (auto& row : rows_) f(*row);
+    const std::size_t count = rows_.size();
+    for (std::size_t i = 0; i < count; ++i) {
+      if (i + kPrefetchDistance < count) Prefetch(rows_[i + kPrefetchDistance].get());
+      f(*rows_[i]);
+    }
   }
   template <typename F>
   void ForEach(F&& f) const {
-    for (const auto& row : rows_) f(static_cast<const FileEntry&>(*row));
+    const std::size_t count = rows_.size();
+    for (std::size_t i = 0; i < count; ++i) {
+      if (i + kPrefetchDistance < count) Prefetch(rows_[i + kPrefetchDistance].get());
+      f(static_cast<const FileEntry&>(*rows_[i]));
+    }
   }
 
  private:
+  static constexpr std::size_t kPrefetchDistance = 8;
+  static void Prefetch(const FileEntry* entry) {
+    const char* bytes = reinterpret_cast<const char*>(entry);
+    for (std::size_t offset = 0; offset < sizeof(FileEntry); offset += 64) __builtin_prefetch(bytes + offset);
+  }
+
   std::string_view IndexKeyOf(FileEntry& entry);
   void Renumber(std::size_t from);
 

@@ -14,10 +14,7 @@ bool mnuUndo(MainModel& model) {
   model.frontEnd.SetBusy(true);
   model.list.ForEach([](FileEntry& row) {
     row[kColNewName] = row[kColHistoryFirst];
-    for (int column = kColHistory0; column < kColHistoryLast; ++column) {
-      row[column] = std::move(row[column + 1]);
-    }
-    row[kColHistoryLast].clear();
+    row.PopHistory();
   });
   refreshPreview(model);
   model.frontEnd.SetBusy(false);

@@ -12,7 +12,12 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 std::string NaturalSortKey(std::string_view text) {
   std::string out;
-  out.reserve(text.size() + kDigits);
+  AssignNaturalSortKey(out, text);
+  return out;
+}
+
+void AssignNaturalSortKey(std::string& out, std::string_view text) {
+  out.clear();
   std::size_t i = 0;
   while (i < text.size()) {
     if (!IsDigit(text[i])) {
@@ -29,7 +34,6 @@ std::string NaturalSortKey(std::string_view text) {
     out.append(value);
     i = end;
   }
-  return out;
 }
 
 }  // namespace nomra

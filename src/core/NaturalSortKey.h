@@ -8,4 +8,7 @@ namespace nomra {
 // value in 15 digits, so "9" sorts before "10". Other characters stay.
 std::string NaturalSortKey(std::string_view text);
 
+// The same, written into `out`, whose buffer is reused.
+void AssignNaturalSortKey(std::string& out, std::string_view text);
+
 }  // namespace nomra

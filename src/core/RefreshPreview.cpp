@@ -13,12 +13,7 @@ namespace {
 
 // Each history level takes the one before it; column 9 takes the new name.
 void PushHistory(FileList& list) {
-  list.ForEach([](FileEntry& row) {
-    for (int column = kColHistoryLast; column >= kColHistoryFirst; --column) {
-      row[column] = std::move(row[column - 1]);
-    }
-    row[kColHistory0] = row[kColNewName];
-  });
+  list.ForEach([](FileEntry& row) { row.PushHistory(row[kColNewName]); });
 }
 
 // Column 20 as 12 digits, written in place: this runs for every row of
@@ -32,17 +27,21 @@ void SetListPosition(std::string& column, int position) {
   column.assign(digits, sizeof digits);
 }
 
-int CountFolders(MainModel& model) {
-  FileList& list = model.list;
-  if (list.Empty()) return 0;
-  // Rows go into folder order, then back into the user's order; a saved
-  // column of 0 is no sort head, so the rows stay in folder order.
-  SortInFolderOrderThenByHead(model, list.sortKey + 1);
-  std::unordered_set<std::string_view> folders;
-  folders.reserve(static_cast<std::size_t>(list.Count()) / 8);
-  list.ForEach([&](const FileEntry& row) { folders.insert(row[kColPath]); });
-  return static_cast<int>(folders.size());
-}
+// Distinct folders of the rows; rows of one folder mostly come together, so
+// a row with the folder of the one before costs no look-up.
+class FolderCounter {
+ public:
+  void Add(const std::string& folder) {
+    if (last_ != nullptr && *last_ == folder) return;
+    last_ = &folder;
+    folders_.insert(folder);
+  }
+  int Count() const { return static_cast<int>(folders_.size()); }
+
+ private:
+  const std::string* last_ = nullptr;
+  std::unordered_set<std::string_view> folders_;
+};
 
 int CountUndoLevels(const FileList& list) {
   if (list.Empty()) return 0;
@@ -90,8 +89,10 @@ void refreshPreview(MainModel& model) {
 
   bool newState = false;
   int position = 0;
+  FolderCounter folders;
   list.ForEach([&](FileEntry& row) {
     ++position;
+    folders.Add(row[kColPath]);
     row[kColDisplay] = model.iconView ? row[kColNewName] : std::string();
     if (row[kColOldName] == row[kColNewName]) {
       row.colour = RowColour::Black;
@@ -105,7 +106,10 @@ void refreshPreview(MainModel& model) {
   });
 
   if (newState) PushHistory(list);
-  model.folderCount = CountFolders(model);
+  model.folderCount = folders.Count();
+  // Rows go into folder order, then back into the user's order; a saved
+  // column of 0 is no sort head, so the rows stay in folder order.
+  if (!list.Empty()) SortInFolderOrderThenByHead(model, list.sortKey + 1);
 
   if (list.Empty()) model.selectedScriptLabel = model.statusTexts[5];
   model.undoLevels = CountUndoLevels(list);

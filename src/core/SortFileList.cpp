@@ -15,17 +15,46 @@ namespace {
 constexpr int kLastMenuHead = 8;
 constexpr int kUnsortedHead = 21;
 
-// Lower-cases each text once into one buffer, so that comparisons are plain
-// byte compares over memory that lies together; the byte order of UTF-8 is
-// the order of code points.
-class FoldedTexts {
+// How a head sorts: the column whose text is compared, and how column 8 is
+// filled first when the head sorts by it.
+enum class SortText { None, Natural, SizeTag, Direct };
+
+struct SortPlan {
+  SortText kind = SortText::None;
+  int sourceColumn = -1;
+};
+
+SortPlan PlanForHead(int columnHead) {
+  const int c = columnHead - 1;
+  if (c >= kColPath && c <= kColExifDate) return {SortText::Natural, c};
+  if (c == kColSize) return {SortText::SizeTag, c};
+  if (c == kColListPosition) return {SortText::Direct, kColListPosition};
+  return {};
+}
+
+// One pass over the rows: column 8 is written where the plan says so, and the
+// text to compare is lower-cased into one buffer, so that the sort compares
+// plain bytes over memory that lies together (the byte order of UTF-8 is the
+// order of code points). Each row is visited once: with 100,000 rows, a visit
+// costs more than the work done in it.
+class SortKeys {
  public:
-  FoldedTexts(FileList& list, int column) {
+  SortKeys(FileList& list, const SortPlan& plan) {
+    rows_.reserve(static_cast<std::size_t>(list.Count()));
     std::vector<std::size_t> ends;
     ends.reserve(static_cast<std::size_t>(list.Count()));
     list.ForEach([&](FileEntry& row) {
-      text::AppendLowerCase(buffer_, row[column]);
+      const std::string* text = &row[plan.sourceColumn];
+      if (plan.kind == SortText::Natural) {
+        AssignNaturalSortKey(row[kColSortKey], row[plan.sourceColumn]);
+        text = &row[kColSortKey];
+      } else if (plan.kind == SortText::SizeTag) {
+        row[kColSortKey] = row.sizeTag;
+        text = &row[kColSortKey];
+      }
+      text::AppendLowerCase(buffer_, *text);
       ends.push_back(buffer_.size());
+      rows_.push_back(&row);
     });
     views_.reserve(ends.size());
     std::size_t from = 0;
@@ -34,75 +63,57 @@ class FoldedTexts {
       from = end;
     }
   }
-  std::string_view operator[](int index) const { return views_[static_cast<std::size_t>(index)]; }
+  std::string_view Text(int index) const { return views_[static_cast<std::size_t>(index)]; }
+  const FileEntry& Row(int index) const { return *rows_[static_cast<std::size_t>(index)]; }
+  std::size_t Size() const { return rows_.size(); }
 
  private:
   std::string buffer_;
   std::vector<std::string_view> views_;
+  std::vector<const FileEntry*> rows_;
 };
 
 // The rows as the list control sorts them: text compared without regard to
 // case, in the list's direction, equal texts in their previous order. With
 // a tie column, equal texts go by that column first, in the same direction;
 // ties are rare, so that column is compared only when they occur.
-void SortRows(FileList& list, int column, int tieColumn) {
-  const FoldedTexts primary(list, column);
-  std::vector<const FileEntry*> rows;
-  rows.reserve(static_cast<std::size_t>(list.Count()));
-  list.ForEach([&](const FileEntry& row) { rows.push_back(&row); });
+void SortRows(FileList& list, const SortPlan& plan, int tieColumn) {
+  const SortKeys keys(list, plan);
   const bool descending = list.sortOrder == 1;
-  std::vector<int> order(rows.size());
+  std::vector<int> order(keys.Size());
   for (std::size_t i = 0; i < order.size(); ++i) order[i] = static_cast<int>(i);
-  std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
-    int cmp = primary[a].compare(primary[b]);
-    if (cmp == 0 && tieColumn >= 0) {
-      cmp = text::CompareNoCase((*rows[static_cast<std::size_t>(a)])[tieColumn],
-                                (*rows[static_cast<std::size_t>(b)])[tieColumn]);
-    }
+  const auto before = [&](int a, int b) {
+    int cmp = keys.Text(a).compare(keys.Text(b));
+    if (cmp == 0 && tieColumn >= 0) cmp = text::CompareNoCase(keys.Row(a)[tieColumn], keys.Row(b)[tieColumn]);
     return descending ? cmp > 0 : cmp < 0;
-  });
+  };
+  // A refresh mostly finds the rows in order already; one look settles it.
+  if (std::is_sorted(order.begin(), order.end(), before)) return;
+  std::stable_sort(order.begin(), order.end(), before);
   list.Reorder(order);
-}
-
-// Column 8 gets the sort text of the head's column; the answer is the column
-// to sort by, or -1 for a head that doesn't sort.
-int PrepareSortColumn(FileList& list, int c) {
-  if (c >= kColPath && c <= kColExifDate) {
-    list.ForEach([&](FileEntry& row) { row[kColSortKey] = NaturalSortKey(row[c]); });
-    return kColSortKey;
-  }
-  if (c == kColSize) {
-    list.ForEach([&](FileEntry& row) { row[kColSortKey] = row.sizeTag; });
-    return kColSortKey;
-  }
-  if (c == kColListPosition) return kColListPosition;
-  return -1;
 }
 
 }  // namespace
 
-void SortRowsByColumn(FileList& list, int column) { SortRows(list, column, -1); }
+void SortRowsByColumn(FileList& list, int column) { SortRows(list, {SortText::Direct, column}, -1); }
 
 void sortFileList(MainModel& model, int columnHead) {
-  const int c = columnHead - 1;
+  const SortPlan plan = PlanForHead(columnHead);
+  if (plan.kind == SortText::None) return;
   model.frontEnd.SetBusy(true);
-  const int internalColumn = PrepareSortColumn(model.list, c);
-  if (internalColumn >= 0) {
-    SortRows(model.list, internalColumn, -1);
-    model.list.sortKey = c;
-  }
+  SortRows(model.list, plan, -1);
+  model.list.sortKey = columnHead - 1;
   model.frontEnd.SetBusy(false);
 }
 
 void SortInFolderOrderThenByHead(MainModel& model, int columnHead) {
-  const int c = columnHead - 1;
+  const SortPlan plan = PlanForHead(columnHead);
   model.frontEnd.SetBusy(true);
-  const int internalColumn = PrepareSortColumn(model.list, c);
-  if (internalColumn >= 0) {
-    SortRows(model.list, internalColumn, kColPath);
-    model.list.sortKey = c;
+  if (plan.kind == SortText::None) {
+    SortRowsByColumn(model.list, kColPath);
   } else {
-    SortRows(model.list, kColPath, -1);
+    SortRows(model.list, plan, kColPath);
+    model.list.sortKey = columnHead - 1;
   }
   model.frontEnd.SetBusy(false);
 }
