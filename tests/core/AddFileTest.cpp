@@ -19,7 +19,7 @@ namespace {
 class AddFileTest : public testing::ListTest {};
 
 // Reads dates as a file system that keeps none would.
-class DatelessFileSystem final : public platform::FileSystem {
+class DatelessFileSystem final : public testing::ForwardingFileSystem {
  public:
   platform::FileStatus Status(const std::string& path) override {
     platform::FileStatus status = real.Status(path);
@@ -27,12 +27,6 @@ class DatelessFileSystem final : public platform::FileSystem {
     status.modified.reset();
     return status;
   }
-  std::string AbsolutePath(const std::string& path) override { return real.AbsolutePath(path); }
-  bool ListFolder(const std::string& folder, const EntryVisitor& visit) override {
-    return real.ListFolder(folder, visit);
-  }
-  bool IsCaseInsensitiveFolder(const std::string& folder) override { return real.IsCaseInsensitiveFolder(folder); }
-  platform::PosixFileSystem real;
 };
 
 class RecordingExifReader final : public ExifDateReader {
@@ -150,16 +144,12 @@ TEST_F(AddFileTest, LinkToAFolderIsNotWalked) {
 TEST(AddFileFolders, UnreadableFolderIsPassedOver) {
   // Refuses to list one folder, as a folder without read permission does for
   // anyone but root.
-  class RefusingFileSystem final : public platform::FileSystem {
+  class RefusingFileSystem final : public testing::ForwardingFileSystem {
    public:
-    platform::FileStatus Status(const std::string& path) override { return real.Status(path); }
-    std::string AbsolutePath(const std::string& path) override { return real.AbsolutePath(path); }
     bool ListFolder(const std::string& folder, const EntryVisitor& visit) override {
       if (folder.find("/closed") != std::string::npos) return false;
       return real.ListFolder(folder, visit);
     }
-    bool IsCaseInsensitiveFolder(const std::string& folder) override { return real.IsCaseInsensitiveFolder(folder); }
-    platform::PosixFileSystem real;
   };
   testing::TempFolder temp;
   RefusingFileSystem fs;

@@ -8,24 +8,11 @@
 #include "core/MainModel.h"
 #include "core/RefreshPreview.h"
 #include "platform/posix/PosixFileSystem.h"
+#include "support/ForwardingFileSystem.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
 
 namespace nomra::testing {
-
-// The real file system, but every folder answers as a FAT card would: names
-// compare without regard to case.
-class CaseInsensitiveFileSystem final : public platform::FileSystem {
- public:
-  platform::FileStatus Status(const std::string& path) override { return real.Status(path); }
-  std::string AbsolutePath(const std::string& path) override { return real.AbsolutePath(path); }
-  bool ListFolder(const std::string& folder, const EntryVisitor& visit) override {
-    return real.ListFolder(folder, visit);
-  }
-  bool IsCaseInsensitiveFolder(const std::string&) override { return true; }
-
-  platform::PosixFileSystem real;
-};
 
 // Records the rows handed over for taking their changes.
 class RecordingCommitter final : public RowCommitter {
