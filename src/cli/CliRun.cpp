@@ -5,6 +5,7 @@
 
 #include "base/Fault.h"
 #include "cli/CliFrontEnd.h"
+#include "cli/CommitStep.h"
 #include "cli/ExitStatus.h"
 #include "cli/JsonOutput.h"
 #include "cli/TableOutput.h"
@@ -51,19 +52,26 @@ int RunInvocation(const Invocation& invocation, std::ostream& out, std::ostream&
   const StartupPaths paths = PrepareStartup(invocation.dataFolder);
   MainModel model(fileSystem, frontEnd, exifDates);
   LoadStartupSettings(model, paths);
+  if (invocation.protocolRenames) model.protocolRenames = *invocation.protocolRenames;
 
   LoadPaths(model, invocation.paths);
   RunSteps(model, invocation.steps, messages);
+  std::vector<ReportRow> report;
+  if (invocation.commit) {
+    try {
+      report = CommitPendingChanges(model, messages);
+    } catch (const RuntimeFault& fault) {
+      model.frontEnd.ShowFault(std::string("--commit: ") + fault.what());
+    }
+  }
 
   if (invocation.json) {
-    // Nothing the current steps do needs a report entry; renaming on disk will.
-    const std::vector<std::string> report;
     WriteJson(out, model, report);
   } else {
     WriteTable(out, model);
   }
   out.flush();
-  return frontEnd.FaultShown() ? kExitFault : kExitSuccess;
+  return frontEnd.FaultShown() || !report.empty() ? kExitFault : kExitSuccess;
 }
 
 }  // namespace nomra::cli

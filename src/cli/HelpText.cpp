@@ -60,7 +60,8 @@ void WriteHelp(std::ostream& out) {
   for (const OptionSpec& option : OptionTable()) WriteOption(out, option);
   out << "\nExit status:\n";
   out << kIndent << "0  success\n";
-  out << kIndent << "1  a path or a step met a fault (it is printed; the run goes on)\n";
+  out << kIndent << "1  a path or a step met a fault, or --commit left a row not renamed\n";
+  out << kIndent << "   (each is printed; the run goes on)\n";
   out << kIndent << "2  the command line is wrong; nothing ran\n";
 }
 

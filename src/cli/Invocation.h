@@ -1,4 +1,5 @@
 #pragma once
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,8 @@ struct Invocation {
   std::vector<std::string> paths;  // loaded first, in this order
   std::vector<Step> steps;         // then run in this order
   std::string dataFolder;          // empty: NOMRA_DATA_DIR or the default folder
+  bool commit = false;             // take the pending names to disk after every step
+  std::optional<bool> protocolRenames;  // overrides the setting when given
   bool json = false;
   bool answerYes = false;
   bool showHelp = false;

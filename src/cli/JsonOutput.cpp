@@ -16,9 +16,14 @@ void WriteRow(std::ostream& out, const FileEntry& row) {
   out << "]}";
 }
 
+void WriteReportRow(std::ostream& out, const ReportRow& row) {
+  out << "{\"number\":" << row.number << ",\"key\":" << JsonString(row.rowKey)
+      << ",\"message\":" << JsonString(row.Describe()) << ",\"textKey\":" << JsonString(row.textKey) << '}';
+}
+
 }  // namespace
 
-void WriteJson(std::ostream& out, const MainModel& model, const std::vector<std::string>& report) {
+void WriteJson(std::ostream& out, const MainModel& model, const std::vector<ReportRow>& report) {
   out << "{\"rows\":[";
   bool first = true;
   model.list.ForEach([&](const FileEntry& row) {
@@ -29,8 +34,8 @@ void WriteJson(std::ostream& out, const MainModel& model, const std::vector<std:
   out << "],\n\"files\":" << model.list.Count() << ",\"folders\":" << model.folderCount
       << ",\"changed\":" << model.changedCount << ",\"report\":[";
   for (std::size_t i = 0; i < report.size(); ++i) {
-    if (i > 0) out << ',';
-    out << JsonString(report[i]);
+    if (i > 0) out << ",\n";
+    WriteReportRow(out, report[i]);
   }
   out << "]}\n";
 }

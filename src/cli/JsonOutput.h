@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "commit/ReportRow.h"
 #include "core/MainModel.h"
 
 namespace nomra::cli {
@@ -10,7 +11,8 @@ namespace nomra::cli {
 // The whole list as one JSON document, rows in list order:
 // {"rows":[{"key":…,"selected":…,"columns":[21 texts]},…],
 //  "files":N,"folders":F,"changed":C,"report":[…]}
-// `report` holds what the run has to tell beyond the list, one text each.
-void WriteJson(std::ostream& out, const MainModel& model, const std::vector<std::string>& report);
+// `report` holds the renames --commit couldn't make, each as
+// {"number":N,"key":…,"message":…,"textKey":…}.
+void WriteJson(std::ostream& out, const MainModel& model, const std::vector<ReportRow>& report);
 
 }  // namespace nomra::cli

@@ -70,14 +70,31 @@ const std::vector<OptionSpec>& OptionTable() {
        "Makes NAME the pending name of every row in the scope, as typed into the name field: the characters "
        "\\ / : ? * < > | \" are dropped, and a name of only blanks is ignored.",
        "--select 'report.txt' --scope selected --edit 'Report 2024.txt' ./docs", AddEdit},
+      {"--commit", "", "",
+       "After every other step, renames the files on disk to their pending names, all in one batch: chains, "
+       "swaps and cycles of names work, no file is ever overwritten, and a row whose new name stays taken is "
+       "left as it is. Each rename that didn't happen is printed on stderr and makes the exit status 1. "
+       "Without --commit nothing on disk changes.",
+       "--select 'IMG_0001.jpg' --scope selected --edit 'Beach.jpg' --commit ~/Pictures",
+       [](Invocation& invocation, const std::string&) { invocation.commit = true; }},
+      {"--protocol", "", "",
+       "Writes each rename of --commit to the rename protocol renamed.nrp in the data folder, whatever the "
+       "setting protren says.",
+       "--edit 'Report.txt' --commit --protocol ./docs/report.txt",
+       [](Invocation& invocation, const std::string&) { invocation.protocolRenames = true; }},
+      {"--no-protocol", "", "", "Keeps the renames of --commit out of the rename protocol, whatever the setting "
+       "protren says.",
+       "--edit 'Report.txt' --commit --no-protocol ./docs/report.txt",
+       [](Invocation& invocation, const std::string&) { invocation.protocolRenames = false; }},
       {"--data-dir", "", "DIR",
        "The folder of the settings and the rename protocol. Without it NOMRA_DATA_DIR is used, else "
        "~/.local/share/NR-Software/Nomra/.",
        "--data-dir /tmp/nomra-trial ./docs",
        [](Invocation& invocation, const std::string& argument) { invocation.dataFolder = argument; }},
       {"--json", "", "",
-       "Prints the whole list, every row with its 21 columns, and the counts as one JSON document instead of "
-       "the table of pending changes. A byte of a name that isn't UTF-8 shows as \\udcXX.",
+       "Prints the whole list, every row with its 21 columns, the counts and the renames --commit couldn't "
+       "make as one JSON document instead of the table of pending changes. A byte of a name that isn't UTF-8 "
+       "shows as \\udcXX.",
        "--json ./docs", [](Invocation& invocation, const std::string&) { invocation.json = true; }},
       {"--yes", "", "",
        "Answers Yes to every question. Without it each question gets its default answer, and every question "

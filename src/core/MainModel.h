@@ -31,6 +31,11 @@ struct MainModel {
   // 0 guards undoing pending names, 1 taking changes, 2 rejecting changes.
   std::array<bool, 3> securityQuestions{};
   bool expertMode = false;
+  // The per-user data folder, ending with the separator; the rename protocol
+  // lives there.
+  std::string dataFolder;
+  // Whether each rename is written to the protocol.
+  bool protocolRenames = false;
 
   // Texts of the language file's MsgStat00 to MsgStat10.
   std::array<std::string, 11> statusTexts{};

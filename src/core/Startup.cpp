@@ -56,6 +56,8 @@ void LoadStartupSettings(MainModel& model, const StartupPaths& paths) {
   model.expertMode = ReadFlag(model, file, kSettingsSection, kExpertModeKey, false);
   model.checkExistence = ReadFlag(model, file, kSettingsSection, kCheckExistenceKey, false);
   model.loadExifDates = ReadFlag(model, file, kSettingsSection, kLoadExifDatesKey, true);
+  model.protocolRenames = ReadFlag(model, file, kSettingsSection, kProtocolRenamesKey, false);
+  model.dataFolder = paths.dataFolder;
   if (paths.dataFolderUsable) CreateProtocolIfMissing(paths.dataFolder);
 }
 

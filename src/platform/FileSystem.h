@@ -24,6 +24,11 @@ struct FileStatus {
   int error = 0;                        // errno of a failed query
 };
 
+struct RenameResult {
+  bool ok = false;
+  int error = 0;  // errno of a refused rename; EEXIST when the target is taken
+};
+
 // The operating-system services that the list engine needs. The engine sees
 // only this interface; tests pass fakes.
 class FileSystem {
@@ -44,6 +49,15 @@ class FileSystem {
   // Whether names in this folder compare without regard to case (FAT, exFAT,
   // CIFS, casefolded folders). Answers are remembered per folder.
   virtual bool IsCaseInsensitiveFolder(const std::string& folder) = 0;
+
+  // Gives a file a new name, never replacing anything: a taken target fails
+  // with EEXIST. Both paths are full paths.
+  virtual RenameResult RenameNoReplace(const std::string& from, const std::string& to) = 0;
+
+  // After a rename that reported success: whether `to` now exists under
+  // exactly that spelling and `from` no longer does. A file system may say
+  // it renamed and have changed nothing.
+  virtual bool ConfirmRenamed(const std::string& from, const std::string& to) = 0;
 };
 
 }  // namespace nomra::platform

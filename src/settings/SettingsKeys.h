@@ -38,5 +38,6 @@ inline constexpr char kSecurityQuestion3Key[] = "secquest3";
 inline constexpr char kExpertModeKey[] = "ExpertMode";
 inline constexpr char kCheckExistenceKey[] = "CheckExistence";
 inline constexpr char kLoadExifDatesKey[] = "LoadEXIFDates";
+inline constexpr char kProtocolRenamesKey[] = "protren";
 
 }  // namespace nomra::settings

@@ -15,6 +15,12 @@ class ForwardingFileSystem : public platform::FileSystem {
     return real.ListFolder(folder, visit);
   }
   bool IsCaseInsensitiveFolder(const std::string& folder) override { return real.IsCaseInsensitiveFolder(folder); }
+  platform::RenameResult RenameNoReplace(const std::string& from, const std::string& to) override {
+    return real.RenameNoReplace(from, to);
+  }
+  bool ConfirmRenamed(const std::string& from, const std::string& to) override {
+    return real.ConfirmRenamed(from, to);
+  }
 
  protected:
   platform::PosixFileSystem real;

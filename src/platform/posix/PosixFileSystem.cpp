@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "base/CaseMap.h"
+#include "platform/posix/NoReplaceRename.h"
 
 namespace nomra::platform {
 
@@ -173,6 +174,17 @@ bool ProbeCaseInsensitiveFolder(const std::string& folder) {
   if (HasCasefoldAttribute(folder)) return true;
   if (type == kFuseMagic) return LookupIgnoresCase(folder);
   return false;
+}
+
+RenameResult PosixFileSystem::RenameNoReplace(const std::string& from, const std::string& to) {
+  return RenameWithoutReplacing(from, to);
+}
+
+// Checked after every rename, whatever the volume: two look-ups in a folder
+// the rename has just brought into the cache; the folder is read only where
+// both names reach one file.
+bool PosixFileSystem::ConfirmRenamed(const std::string& from, const std::string& to) {
+  return ConfirmRename(from, to);
 }
 
 std::string NormalizeAbsolutePath(const std::string& path, const std::string& workingFolder) {

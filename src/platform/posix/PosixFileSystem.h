@@ -12,6 +12,8 @@ class PosixFileSystem final : public FileSystem {
   std::string AbsolutePath(const std::string& path) override;
   bool ListFolder(const std::string& folder, const EntryVisitor& visit) override;
   bool IsCaseInsensitiveFolder(const std::string& folder) override;
+  RenameResult RenameNoReplace(const std::string& from, const std::string& to) override;
+  bool ConfirmRenamed(const std::string& from, const std::string& to) override;
 
  private:
   bool CaseRuleOf(const std::string& folder);

@@ -1,0 +1,111 @@
+#include "commit/CommitExecution.h"
+
+#include "base/Fault.h"
+#include "base/Helpers.h"
+#include "commit/DiskRename.h"
+
+namespace nomra {
+
+namespace {
+
+constexpr int kRowsPerPump = 100;
+
+void ChangeKeyOrFault(FileList& list, FileEntry& row, const std::string& key) {
+  // RenameOnDisk refuses a name another row holds, so this can't fail.
+  if (!list.ChangeKey(row, key)) throw RuntimeFault("Two rows of the list came to hold " + key);
+}
+
+// The row's columns after its file was renamed: the new name is the name on
+// disk, and the history of pending names starts again from it.
+void TakeNewName(FileEntry& row) {
+  row[kColOldName] = row[kColNewName];
+  row[kColHistory0] = row[kColNewName];
+  for (int column = kColHistoryFirst; column <= kColHistoryLast; ++column) row[column].clear();
+}
+
+void ShowProgress(MainModel& model) {
+  ++model.statusCounter;
+  model.frontEnd.SetStatusText(model.statusTexts[3] + " " + std::to_string(model.statusCounter));
+}
+
+void RenameRow(CommitBatch& batch, FileEntry& row, OrderedPathMap& temporaries) {
+  MainModel& model = batch.model;
+  const std::string folder = AddBackslash(row[kColPath]);
+  const std::string src = folder + row[kColOldName];
+  std::string dst = folder + row[kColNewName];
+  if (const auto refused = RefuseName(row[kColNewName])) {
+    batch.Fail(row.key, *refused, src, dst);
+    return;
+  }
+  if (model.fileSystem.Status(dst).kind == platform::EntryKind::File) {
+    dst += kTemporaryMark;
+    temporaries.Set(dst, dst);
+  }
+  if (const auto failure = RenameOnDisk(model, row, src, dst)) {
+    batch.Fail(row.key, *failure, src, dst);
+    return;
+  }
+  ShowProgress(model);
+  batch.RecordRename(row);
+  ChangeKeyOrFault(model.list, row, dst);
+  batch.result.renamed.push_back(row.key);
+  TakeNewName(row);
+}
+
+void RenamePendingRows(CommitBatch& batch, const OrderedPathMap& blocked, OrderedPathMap& temporaries) {
+  FileList& list = batch.model.list;
+  for (int position = 1; position <= list.Count(); ++position) {
+    if (position % kRowsPerPump == 0) batch.model.frontEnd.Pump();
+    FileEntry& row = list.Item(position);
+    if (!row.HasPendingChange() || blocked.Contains(row.key)) continue;
+    RenameRow(batch, row, temporaries);
+  }
+}
+
+// Each temporary name loses its mark. The key of the row changes with it;
+// the list of renamed keys keeps the temporary form.
+void ReleaseTemporaryNames(CommitBatch& batch, const OrderedPathMap& temporaries) {
+  FileList& list = batch.model.list;
+  temporaries.ForEach([&](const std::string& temporary) {
+    const std::string final = temporary.substr(0, temporary.size() - kTemporaryMark.size());
+    FileEntry* row = list.Find(temporary);
+    if (row == nullptr) {
+      // The move into the temporary name failed and was reported. A file of
+      // that name would be none of the list's, so it is left alone and the
+      // rename reported as the missing file it would have met.
+      batch.Fail("", Failure{FailureKind::PathNotUsable, {}}, temporary, final);
+      return;
+    }
+    if (const auto failure = RenameOnDisk(batch.model, *row, temporary, final)) {
+      batch.Fail(row->key, *failure, temporary, final);
+      return;
+    }
+    ChangeKeyOrFault(list, *row, final);
+  });
+}
+
+// The key of each report row comes from the row at the running number of
+// the blocked list, not from the blocked row itself; nothing but the report
+// reads it.
+void ReportBlockedRows(CommitBatch& batch, const OrderedPathMap& blocked) {
+  FileList& list = batch.model.list;
+  int number = 0;
+  blocked.ForEach([&](const std::string& key) {
+    ++number;
+    const FileEntry* row = list.Find(key);
+    const std::string dst = row == nullptr ? std::string() : AddBackslash((*row)[kColPath]) + (*row)[kColNewName];
+    const std::string reportKey = number <= list.Count() ? list.Item(number).key : key;
+    batch.Fail(reportKey, Failure{FailureKind::TargetExists, {}}, key, dst);
+  });
+}
+
+}  // namespace
+
+void ExecuteCommit(CommitBatch& batch, const OrderedPathMap& blocked) {
+  OrderedPathMap temporaries(batch.keys);
+  RenamePendingRows(batch, blocked, temporaries);
+  ReleaseTemporaryNames(batch, temporaries);
+  ReportBlockedRows(batch, blocked);
+}
+
+}  // namespace nomra

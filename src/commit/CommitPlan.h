@@ -1,0 +1,15 @@
+#pragma once
+#include "commit/CommitBatch.h"
+#include "commit/CommitSets.h"
+
+namespace nomra {
+
+// Decides, before anything is renamed, which rows of the whole list must not
+// be: a row whose new name another row keeps or claims first, or a file
+// outside the list holds, and then every row that waits on such a row for
+// its name to become free. Puts them into `blocked` by key, in the order
+// they were found. A pending row whose file is gone from its folder is
+// reported (without names) and still tried later; its name stays taken.
+void PlanCommit(CommitBatch& batch, OrderedPathMap& blocked);
+
+}  // namespace nomra

@@ -1,0 +1,23 @@
+#pragma once
+#include <functional>
+
+#include "commit/CommitResult.h"
+#include "commit/LocalClock.h"
+
+namespace nomra {
+
+// The two answers of the not-renamed report.
+enum class NotRenamedChoice {
+  NoAction,       // the default
+  RemoveRenamed,  // the renamed rows leave the list, the others stay
+};
+
+// What a commit needs from outside the engine beyond the model.
+struct CommitServices {
+  LocalClock clock = LocalTimeNow;
+  // Shows the report of a commit that left rows not renamed and returns the
+  // user's choice; unset, the choice is NoAction.
+  std::function<NotRenamedChoice(const CommitResult&)> showNotRenamed;
+};
+
+}  // namespace nomra

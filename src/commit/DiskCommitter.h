@@ -1,0 +1,31 @@
+#pragma once
+#include <utility>
+
+#include "commit/CommitResult.h"
+#include "commit/CommitServices.h"
+#include "core/MainModel.h"
+#include "core/RowCommitter.h"
+
+namespace nomra {
+
+// Lets the list's removal commands take pending changes to disk before rows
+// go: the whole list as one planned batch, or one row alone. A commit that
+// left rows not renamed is shown through the services. The caller refreshes.
+class DiskCommitter final : public RowCommitter {
+ public:
+  explicit DiskCommitter(MainModel& model, CommitServices services = {})
+      : model_(model), services_(std::move(services)) {}
+
+  void CommitAll() override;
+  void CommitRow(int position) override;
+
+  // What the last commit through this committer left.
+  const CommitResult& LastResult() const { return lastResult_; }
+
+ private:
+  MainModel& model_;
+  CommitServices services_;
+  CommitResult lastResult_;
+};
+
+}  // namespace nomra

@@ -1,0 +1,12 @@
+#include "commit/LocalClock.h"
+
+namespace nomra {
+
+std::tm LocalTimeNow() {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  return local;
+}
+
+}  // namespace nomra

@@ -1,0 +1,12 @@
+#pragma once
+#include <ctime>
+#include <functional>
+
+namespace nomra {
+
+// The local time of day, for the protocol; tests fix it.
+using LocalClock = std::function<std::tm()>;
+
+std::tm LocalTimeNow();
+
+}  // namespace nomra

@@ -1,0 +1,28 @@
+#include "commit/ReportRow.h"
+
+namespace nomra {
+
+namespace {
+
+constexpr char kNoName[] = "\"\"";
+
+std::string Reason(const ReportRow& row) {
+  if (row.textKey == kTargetExistsText) return "the target exists";
+  if (row.textKey == kPathNotUsableText) return "access denied or path not found";
+  return row.systemText;
+}
+
+// Rows without names come from before any name was known: a row whose file
+// is gone (it has its key) or the protocol that couldn't be opened (no row).
+std::string Names(const ReportRow& row) {
+  const bool named = row.arguments.size() == 2 && (row.arguments[0] != kNoName || row.arguments[1] != kNoName);
+  if (named) return row.arguments[0] + " -> " + row.arguments[1];
+  if (!row.rowKey.empty()) return "\"" + row.rowKey + "\"";
+  return "the rename protocol";
+}
+
+}  // namespace
+
+std::string ReportRow::Describe() const { return Names(*this) + ": " + Reason(*this); }
+
+}  // namespace nomra

@@ -1,0 +1,27 @@
+#pragma once
+#include <string>
+#include <vector>
+
+namespace nomra {
+
+// Language keys (section "Messages") of the rows of the not-renamed report.
+inline constexpr char kTargetExistsText[] = "MsgText05";
+inline constexpr char kOtherFailureText[] = "MsgText06";   // followed by "   System text: " + systemText
+inline constexpr char kPathNotUsableText[] = "MsgText11";
+
+// One rename that did not happen. The front end looks the text up by its key
+// and fills "%1" (the old path) and "%2" (the new path), both already in
+// double quotes.
+struct ReportRow {
+  int number = 0;  // running number within one commit, from 1
+  std::string rowKey;
+  std::string textKey;
+  std::vector<std::string> arguments;
+  std::string systemText;
+
+  // A plain English line until the language texts are read, e.g.
+  // "/d/a.txt" -> "/d/b.txt": the target exists
+  std::string Describe() const;
+};
+
+}  // namespace nomra

@@ -1,0 +1,40 @@
+#include "commit/SingleRowCommit.h"
+
+#include "base/Fault.h"
+#include "base/Helpers.h"
+#include "commit/DiskRename.h"
+
+namespace nomra {
+
+namespace {
+
+// Returns whether the rename failed.
+bool RenamePendingRow(CommitBatch& batch, FileEntry& row) {
+  const std::string folder = AddBackslash(row[kColPath]);
+  const std::string src = folder + row[kColOldName];
+  const std::string dst = folder + row[kColNewName];
+  std::optional<Failure> failure = RefuseName(row[kColNewName]);
+  if (!failure) failure = RenameOnDisk(batch.model, row, src, dst);
+  if (failure) {
+    batch.Fail(row.key, *failure, src, dst);
+    return true;
+  }
+  batch.RecordRename(row);
+  // RenameOnDisk refuses a name another row holds, so this can't fail.
+  if (!batch.model.list.ChangeKey(row, dst)) throw RuntimeFault("Two rows of the list came to hold " + dst);
+  row[kColOldName] = row[kColNewName];
+  return false;
+}
+
+}  // namespace
+
+void CommitSingleRow(CommitBatch& batch, int position) {
+  FileEntry& row = batch.model.list.Item(position);
+  const bool failed = row.HasPendingChange() && RenamePendingRow(batch, row);
+  if (failed) return;
+  for (int column = kColHistory0; column <= kColHistoryLast; ++column) {
+    if (!row[column].empty()) row[column] = row[kColNewName];
+  }
+}
+
+}  // namespace nomra

@@ -1,0 +1,28 @@
+#include "commit/TakeChanges.h"
+
+#include "base/CaseMap.h"
+#include "commit/NotRenamedReport.h"
+#include "commit/RenameFiles.h"
+#include "core/RefreshPreview.h"
+
+namespace nomra {
+
+namespace {
+
+bool UserAgrees(MainModel& model) {
+  if (!model.securityQuestions[1]) return true;
+  return model.frontEnd.Ask({"MsgText03", "MsgCap03", MessageStyle::YesNo, {}}) == Answer::Yes;
+}
+
+}  // namespace
+
+std::optional<CommitResult> takeChanges(MainModel& model, std::string_view tag, const CommitServices& services) {
+  if (!tag.empty() && !text::EqualsNoCase(tag, "TakeChanges1")) return std::nullopt;
+  if (!UserAgrees(model)) return std::nullopt;
+  CommitResult result = mdlRenameFiles(model, kWholeList, services.clock);
+  ShowNotRenamed(model, result, services);
+  refreshPreview(model);
+  return result;
+}
+
+}  // namespace nomra

@@ -1,0 +1,96 @@
+#include "commit/CommitFixture.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <stdexcept>
+
+#include "commit/RenameFiles.h"
+#include "core/AddFile.h"
+#include "core/RefreshPreview.h"
+
+namespace nomra::testing {
+
+std::tm FixedLocalTime() {
+  std::tm when{};
+  when.tm_year = 2004 - 1900;
+  when.tm_mon = 2;
+  when.tm_mday = 15;
+  when.tm_hour = 14;
+  when.tm_min = 23;
+  when.tm_sec = 5;
+  return when;
+}
+
+CommitTest::CommitTest() {
+  model.statusTexts[1] = "%1 files in %2 folders, %3 changed";
+  model.statusTexts[3] = "Renamed";
+  model.dataFolder = data.Path();
+}
+
+FileEntry& CommitTest::AddRow(const std::string& name, const std::string& content) {
+  std::string path = files.WriteFile(name, content.empty() ? "content of " + name : content);
+  AddFile(model, path);
+  refreshPreview(model);
+  FileEntry* row = model.list.Find(path);
+  if (row == nullptr) throw std::runtime_error("no row for " + path);
+  return *row;
+}
+
+void CommitTest::AddForeignFile(const std::string& name, const std::string& content) {
+  files.WriteFile(name, content.empty() ? "content of " + name : content);
+}
+
+FileEntry& CommitTest::Row(const std::string& oldName) {
+  for (int position = 1; position <= model.list.Count(); ++position) {
+    FileEntry& row = model.list.Item(position);
+    if (row[kColOldName] == oldName) return row;
+  }
+  throw std::runtime_error("no row named " + oldName);
+}
+
+void CommitTest::Rename(const std::string& oldName, const std::string& newName) {
+  Row(oldName)[kColNewName] = newName;
+  refreshPreview(model);
+}
+
+CommitResult CommitTest::CommitAll() {
+  CommitResult result = mdlRenameFiles(model, kWholeList, FixedLocalTime);
+  refreshPreview(model);
+  return result;
+}
+
+CommitResult CommitTest::CommitRow(int position) {
+  CommitResult result = mdlRenameFiles(model, position, FixedLocalTime);
+  refreshPreview(model);
+  return result;
+}
+
+std::vector<std::string> CommitTest::NamesOnDisk() const {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(files.Path())) {
+    names.push_back(entry.path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+std::vector<std::string> CommitTest::Keys() {
+  std::vector<std::string> keys;
+  model.list.ForEach([&](const FileEntry& row) { keys.push_back(row.key); });
+  std::sort(keys.begin(), keys.end());
+  return keys;
+}
+
+std::vector<std::string> CommitTest::Column(int column) {
+  std::vector<std::string> values;
+  model.list.ForEach([&](const FileEntry& row) { values.push_back(row[column]); });
+  return values;
+}
+
+std::vector<std::string> CommitTest::TextKeys(const CommitResult& result) {
+  std::vector<std::string> keys;
+  for (const ReportRow& row : result.notRenamed) keys.push_back(row.textKey);
+  return keys;
+}
+
+}  // namespace nomra::testing

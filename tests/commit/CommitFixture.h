@@ -1,0 +1,59 @@
+#pragma once
+#include <gtest/gtest.h>
+
+#include <ctime>
+#include <string>
+#include <vector>
+
+#include "commit/CommitFileSystem.h"
+#include "commit/CommitResult.h"
+#include "core/MainModel.h"
+#include "support/ScriptedFrontEnd.h"
+#include "support/TempFolder.h"
+
+namespace nomra::testing {
+
+// 2004-03-15 14:23:05, the time every protocol record of the tests carries.
+std::tm FixedLocalTime();
+
+// A list over real files, a data folder of its own and a file system that
+// logs every rename; each file holds a text of its own, so a test can tell
+// where each one went.
+class CommitTest : public ::testing::Test {
+ protected:
+  CommitTest();
+
+  // Creates the file (content: "content of NAME" unless given) and loads it
+  // as the next row.
+  FileEntry& AddRow(const std::string& name, const std::string& content = "");
+  // Creates a file the list doesn't hold.
+  void AddForeignFile(const std::string& name, const std::string& content = "");
+  // The row whose name on disk is `oldName`.
+  FileEntry& Row(const std::string& oldName);
+  // Sets the pending name of the row named `oldName` and refreshes, as an edit does.
+  void Rename(const std::string& oldName, const std::string& newName);
+
+  // The whole list, then the refresh the caller runs.
+  CommitResult CommitAll();
+  CommitResult CommitRow(int position);
+
+  std::string PathOf(const std::string& name) const { return files.Path() + name; }
+  // The names in the folder of the files, sorted.
+  std::vector<std::string> NamesOnDisk() const;
+  std::string ContentOf(const std::string& name) const { return ReadWholeFile(PathOf(name)); }
+  std::vector<std::string> Keys();
+  std::vector<std::string> Column(int column);
+  std::string ProtocolPath() const { return data.Path() + "renamed.nrp"; }
+
+  static std::vector<std::string> TextKeys(const CommitResult& result);
+  static std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
+
+  TempFolder files;
+  TempFolder data;
+  CommitFileSystem fileSystem;
+  ScriptedFrontEnd frontEnd;
+  NoExifDates noExif;
+  MainModel model{fileSystem, frontEnd, noExif};
+};
+
+}  // namespace nomra::testing

@@ -1,0 +1,125 @@
+// The rename protocol: one line per rename, appended, in the form other
+// tools read it.
+#include <gtest/gtest.h>
+
+#include "commit/CommitFixture.h"
+#include "commit/ProtocolWriter.h"
+#include "core/Startup.h"
+
+namespace nomra::testing {
+namespace {
+
+using Names = std::vector<std::string>;
+using RenameProtocol = CommitTest;
+
+TEST(ProtocolRecordText, FieldsAreJoinedByQuotesAndEndInCrLf) {
+  EXPECT_EQ(ProtocolRecord(FixedLocalTime(), "/home/u/Fotos/", "img1.jpg", "Urlaub 01.jpg"),
+            "20040315142305\"/home/u/Fotos/\"img1.jpg\"Urlaub 01.jpg\r\n");
+}
+
+TEST(ProtocolRecordText, TimeIsFourteenDigitsWithLeadingZeros) {
+  std::tm when{};
+  when.tm_year = 1999 - 1900;
+  when.tm_mon = 0;
+  when.tm_mday = 2;
+  when.tm_hour = 3;
+  when.tm_min = 4;
+  when.tm_sec = 5;
+  EXPECT_EQ(ProtocolTime(when), "19990102030405");
+}
+
+TEST(ProtocolRecordText, NamesAreNeitherQuotedNorEscapedAndKeepTheirBytes) {
+  EXPECT_EQ(ProtocolRecord(FixedLocalTime(), "/d/", "a\"b", "caf\xE9 \xC3\xBF"),
+            "20040315142305\"/d/\"a\"b\"caf\xE9 \xC3\xBF\r\n");
+}
+
+TEST_F(RenameProtocol, EachRenameOfABatchIsOneLineWithTheFinalName) {
+  model.protocolRenames = true;
+  data.WriteFile("renamed.nrp", "20000101000000\"/old/\"x\"y\r\n");
+  AddRow("A");
+  AddRow("B");
+  Rename("A", "B");  // goes through "Bÿ"
+  Rename("B", "C");
+
+  const CommitResult result = CommitAll();
+
+  ASSERT_TRUE(result.notRenamed.empty());
+  const std::string folder = files.Path();
+  EXPECT_EQ(ReadWholeFile(ProtocolPath()), "20000101000000\"/old/\"x\"y\r\n"
+                                           "20040315142305\"" + folder + "\"A\"B\r\n"
+                                           "20040315142305\"" + folder + "\"B\"C\r\n");
+}
+
+TEST_F(RenameProtocol, FailedRenamesWriteNoLine) {
+  model.protocolRenames = true;
+  AddRow("a");
+  AddRow("b");
+  AddForeignFile("taken");
+  Rename("a", "taken");
+  Rename("b", "c");
+
+  CommitAll();
+
+  EXPECT_EQ(ReadWholeFile(ProtocolPath()), "20040315142305\"" + files.Path() + "\"b\"c\r\n");
+}
+
+TEST_F(RenameProtocol, WithoutLoggingTheFileIsOpenedButNothingWritten) {
+  model.protocolRenames = false;
+  AddRow("a");
+  Rename("a", "x");
+  ASSERT_FALSE(Exists(ProtocolPath()));
+
+  const CommitResult result = CommitAll();
+
+  EXPECT_TRUE(result.notRenamed.empty());
+  EXPECT_TRUE(Exists(ProtocolPath()));
+  EXPECT_EQ(ReadWholeFile(ProtocolPath()), "");
+  EXPECT_EQ(NamesOnDisk(), Names{"x"});
+}
+
+TEST_F(RenameProtocol, ProtocolThatCannotBeOpenedIsOneReportRowAndTheRenamesStillHappen) {
+  model.protocolRenames = true;
+  model.dataFolder = data.Path() + "missing/folder/";
+  AddRow("a");
+  Rename("a", "x");
+
+  const CommitResult result = CommitAll();
+
+  ASSERT_EQ(TextKeys(result), Names{"MsgText11"});
+  EXPECT_EQ(result.notRenamed[0].rowKey, "");
+  EXPECT_EQ(result.notRenamed[0].arguments, (Names{"\"\"", "\"\""}));
+  EXPECT_EQ(NamesOnDisk(), Names{"x"});
+  EXPECT_EQ(Row("x").key, PathOf("x"));
+}
+
+TEST_F(RenameProtocol, ListWithoutADataFolderReportsTheProtocolAndWritesNoFileElsewhere) {
+  model.dataFolder.clear();
+  AddRow("a");
+  Rename("a", "x");
+
+  const CommitResult result = CommitAll();
+
+  EXPECT_EQ(TextKeys(result), Names{"MsgText11"});
+  EXPECT_FALSE(Exists("renamed.nrp"));
+  EXPECT_EQ(NamesOnDisk(), Names{"x"});
+}
+
+TEST_F(RenameProtocol, StartUpReadsWhetherToLogAndWhereTheDataFolderIs) {
+  data.WriteFile("settings.nrp", "[Settings]\r\nprotren=1\r\n");
+  model.dataFolder.clear();
+  const StartupPaths paths = PrepareStartup(data.Path());
+
+  LoadStartupSettings(model, paths);
+
+  EXPECT_TRUE(model.protocolRenames);
+  EXPECT_EQ(model.dataFolder, data.Path());
+}
+
+TEST_F(RenameProtocol, StartUpWithoutTheSettingDoesNotLog) {
+  model.protocolRenames = true;
+  LoadStartupSettings(model, PrepareStartup(data.Path()));
+  EXPECT_FALSE(model.protocolRenames);
+}
+
+}  // namespace
+}  // namespace nomra::testing
