@@ -8,6 +8,7 @@
 #include "cli/CommitStep.h"
 #include "cli/ExitStatus.h"
 #include "cli/JsonOutput.h"
+#include "cli/RecoveryStep.h"
 #include "cli/TableOutput.h"
 #include "core/AddFile.h"
 #include "core/ExifDateReader.h"
@@ -53,6 +54,7 @@ int RunInvocation(const Invocation& invocation, std::ostream& out, std::ostream&
   MainModel model(fileSystem, frontEnd, exifDates);
   LoadStartupSettings(model, paths);
   if (invocation.protocolRenames) model.protocolRenames = *invocation.protocolRenames;
+  RecoverAtStart(model, messages);
 
   LoadPaths(model, invocation.paths);
   RunSteps(model, invocation.steps, messages);

@@ -1,5 +1,8 @@
 #include "commit/CommitBatch.h"
 
+#include <cerrno>
+#include <cstring>
+
 namespace nomra {
 
 namespace {
@@ -28,6 +31,31 @@ void CommitBatch::Fail(const std::string& rowKey, const Failure& failure, const 
   row.textKey = TextKeyOf(failure.kind);
   row.arguments = {Quoted(src), Quoted(dst)};
   if (failure.kind == FailureKind::Other) row.systemText = failure.systemText;
+  result.notRenamed.push_back(std::move(row));
+}
+
+void CommitBatch::BeginJournal(const std::vector<JournalPlanEntry>& plan) {
+  if (plan.empty()) return;
+  if (const int error = journal_.Begin(model.dataFolder, plan); error != 0) FailJournal(error);
+}
+
+void CommitBatch::JournalTemporary(const std::string& source, const std::string& temporary,
+                                   const std::string& final) {
+  if (!journal_.IsOpen()) return;
+  if (const int error = journal_.RecordTemporary(source, temporary, final); error != 0) FailJournal(error);
+}
+
+void CommitBatch::FailJournal(int error) {
+  ReportRow row;
+  row.number = static_cast<int>(result.notRenamed.size()) + 1;
+  row.textKey = kOtherFailureText;
+  row.arguments = {Quoted(""), Quoted("")};
+  row.about = "the commit journal";
+  const std::string why = error == EEXIST ? "one is there already, left by an interrupted commit or held by a "
+                                            "commit in another Nomra"
+                                          : std::strerror(error);
+  row.systemText = "not written (" + why + "); the renames went on, but one cut short by a crash could not be "
+                   "repaired at the next start";
   result.notRenamed.push_back(std::move(row));
 }
 

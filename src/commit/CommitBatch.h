@@ -1,6 +1,8 @@
 #pragma once
 #include <string>
+#include <vector>
 
+#include "commit/CommitJournal.h"
 #include "commit/CommitResult.h"
 #include "commit/LocalClock.h"
 #include "commit/PathKeys.h"
@@ -11,11 +13,12 @@
 namespace nomra {
 
 // What every part of one commit shares: the model, the report being filled,
-// the open protocol and the case rules asked for this commit.
+// the open protocol and journal, and the case rules asked for this commit.
 class CommitBatch {
  public:
-  CommitBatch(MainModel& model, CommitResult& result, ProtocolWriter& protocol, const LocalClock& clock)
-      : model(model), result(result), keys(model.fileSystem), protocol_(protocol), clock_(clock) {}
+  CommitBatch(MainModel& model, CommitResult& result, ProtocolWriter& protocol, CommitJournal& journal,
+              const LocalClock& clock)
+      : model(model), result(result), keys(model.fileSystem), protocol_(protocol), journal_(journal), clock_(clock) {}
 
   // The failure handler: one numbered report row; the commit goes on.
   void Fail(const std::string& rowKey, const Failure& failure, const std::string& src, const std::string& dst);
@@ -24,12 +27,25 @@ class CommitBatch {
   // its columns before they change; written only when renames are logged.
   void RecordRename(const FileEntry& row);
 
+  // Opens the commit journal with the renames the batch will make. A journal
+  // that can't be written is one report row and the batch goes on without
+  // it: no rename ever replaces a file, so only the repair after a crash is
+  // lost, and refusing to rename would cost the user more than that.
+  void BeginJournal(const std::vector<JournalPlanEntry>& plan);
+  // Journals a move to a temporary name before it happens. The first
+  // failure is one report row; the batch goes on without the journal.
+  void JournalTemporary(const std::string& source, const std::string& temporary, const std::string& final);
+  void FinishJournal() { journal_.Finish(); }
+
   MainModel& model;
   CommitResult& result;
   PathKeys keys;
 
  private:
+  void FailJournal(int error);
+
   ProtocolWriter& protocol_;
+  CommitJournal& journal_;
   const LocalClock& clock_;
 };
 

@@ -1,5 +1,7 @@
 #include "commit/CommitExecution.h"
 
+#include <vector>
+
 #include "base/Fault.h"
 #include "base/Helpers.h"
 #include "commit/DiskRename.h"
@@ -38,8 +40,12 @@ void RenameRow(CommitBatch& batch, FileEntry& row, OrderedPathMap& temporaries) 
     return;
   }
   if (model.fileSystem.Status(dst).kind == platform::EntryKind::File) {
+    const std::string final = dst;
     dst += kTemporaryMark;
     temporaries.Set(dst, dst);
+    // A file already there under the temporary name is none of this batch's
+    // (the move will fail); journaled, a later start would take it for ours.
+    if (model.fileSystem.Status(dst).kind == platform::EntryKind::Missing) batch.JournalTemporary(src, dst, final);
   }
   if (const auto failure = RenameOnDisk(model, row, src, dst)) {
     batch.Fail(row.key, *failure, src, dst);
@@ -50,6 +56,17 @@ void RenameRow(CommitBatch& batch, FileEntry& row, OrderedPathMap& temporaries) 
   ChangeKeyOrFault(model.list, row, dst);
   batch.result.renamed.push_back(row.key);
   TakeNewName(row);
+}
+
+// Source and final path of every row the batch will try to rename.
+std::vector<JournalPlanEntry> PlannedRenames(FileList& list, const OrderedPathMap& blocked) {
+  std::vector<JournalPlanEntry> plan;
+  list.ForEach([&](const FileEntry& row) {
+    if (!row.HasPendingChange() || blocked.Contains(row.key)) return;
+    const std::string folder = AddBackslash(row[kColPath]);
+    plan.push_back({folder + row[kColOldName], folder + row[kColNewName]});
+  });
+  return plan;
 }
 
 void RenamePendingRows(CommitBatch& batch, const OrderedPathMap& blocked, OrderedPathMap& temporaries) {
@@ -102,9 +119,14 @@ void ReportBlockedRows(CommitBatch& batch, const OrderedPathMap& blocked) {
 }  // namespace
 
 void ExecuteCommit(CommitBatch& batch, const OrderedPathMap& blocked) {
+  batch.BeginJournal(PlannedRenames(batch.model.list, blocked));
   OrderedPathMap temporaries(batch.keys);
   RenamePendingRows(batch, blocked, temporaries);
   ReleaseTemporaryNames(batch, temporaries);
+  // Every file is under its final name or its old one now. A batch cut
+  // short by an exception never gets here and leaves the journal for the
+  // next start.
+  batch.FinishJournal();
   ReportBlockedRows(batch, blocked);
 }
 

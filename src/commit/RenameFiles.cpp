@@ -41,8 +41,9 @@ std::string ProtocolPath(const MainModel& model) {
 CommitResult mdlRenameFiles(MainModel& model, int position, const LocalClock& clock) {
   CommitResult result;
   ProtocolWriter protocol;
+  CommitJournal journal;
   const CommitScope scope(model, protocol);
-  CommitBatch batch(model, result, protocol, clock);
+  CommitBatch batch(model, result, protocol, journal, clock);
 
   // Opened whether renames are logged or not; a failure costs the records only.
   if (const int error = protocol.Open(ProtocolPath(model)); error != 0) {

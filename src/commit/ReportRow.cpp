@@ -15,6 +15,7 @@ std::string Reason(const ReportRow& row) {
 // Rows without names come from before any name was known: a row whose file
 // is gone (it has its key) or the protocol that couldn't be opened (no row).
 std::string Names(const ReportRow& row) {
+  if (!row.about.empty()) return row.about;
   const bool named = row.arguments.size() == 2 && (row.arguments[0] != kNoName || row.arguments[1] != kNoName);
   if (named) return row.arguments[0] + " -> " + row.arguments[1];
   if (!row.rowKey.empty()) return "\"" + row.rowKey + "\"";

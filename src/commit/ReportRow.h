@@ -18,6 +18,9 @@ struct ReportRow {
   std::string textKey;
   std::vector<std::string> arguments;
   std::string systemText;
+  // What a row about no rename at all concerns, e.g. "the commit journal";
+  // empty for the rows of renames and of the protocol.
+  std::string about;
 
   // A plain English line until the language texts are read, e.g.
   // "/d/a.txt" -> "/d/b.txt": the target exists

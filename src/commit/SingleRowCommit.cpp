@@ -14,7 +14,13 @@ bool RenamePendingRow(CommitBatch& batch, FileEntry& row) {
   const std::string src = folder + row[kColOldName];
   const std::string dst = folder + row[kColNewName];
   std::optional<Failure> failure = RefuseName(row[kColNewName]);
-  if (!failure) failure = RenameOnDisk(batch.model, row, src, dst);
+  if (!failure) {
+    // One row never goes through a temporary name; its journal lets a start
+    // after a crash tell the user if the file is under neither name.
+    batch.BeginJournal({{src, dst}});
+    failure = RenameOnDisk(batch.model, row, src, dst);
+    batch.FinishJournal();
+  }
   if (failure) {
     batch.Fail(row.key, *failure, src, dst);
     return true;

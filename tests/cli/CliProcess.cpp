@@ -6,10 +6,9 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <stdexcept>
-
-#include "support/TempFolder.h"
 
 extern char** environ;
 
@@ -38,13 +37,12 @@ void Check(int error, const char* what) {
 
 }  // namespace
 
-CliResult RunCli(const CliLaunch& launch) {
-  TempFolder sandbox;
-  const std::string outPath = sandbox.Path() + "stdout";
-  const std::string errPath = sandbox.Path() + "stderr";
+RunningCli::RunningCli(const CliLaunch& launch) : sandbox_(std::make_unique<TempFolder>()) {
+  const std::string outPath = sandbox_->Path() + "stdout";
+  const std::string errPath = sandbox_->Path() + "stderr";
 
   std::vector<std::string> texts;
-  for (const auto& [name, value] : ChildEnvironment(launch, sandbox.Path())) {
+  for (const auto& [name, value] : ChildEnvironment(launch, sandbox_->Path())) {
     if (value) texts.push_back(name + "=" + *value);
   }
   std::vector<char*> environment;
@@ -68,17 +66,49 @@ CliResult RunCli(const CliLaunch& launch) {
   const int spawned = posix_spawn(&child, program.c_str(), &actions, nullptr, argv.data(), environment.data());
   posix_spawn_file_actions_destroy(&actions);
   Check(spawned, "posix_spawn");
+  child_ = child;
+}
 
+RunningCli::~RunningCli() {
+  // A test that failed half-way must not leave a child running.
+  if (!status_) {
+    Signal(SIGKILL);
+    Wait();
+  }
+}
+
+bool RunningCli::Ended() {
+  if (status_) return true;
   int status = 0;
-  while (waitpid(child, &status, 0) < 0) {
-    if (errno != EINTR) Check(errno, "waitpid");
+  const pid_t done = waitpid(child_, &status, WNOHANG);
+  if (done == child_) status_ = status;
+  return status_.has_value();
+}
+
+void RunningCli::Signal(int signal) {
+  if (!status_) kill(child_, signal);
+}
+
+CliResult RunningCli::Wait() {
+  int status = 0;
+  while (!status_) {
+    if (waitpid(child_, &status, 0) >= 0) {
+      status_ = status;
+    } else if (errno != EINTR) {
+      Check(errno, "waitpid");
+    }
   }
   CliResult result;
   // A crash gives -signal, so it can never pass for an exit status.
-  result.exitStatus = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-  result.out = ReadWholeFile(outPath);
-  result.err = ReadWholeFile(errPath);
+  result.exitStatus = WIFEXITED(*status_) ? WEXITSTATUS(*status_) : -WTERMSIG(*status_);
+  result.out = ReadWholeFile(sandbox_->Path() + "stdout");
+  result.err = ReadWholeFile(sandbox_->Path() + "stderr");
   return result;
+}
+
+CliResult RunCli(const CliLaunch& launch) {
+  RunningCli running(launch);
+  return running.Wait();
 }
 
 }  // namespace nomra::testing

@@ -74,6 +74,12 @@ std::vector<std::string> CommitTest::NamesOnDisk() const {
   return names;
 }
 
+std::multiset<std::string> CommitTest::Contents() const {
+  std::multiset<std::string> contents;
+  for (const std::string& name : NamesOnDisk()) contents.insert(ContentOf(name));
+  return contents;
+}
+
 std::vector<std::string> CommitTest::Keys() {
   std::vector<std::string> keys;
   model.list.ForEach([&](const FileEntry& row) { keys.push_back(row.key); });

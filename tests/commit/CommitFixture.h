@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <ctime>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -44,6 +45,9 @@ class CommitTest : public ::testing::Test {
   std::vector<std::string> Keys();
   std::vector<std::string> Column(int column);
   std::string ProtocolPath() const { return data.Path() + "renamed.nrp"; }
+  std::string JournalPath() const { return data.Path() + "commit.journal"; }
+  // What the files of the folder hold, whatever their names.
+  std::multiset<std::string> Contents() const;
 
   static std::vector<std::string> TextKeys(const CommitResult& result);
   static std::string Quoted(const std::string& text) { return "\"" + text + "\""; }

@@ -77,6 +77,7 @@ TEST_F(RenameProtocol, WithoutLoggingTheFileIsOpenedButNothingWritten) {
   EXPECT_EQ(NamesOnDisk(), Names{"x"});
 }
 
+// The journal lives in the same missing folder: its row follows the protocol's.
 TEST_F(RenameProtocol, ProtocolThatCannotBeOpenedIsOneReportRowAndTheRenamesStillHappen) {
   model.protocolRenames = true;
   model.dataFolder = data.Path() + "missing/folder/";
@@ -85,22 +86,25 @@ TEST_F(RenameProtocol, ProtocolThatCannotBeOpenedIsOneReportRowAndTheRenamesStil
 
   const CommitResult result = CommitAll();
 
-  ASSERT_EQ(TextKeys(result), Names{"MsgText11"});
+  ASSERT_EQ(TextKeys(result), (Names{"MsgText11", "MsgText06"}));
   EXPECT_EQ(result.notRenamed[0].rowKey, "");
   EXPECT_EQ(result.notRenamed[0].arguments, (Names{"\"\"", "\"\""}));
+  EXPECT_EQ(result.notRenamed[0].about, "");
+  EXPECT_EQ(result.notRenamed[1].about, "the commit journal");
   EXPECT_EQ(NamesOnDisk(), Names{"x"});
   EXPECT_EQ(Row("x").key, PathOf("x"));
 }
 
-TEST_F(RenameProtocol, ListWithoutADataFolderReportsTheProtocolAndWritesNoFileElsewhere) {
+TEST_F(RenameProtocol, ListWithoutADataFolderReportsTheProtocolAndTheJournalAndWritesNoFileElsewhere) {
   model.dataFolder.clear();
   AddRow("a");
   Rename("a", "x");
 
   const CommitResult result = CommitAll();
 
-  EXPECT_EQ(TextKeys(result), Names{"MsgText11"});
+  EXPECT_EQ(TextKeys(result), (Names{"MsgText11", "MsgText06"}));
   EXPECT_FALSE(Exists("renamed.nrp"));
+  EXPECT_FALSE(Exists("commit.journal"));
   EXPECT_EQ(NamesOnDisk(), Names{"x"});
 }
 

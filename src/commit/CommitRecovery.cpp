@@ -1,0 +1,204 @@
+#include "commit/CommitRecovery.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <ctime>
+#include <optional>
+#include <unordered_set>
+
+#include "base/Helpers.h"
+#include "commit/CommitExecution.h"
+#include "commit/CommitJournal.h"
+#include "commit/JournalFormat.h"
+#include "commit/ProtocolWriter.h"
+#include "platform/posix/NoReplaceRename.h"
+#include "settings/FileBytes.h"
+
+namespace nomra {
+
+namespace {
+
+std::string Quoted(const std::string& path) { return "\"" + path + "\""; }
+
+bool IsThere(platform::FileSystem& fileSystem, const std::string& path) {
+  return fileSystem.Status(path).kind != platform::EntryKind::Missing;
+}
+
+// The journal, opened and locked; nothing when there is none or a commit
+// of another Nomra holds it.
+class LockedJournal {
+ public:
+  explicit LockedJournal(const std::string& path) {
+    fd_ = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd_ < 0) {
+      error_ = errno == ENOENT ? 0 : errno;
+      return;
+    }
+    if (flock(fd_, LOCK_EX | LOCK_NB) != 0) {
+      busy_ = true;
+      return;
+    }
+    // The commit that wrote it may have ended and removed it meanwhile.
+    struct stat opened {};
+    struct stat named {};
+    stale_ = fstat(fd_, &opened) != 0 || stat(path.c_str(), &named) != 0 || opened.st_ino != named.st_ino ||
+             opened.st_dev != named.st_dev;
+  }
+  ~LockedJournal() {
+    if (fd_ >= 0) close(fd_);
+  }
+  LockedJournal(const LockedJournal&) = delete;
+  LockedJournal& operator=(const LockedJournal&) = delete;
+
+  bool Usable() const { return fd_ >= 0 && !busy_ && !stale_; }
+  bool Busy() const { return busy_; }
+  int OpenError() const { return error_; }
+
+ private:
+  int fd_ = -1;
+  int error_ = 0;
+  bool busy_ = false;
+  bool stale_ = false;
+};
+
+// Moves a file the journal put under a temporary name; nothing when the
+// move worked, else the reason.
+std::optional<std::string> MoveBack(platform::FileSystem& fileSystem, const std::string& temporary,
+                                    const std::string& to) {
+  const platform::RenameResult renamed = fileSystem.RenameNoReplace(temporary, to);
+  if (renamed.ok) return std::nullopt;
+  return std::string(std::strerror(renamed.error));
+}
+
+// A "T" record: the file went from its source to the temporary name right
+// after the record was flushed, and on to the final name at the end of the
+// batch. Cut short in between, it goes on to its final name; when that is
+// still taken (the other half of a swap never moved), back to its source, so
+// every file ends under its old name or its new one, never a temporary one.
+void FinishTemporary(platform::FileSystem& fileSystem, const JournalTemporaryEntry& entry,
+                     InterruptedCommit& commit) {
+  const std::string names = Quoted(entry.temporary) + " -> " + Quoted(entry.final);
+  // Only the batch's own form of a temporary name is ever moved.
+  if (entry.temporary != entry.final + std::string(kTemporaryMark)) {
+    commit.unresolved.push_back(names + ": the journal's entry is not a temporary name of its final name");
+    return;
+  }
+  if (!IsThere(fileSystem, entry.temporary)) {
+    // Moved on to the final name already, or never moved away from the
+    // source: both leave the file under a name of its own.
+    if (!IsThere(fileSystem, entry.final) && !IsThere(fileSystem, entry.source)) {
+      commit.unresolved.push_back(Quoted(entry.source) + " -> " + names + ": the file is under none of these names");
+    }
+    return;
+  }
+  if (!IsThere(fileSystem, entry.final)) {
+    if (const auto failure = MoveBack(fileSystem, entry.temporary, entry.final)) {
+      commit.unresolved.push_back(names + ": " + *failure);
+    } else {
+      commit.finished.push_back(names);
+    }
+    return;
+  }
+  const std::string back = Quoted(entry.temporary) + " -> " + Quoted(entry.source);
+  if (IsThere(fileSystem, entry.source)) {
+    commit.unresolved.push_back(names + ": the final name and the old name " + Quoted(entry.source) +
+                                " are both taken; the file stays under the temporary name");
+    return;
+  }
+  if (const auto failure = MoveBack(fileSystem, entry.temporary, entry.source)) {
+    commit.unresolved.push_back(back + ": " + *failure);
+  } else {
+    commit.finished.push_back(back + " (back to its old name: the final name is taken)");
+  }
+}
+
+// A planned rename that left its file under neither name: moved or removed
+// from outside. Told, never searched for.
+void CheckPlanned(platform::FileSystem& fileSystem, const JournalPlanEntry& entry,
+                  const std::unordered_set<std::string>& stillTemporary, InterruptedCommit& commit) {
+  if (stillTemporary.contains(entry.final)) return;  // told already
+  if (IsThere(fileSystem, entry.source) || IsThere(fileSystem, entry.final)) return;
+  commit.unresolved.push_back(Quoted(entry.source) + " -> " + Quoted(entry.final) +
+                              ": the file is under neither name");
+}
+
+void ReadJournal(platform::FileSystem& fileSystem, const std::string& text, InterruptedCommit& commit) {
+  const JournalContent content = ParseJournal(text);
+  if (content.damagedAt != std::string::npos) {
+    commit.unresolved.push_back("the journal is unreadable from byte " + std::to_string(content.damagedAt) +
+                                "; nothing it holds from there on was touched");
+  }
+  std::unordered_set<std::string> stillTemporary;
+  // Latest first. A move to a temporary name happened because the final
+  // name's file hadn't moved yet, and that file's row comes later in the
+  // batch: if it went to a temporary name too, its own fate (on, or back
+  // into the name this one wants) must be settled first. A cycle cut short
+  // before its last plain rename so goes back whole instead of jamming.
+  for (auto entry = content.temporaries.rbegin(); entry != content.temporaries.rend(); ++entry) {
+    const std::size_t before = commit.unresolved.size();
+    FinishTemporary(fileSystem, *entry, commit);
+    if (commit.unresolved.size() != before) stillTemporary.insert(entry->final);
+  }
+  for (const JournalPlanEntry& entry : content.plan) CheckPlanned(fileSystem, entry, stillTemporary, commit);
+}
+
+// Kept beside the journal under a name that says when; never replaces one
+// kept before.
+std::optional<std::string> KeepJournal(const std::string& path) {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  const std::string stem = path + "." + ProtocolTime(local);
+  for (int attempt = 0; attempt < 100; ++attempt) {
+    const std::string kept = stem + (attempt == 0 ? "" : "-" + std::to_string(attempt)) + ".left";
+    const platform::RenameResult renamed = platform::RenameWithoutReplacing(path, kept);
+    if (renamed.ok) return kept;
+    if (renamed.error != EEXIST) return std::nullopt;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+InterruptedCommit RecoverInterruptedCommit(platform::FileSystem& fileSystem, const std::string& dataFolder) {
+  InterruptedCommit commit;
+  if (dataFolder.empty()) return commit;
+  const std::string path = AddBackslash(dataFolder) + kJournalFileName;
+  const LockedJournal journal(path);
+  if (journal.OpenError() != 0) {
+    commit.found = true;
+    commit.unresolved.push_back("the journal " + Quoted(path) + " can't be read: " +
+                                std::strerror(journal.OpenError()));
+    return commit;
+  }
+  // A commit of another Nomra is running, or there is nothing to do.
+  if (!journal.Usable()) return commit;
+  commit.found = true;
+
+  const std::optional<std::string> text = settings::ReadFileBytes(path);
+  if (!text) {
+    commit.unresolved.push_back("the journal " + Quoted(path) + " can't be read");
+  } else {
+    ReadJournal(fileSystem, *text, commit);
+  }
+
+  if (commit.unresolved.empty()) {
+    unlink(path.c_str());
+  } else if (const std::optional<std::string> kept = KeepJournal(path)) {
+    commit.unresolved.push_back("the journal is kept as " + Quoted(*kept) + " and will not be read again");
+  } else {
+    commit.unresolved.push_back("the journal " + Quoted(path) + " could not be set aside and will be read again");
+  }
+  return commit;
+}
+
+void ShowUnresolved(FrontEnd& frontEnd, const InterruptedCommit& commit) {
+  for (const std::string& line : commit.unresolved) frontEnd.ShowFault("interrupted commit: " + line);
+}
+
+}  // namespace nomra
