@@ -1,5 +1,6 @@
 #include "commit/CommitExecution.h"
 
+#include <optional>
 #include <vector>
 
 #include "base/Fault.h"
@@ -39,15 +40,23 @@ void RenameRow(CommitBatch& batch, FileEntry& row, OrderedPathMap& temporaries) 
     batch.Fail(row.key, *refused, src, dst);
     return;
   }
-  if (model.fileSystem.Status(dst).kind == platform::EntryKind::File) {
+  // The rename never replaces a file, so it is tried under the final name
+  // first: a name that is still taken answers "exists", and only then is the
+  // disk asked whether a file stands there (the row ahead in a chain that
+  // hasn't moved yet, or a change of case alone), which sends the row
+  // through a temporary name. A plain batch thus costs one call per row.
+  std::optional<Failure> failure = RenameOnDisk(model, row, src, dst);
+  if (failure && failure->kind == FailureKind::TargetExists &&
+      model.fileSystem.Status(dst).kind == platform::EntryKind::File) {
     const std::string final = dst;
     dst += kTemporaryMark;
     temporaries.Set(dst, dst);
     // A file already there under the temporary name is none of this batch's
     // (the move will fail); journaled, a later start would take it for ours.
     if (model.fileSystem.Status(dst).kind == platform::EntryKind::Missing) batch.JournalTemporary(src, dst, final);
+    failure = RenameOnDisk(model, row, src, dst);
   }
-  if (const auto failure = RenameOnDisk(model, row, src, dst)) {
+  if (failure) {
     batch.Fail(row.key, *failure, src, dst);
     return;
   }

@@ -336,3 +336,16 @@ TEST(PlatformFileSystem, CaseRuleIsRememberedPerFolder) {
 
 }  // namespace
 }  // namespace nomra::platform
+
+namespace nomra::platform {
+namespace {
+
+// Renames are looked up afterwards on every volume not on the trusted list.
+TEST(PlatformRenameTrust, PseudoFileSystemIsNotTrusted) { EXPECT_FALSE(KernelRenameIsTrusted("/proc/")); }
+
+TEST(PlatformRenameTrust, FolderThatIsMissingIsNotTrusted) {
+  EXPECT_FALSE(KernelRenameIsTrusted("/no/such/folder/anywhere/"));
+}
+
+}  // namespace
+}  // namespace nomra::platform

@@ -20,8 +20,14 @@ class PosixFileSystem final : public FileSystem {
 
   std::unordered_map<std::string, bool> caseRuleByFolder_;
   std::string lastFolder_;
+  std::string trustFolder_;
+  bool trustRename_ = false;
   bool lastAnswer_ = false;
 };
+
+// Whether the kernel's rename on this folder's volume can be taken at its
+// word: ext4, xfs, btrfs and tmpfs.
+bool KernelRenameIsTrusted(const std::string& folder);
 
 // The folder probe itself, without memory: file system type, then the
 // casefold attribute, then, on FUSE mounts, a look-up with flipped case.
