@@ -34,9 +34,10 @@ void CommitBatch::Fail(const std::string& rowKey, const Failure& failure, const 
   result.notRenamed.push_back(std::move(row));
 }
 
-void CommitBatch::BeginJournal(const std::vector<JournalPlanEntry>& plan) {
+void CommitBatch::BeginJournal(const std::vector<JournalPlanEntry>& plan,
+                               const std::vector<JournalTemporaryEntry>& temporaries) {
   if (plan.empty()) return;
-  if (const int error = journal_.Begin(model.dataFolder, plan); error != 0) FailJournal(error);
+  if (const int error = journal_.Begin(model.dataFolder, plan, temporaries); error != 0) FailJournal(error);
 }
 
 void CommitBatch::JournalTemporary(const std::string& source, const std::string& temporary,

@@ -31,9 +31,12 @@ class CommitBatch {
   // that can't be written is one report row and the batch goes on without
   // it: no rename ever replaces a file, so only the repair after a crash is
   // lost, and refusing to rename would cost the user more than that.
-  void BeginJournal(const std::vector<JournalPlanEntry>& plan);
-  // Journals a move to a temporary name before it happens. The first
-  // failure is one report row; the batch goes on without the journal.
+  // The moves to temporary names foreseen for the plan go in with it.
+  void BeginJournal(const std::vector<JournalPlanEntry>& plan,
+                    const std::vector<JournalTemporaryEntry>& temporaries = {});
+  // Journals a move to a temporary name that wasn't foreseen, before it
+  // happens. The first failure is one report row; the batch goes on
+  // without the journal.
   void JournalTemporary(const std::string& source, const std::string& temporary, const std::string& final);
   void FinishJournal() { journal_.Finish(); }
 

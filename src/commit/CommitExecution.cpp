@@ -31,7 +31,7 @@ void ShowProgress(MainModel& model) {
   model.frontEnd.SetStatusText(model.statusTexts[3] + " " + std::to_string(model.statusCounter));
 }
 
-void RenameRow(CommitBatch& batch, FileEntry& row, OrderedPathMap& temporaries) {
+void RenameRow(CommitBatch& batch, FileEntry& row, const PathMap& foreseen, OrderedPathMap& temporaries) {
   MainModel& model = batch.model;
   const std::string folder = AddBackslash(row[kColPath]);
   const std::string src = folder + row[kColOldName];
@@ -51,9 +51,13 @@ void RenameRow(CommitBatch& batch, FileEntry& row, OrderedPathMap& temporaries) 
     const std::string final = dst;
     dst += kTemporaryMark;
     temporaries.Set(dst, dst);
-    // A file already there under the temporary name is none of this batch's
-    // (the move will fail); journaled, a later start would take it for ours.
-    if (model.fileSystem.Status(dst).kind == platform::EntryKind::Missing) batch.JournalTemporary(src, dst, final);
+    // A foreseen move is in the journal already. Only one the disk brought
+    // about since the plan costs a flush of its own here. A file already
+    // there under the temporary name is none of this batch's (the move will
+    // fail); journaled, a later start would take it for ours.
+    if (!foreseen.Contains(dst) && model.fileSystem.Status(dst).kind == platform::EntryKind::Missing) {
+      batch.JournalTemporary(src, dst, final);
+    }
     failure = RenameOnDisk(model, row, src, dst);
   }
   if (failure) {
@@ -78,13 +82,56 @@ std::vector<JournalPlanEntry> PlannedRenames(FileList& list, const OrderedPathMa
   return plan;
 }
 
-void RenamePendingRows(CommitBatch& batch, const OrderedPathMap& blocked, OrderedPathMap& temporaries) {
+// The moves to temporary names the batch will make, foreseen by running
+// its renames over the names the plan found on disk: a row whose new name
+// is still taken when its turn comes (by the file of a row that comes
+// later, or by its own file when only the case changes where case doesn't
+// count) goes through a temporary name. Each foreseen name also goes into
+// `foreseen`. Where the disk changes after the plan, the renames find out
+// themselves and journal what wasn't foreseen.
+std::vector<JournalTemporaryEntry> ForeseeTemporaries(CommitBatch& batch, const OrderedPathMap& blocked,
+                                                      const PathMap& filesOnDisk, PathMap& foreseen) {
+  std::vector<JournalTemporaryEntry> temporaries;
+  PathMap taken = filesOnDisk;
+  FileList& list = batch.model.list;
+  for (int position = 1; position <= list.Count(); ++position) {
+    if (position % kRowsPerPump == 0) batch.model.frontEnd.Pump();
+    const FileEntry& row = list.Item(position);
+    if (!row.HasPendingChange() || blocked.Contains(row.key)) continue;
+    // A refused name is never tried: the file keeps its old one.
+    if (RefuseName(row[kColNewName])) continue;
+    const std::string folder = AddBackslash(row[kColPath]);
+    const std::string src = folder + row[kColOldName];
+    const std::string final = folder + row[kColNewName];
+    // A file gone since the plan moves nowhere; its rename fails and is
+    // reported.
+    if (!taken.Contains(src)) continue;
+    std::string dst = final;
+    if (taken.Contains(final)) {
+      dst += kTemporaryMark;
+      // A file under the temporary name when the plan listed the folder is
+      // none of this batch's and is never journaled; one this run put there
+      // means the move would fail. Either way the file stays where it is.
+      if (filesOnDisk.Contains(dst) || taken.Contains(dst)) continue;
+      temporaries.push_back({src, dst, final});
+      foreseen.Set(dst, {});
+    }
+    taken.Erase(src);
+    taken.Set(dst, {});
+  }
+  // The temporary names become final after the loop; no move to a
+  // temporary name comes after that, so the run stops here.
+  return temporaries;
+}
+
+void RenamePendingRows(CommitBatch& batch, const OrderedPathMap& blocked, const PathMap& foreseen,
+                       OrderedPathMap& temporaries) {
   FileList& list = batch.model.list;
   for (int position = 1; position <= list.Count(); ++position) {
     if (position % kRowsPerPump == 0) batch.model.frontEnd.Pump();
     FileEntry& row = list.Item(position);
     if (!row.HasPendingChange() || blocked.Contains(row.key)) continue;
-    RenameRow(batch, row, temporaries);
+    RenameRow(batch, row, foreseen, temporaries);
   }
 }
 
@@ -127,10 +174,12 @@ void ReportBlockedRows(CommitBatch& batch, const OrderedPathMap& blocked) {
 
 }  // namespace
 
-void ExecuteCommit(CommitBatch& batch, const OrderedPathMap& blocked) {
-  batch.BeginJournal(PlannedRenames(batch.model.list, blocked));
+void ExecuteCommit(CommitBatch& batch, const OrderedPathMap& blocked, const PathMap& filesOnDisk) {
+  PathMap foreseen(batch.keys);
+  const std::vector<JournalTemporaryEntry> foreseenMoves = ForeseeTemporaries(batch, blocked, filesOnDisk, foreseen);
+  batch.BeginJournal(PlannedRenames(batch.model.list, blocked), foreseenMoves);
   OrderedPathMap temporaries(batch.keys);
-  RenamePendingRows(batch, blocked, temporaries);
+  RenamePendingRows(batch, blocked, foreseen, temporaries);
   ReleaseTemporaryNames(batch, temporaries);
   // Every file is under its final name or its old one now. A batch cut
   // short by an exception never gets here and leaves the journal for the

@@ -14,7 +14,9 @@ inline constexpr std::string_view kTemporaryMark = "\xC3\xBF";
 // Renames every pending row of the list that the plan didn't block, in list
 // order, through a temporary name where the new one is still taken; then
 // gives the temporary names up; then reports each blocked row as a rename
-// whose target exists.
-void ExecuteCommit(CommitBatch& batch, const OrderedPathMap& blocked);
+// whose target exists. `filesOnDisk` holds the files the plan found in the
+// list's folders; the temporary names foreseen from it are journaled with
+// the plan.
+void ExecuteCommit(CommitBatch& batch, const OrderedPathMap& blocked, const PathMap& filesOnDisk);
 
 }  // namespace nomra

@@ -36,7 +36,8 @@ int SyncFolder(const std::string& folder) {
 
 CommitJournal::~CommitJournal() { Close(); }
 
-int CommitJournal::Begin(const std::string& dataFolder, const std::vector<JournalPlanEntry>& plan) {
+int CommitJournal::Begin(const std::string& dataFolder, const std::vector<JournalPlanEntry>& plan,
+                         const std::vector<JournalTemporaryEntry>& temporaries) {
   Close();
   if (dataFolder.empty()) return ENOENT;
   const std::string folder = AddBackslash(dataFolder);
@@ -49,6 +50,9 @@ int CommitJournal::Begin(const std::string& dataFolder, const std::vector<Journa
 
   std::string text(kJournalHeader);
   for (const JournalPlanEntry& entry : plan) text += JournalPlanRecord(entry.source, entry.final);
+  for (const JournalTemporaryEntry& entry : temporaries) {
+    text += JournalTemporaryRecord(entry.source, entry.temporary, entry.final);
+  }
   int error = flock(fd, LOCK_EX | LOCK_NB) == 0 ? 0 : errno;
   if (error == 0) error = WriteAll(fd, text);
   if (error == 0 && fsync(fd) != 0) error = errno;

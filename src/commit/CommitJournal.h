@@ -26,16 +26,19 @@ class CommitJournal {
   CommitJournal(const CommitJournal&) = delete;
   CommitJournal& operator=(const CommitJournal&) = delete;
 
-  // Writes the header and the plan to a file of its own, flushes it and its
-  // folder to disk, then gives it the journal's name without replacing one
-  // that is there (a journal a crash left, or one of a commit running in
-  // another Nomra). Returns 0, or the errno of the failure; then nothing is
-  // journaled and no file is left.
-  int Begin(const std::string& dataFolder, const std::vector<JournalPlanEntry>& plan);
+  // Writes the header, the plan and the moves to temporary names foreseen
+  // for it to a file of its own, flushes it and its folder to disk, then
+  // gives it the journal's name without replacing one that is there (a
+  // journal a crash left, or one of a commit running in another Nomra).
+  // Foreseen moves are journaled here, all with one flush, because a flush
+  // per move cost more than the renames themselves. Returns 0, or the errno
+  // of the failure; then nothing is journaled and no file is left.
+  int Begin(const std::string& dataFolder, const std::vector<JournalPlanEntry>& plan,
+            const std::vector<JournalTemporaryEntry>& temporaries);
   bool IsOpen() const { return fd_ >= 0; }
 
-  // Appends a "T" record and flushes it before the move to a temporary
-  // name happens. Returns 0 or the errno of the failure; after a failure the
+  // Appends a "T" record and flushes it before a move to a temporary name
+  // that Begin didn't foresee happens (the disk changed since the plan). Returns 0 or the errno of the failure; after a failure the
   // journal is closed (and stays on disk with what it holds).
   int RecordTemporary(std::string_view source, std::string_view temporary, std::string_view final);
 

@@ -22,15 +22,16 @@ void ClaimStayingNames(FileList& list, OrderedPathMap& folders, PathMap& claimed
 }
 
 // The files of those folders whose names nobody keeps yet, in the order the
-// folders list them.
+// folders list them; and all their files in `filesOnDisk`.
 void CollectOtherFiles(CommitBatch& batch, const OrderedPathMap& folders, const PathMap& claimed,
-                       OrderedPathMap& diskOthers) {
+                       OrderedPathMap& diskOthers, PathMap& filesOnDisk) {
   folders.ForEach([&](const std::string& folder) {
     batch.model.frontEnd.Pump();
     const std::string base = AddBackslash(folder);
     batch.model.fileSystem.ListFolder(folder, [&](std::string_view name, platform::EntryKind kind) {
       if (kind != platform::EntryKind::File) return;
       std::string path = base + std::string(name);
+      filesOnDisk.Set(path, {});
       if (!claimed.Contains(path)) diskOthers.Set(path, path);
     });
   });
@@ -86,12 +87,12 @@ void SettleOtherFiles(PathMap& claimed, OrderedPathMap& diskOthers, OrderedPathM
 
 }  // namespace
 
-void PlanCommit(CommitBatch& batch, OrderedPathMap& blocked) {
+void PlanCommit(CommitBatch& batch, OrderedPathMap& blocked, PathMap& filesOnDisk) {
   OrderedPathMap folders(batch.keys);
   PathMap claimed(batch.keys);
   OrderedPathMap diskOthers(batch.keys);
   ClaimStayingNames(batch.model.list, folders, claimed);
-  CollectOtherFiles(batch, folders, claimed, diskOthers);
+  CollectOtherFiles(batch, folders, claimed, diskOthers, filesOnDisk);
   std::vector<std::string> vanished;
   FindVanishedRows(batch.model.list, diskOthers, vanished);
   ClaimNewNames(batch, claimed, diskOthers, blocked);

@@ -10,6 +10,8 @@ namespace nomra {
 // its name to become free. Puts them into `blocked` by key, in the order
 // they were found. A pending row whose file is gone from its folder is
 // reported (without names) and still tried later; its name stays taken.
-void PlanCommit(CommitBatch& batch, OrderedPathMap& blocked);
+// Every file found in the list's folders goes into `filesOnDisk`, so that
+// the execution can foresee its temporary names without listing again.
+void PlanCommit(CommitBatch& batch, OrderedPathMap& blocked, PathMap& filesOnDisk);
 
 }  // namespace nomra

@@ -5,11 +5,15 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <ctime>
 #include <optional>
+#include <unordered_map>
 #include <unordered_set>
+#include <utility>
+#include <vector>
 
 #include "base/Helpers.h"
 #include "commit/CommitExecution.h"
@@ -75,12 +79,15 @@ std::optional<std::string> MoveBack(platform::FileSystem& fileSystem, const std:
   return std::string(std::strerror(renamed.error));
 }
 
-// A "T" record: the file went from its source to the temporary name right
-// after the record was flushed, and on to the final name at the end of the
-// batch. Cut short in between, it goes on to its final name; when that is
-// still taken (the other half of a swap never moved), back to its source, so
-// every file ends under its old name or its new one, never a temporary one.
-void FinishTemporary(platform::FileSystem& fileSystem, const JournalTemporaryEntry& entry,
+// A "T" record: the file may have gone from its source to the temporary
+// name (the record is flushed before the move, with the plan when the move
+// was foreseen, and a foreseen move may never have come), and on to the
+// final name at the end of the batch. Cut short in between, it goes on to
+// its final name; when that is still taken (the other half of a swap never
+// moved), back to its source, so every file ends under its old name or its
+// new one, never a temporary one. `planned`: a "P" record names the same
+// rename, and will tell of a file under none of its names.
+void FinishTemporary(platform::FileSystem& fileSystem, const JournalTemporaryEntry& entry, bool planned,
                      InterruptedCommit& commit) {
   const std::string names = Quoted(entry.temporary) + " -> " + Quoted(entry.final);
   // Only the batch's own form of a temporary name is ever moved.
@@ -91,7 +98,7 @@ void FinishTemporary(platform::FileSystem& fileSystem, const JournalTemporaryEnt
   if (!IsThere(fileSystem, entry.temporary)) {
     // Moved on to the final name already, or never moved away from the
     // source: both leave the file under a name of its own.
-    if (!IsThere(fileSystem, entry.final) && !IsThere(fileSystem, entry.source)) {
+    if (!planned && !IsThere(fileSystem, entry.final) && !IsThere(fileSystem, entry.source)) {
       commit.unresolved.push_back(Quoted(entry.source) + " -> " + names + ": the file is under none of these names");
     }
     return;
@@ -139,10 +146,26 @@ void ReadJournal(platform::FileSystem& fileSystem, const std::string& text, Inte
   // batch: if it went to a temporary name too, its own fate (on, or back
   // into the name this one wants) must be settled first. A cycle cut short
   // before its last plain rename so goes back whole instead of jamming.
-  for (auto entry = content.temporaries.rbegin(); entry != content.temporaries.rend(); ++entry) {
+  // The plan is in the batch's order; the records of moves are not always
+  // (one the plan didn't foresee comes after the foreseen ones of later
+  // rows), so they are taken in the order of their rows in the plan. A
+  // record without a row in the plan keeps its place after all of those.
+  std::unordered_map<std::string, std::size_t> turnOf;
+  for (std::size_t turn = 0; turn < content.plan.size(); ++turn) {
+    turnOf.try_emplace(content.plan[turn].source + '\0' + content.plan[turn].final, turn);
+  }
+  std::vector<std::pair<std::size_t, const JournalTemporaryEntry*>> moves;
+  for (std::size_t at = 0; at < content.temporaries.size(); ++at) {
+    const JournalTemporaryEntry& entry = content.temporaries[at];
+    const auto found = turnOf.find(entry.source + '\0' + entry.final);
+    moves.emplace_back(found == turnOf.end() ? content.plan.size() + at : found->second, &entry);
+  }
+  std::stable_sort(moves.begin(), moves.end(),
+                   [](const auto& left, const auto& right) { return left.first < right.first; });
+  for (auto move = moves.rbegin(); move != moves.rend(); ++move) {
     const std::size_t before = commit.unresolved.size();
-    FinishTemporary(fileSystem, *entry, commit);
-    if (commit.unresolved.size() != before) stillTemporary.insert(entry->final);
+    FinishTemporary(fileSystem, *move->second, move->first < content.plan.size(), commit);
+    if (commit.unresolved.size() != before) stillTemporary.insert(move->second->final);
   }
   for (const JournalPlanEntry& entry : content.plan) CheckPlanned(fileSystem, entry, stillTemporary, commit);
 }

@@ -13,6 +13,8 @@ const std::string* PathMap::Find(std::string_view path) const {
   return found == values_.end() ? nullptr : &found->second;
 }
 
+void PathMap::Erase(std::string_view path) { values_.erase(keys_.KeyOf(path)); }
+
 void OrderedPathMap::Set(std::string_view path, std::string value) {
   std::string key = keys_.KeyOf(path);
   const auto found = index_.find(key);

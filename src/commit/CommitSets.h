@@ -22,6 +22,7 @@ class PathMap {
   // nullptr when the path isn't there; valid until the next change.
   const std::string* Find(std::string_view path) const;
   bool Contains(std::string_view path) const { return Find(path) != nullptr; }
+  void Erase(std::string_view path);
 
  private:
   PathKeys& keys_;

@@ -14,8 +14,13 @@ namespace nomra {
 //
 //   NomraCommitJournal 1\n
 //   P <source> <final>\n            one per row the batch will rename
-//   T <source> <temporary> <final>\n  appended just before a move to a temporary name
+//   T <source> <temporary> <final>\n  a move to a temporary name: those foreseen
+//                                   follow the plan; one the plan didn't
+//                                   foresee is appended just before it
 //
+// A "T" record says a move may have happened, not that it did: a foreseen
+// one can stay undone (a crash came first, or the final name was free by
+// then).
 // where each <path> is e.g. "9:/d/a.txt".
 
 inline constexpr std::string_view kJournalHeader = "NomraCommitJournal 1\n";

@@ -52,8 +52,9 @@ CommitResult mdlRenameFiles(MainModel& model, int position, const LocalClock& cl
 
   if (position == kWholeList) {
     OrderedPathMap blocked(batch.keys);
-    PlanCommit(batch, blocked);
-    ExecuteCommit(batch, blocked);
+    PathMap filesOnDisk(batch.keys);
+    PlanCommit(batch, blocked, filesOnDisk);
+    ExecuteCommit(batch, blocked, filesOnDisk);
   } else {
     CommitSingleRow(batch, position);
   }

@@ -1,6 +1,7 @@
-// The commit journal on disk: the plan is there before the first rename, a
-// move to a temporary name is journaled before it happens, and the journal
-// goes when the batch ends.
+// The commit journal on disk: the plan and the moves to temporary names it
+// foresees are there before the first rename, a move the plan didn't
+// foresee is journaled before it happens, and the journal goes when the
+// batch ends.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -111,12 +112,73 @@ TEST_F(CommitJournaling, MoveToATemporaryNameIsJournaledBeforeItHappens) {
   EXPECT_EQ(ContentOf("b"), "alpha");
 }
 
+// The first row can't move (its temporary name is taken), so the second
+// finds its new name still held and goes through a temporary name of its
+// own: that one is journaled, the foreign file's name never is.
 TEST_F(CommitJournaling, ForeignFileUnderTheTemporaryNameIsNotJournaled) {
   AddRow("a");
   AddRow("b");
   AddForeignFile("b" + kMark, "foreign");
   Rename("a", "b");
   Rename("b", "a");
+  std::vector<std::optional<JournalContent>> atEachRename;
+  fileSystem.beforeRename = [&](const std::string&, const std::string&) {
+    atEachRename.push_back(JournalAt(JournalPath()));
+  };
+
+  CommitAll();
+
+  ASSERT_FALSE(atEachRename.empty());
+  for (const std::optional<JournalContent>& journal : atEachRename) {
+    ASSERT_TRUE(journal.has_value());
+    ASSERT_EQ(journal->temporaries.size(), 1u);
+    EXPECT_EQ(journal->temporaries[0].temporary, PathOf("a") + kMark);
+  }
+  EXPECT_EQ(ContentOf("b" + kMark), "foreign");
+}
+
+// A plain rename comes first, so the moves to temporary names of the swap
+// and of the cycle of three can only be in the journal by being foreseen;
+// and nothing is appended while the batch runs.
+TEST_F(CommitJournaling, TemporaryNamesOfASwapAreInTheJournalBeforeTheFirstRename) {
+  for (const char* name : {"c", "a", "b", "d", "e", "f"}) AddRow(name);
+  Rename("c", "x");
+  Rename("a", "b");
+  Rename("b", "a");
+  Rename("d", "e");
+  Rename("e", "f");
+  Rename("f", "d");
+  std::vector<std::string> textAtEachRename;
+  fileSystem.beforeRename = [&](const std::string&, const std::string&) {
+    textAtEachRename.push_back(Exists(JournalPath()) ? ReadWholeFile(JournalPath()) : "");
+  };
+
+  const CommitResult result = CommitAll();
+
+  EXPECT_TRUE(result.notRenamed.empty());
+  ASSERT_FALSE(textAtEachRename.empty());
+  EXPECT_EQ(fileSystem.renames[0], std::make_pair(PathOf("c"), PathOf("x"))) << "a plain rename comes first";
+  const JournalContent atFirstRename = ParseJournal(textAtEachRename[0]);
+  ASSERT_EQ(atFirstRename.temporaries.size(), 3u);
+  const std::vector<std::pair<std::string, std::string>> expected{{"a", "b"}, {"d", "e"}, {"e", "f"}};
+  for (std::size_t at = 0; at < expected.size(); ++at) {
+    EXPECT_EQ(atFirstRename.temporaries[at].source, PathOf(expected[at].first));
+    EXPECT_EQ(atFirstRename.temporaries[at].temporary, PathOf(expected[at].second) + kMark);
+    EXPECT_EQ(atFirstRename.temporaries[at].final, PathOf(expected[at].second));
+  }
+  EXPECT_EQ(fileSystem.TemporaryRenames(), 3) << "each foreseen move happened";
+  for (const std::string& text : textAtEachRename) EXPECT_EQ(text, textAtEachRename[0]);
+  EXPECT_FALSE(Exists(JournalPath()));
+  EXPECT_EQ(NamesOnDisk(), (Names{"a", "b", "d", "e", "f", "x"}));
+}
+
+// A change of case alone, where case doesn't count, holds its own new name.
+TEST_F(CommitJournaling, ChangeOfCaseAloneIsForeseenWhereCaseDoesntCount) {
+  fileSystem.mode = CaseMode::InsensitiveVolume;
+  AddRow("c");
+  AddRow("a");
+  Rename("c", "x");
+  Rename("a", "A");
   std::optional<JournalContent> atFirstRename;
   fileSystem.beforeRename = [&](const std::string&, const std::string&) {
     if (fileSystem.renames.size() == 1) atFirstRename = JournalAt(JournalPath());
@@ -125,8 +187,42 @@ TEST_F(CommitJournaling, ForeignFileUnderTheTemporaryNameIsNotJournaled) {
   CommitAll();
 
   ASSERT_TRUE(atFirstRename.has_value());
-  EXPECT_TRUE(atFirstRename->temporaries.empty());
-  EXPECT_EQ(ContentOf("b" + kMark), "foreign");
+  ASSERT_EQ(atFirstRename->temporaries.size(), 1u);
+  EXPECT_EQ(atFirstRename->temporaries[0].source, PathOf("a"));
+  EXPECT_EQ(atFirstRename->temporaries[0].temporary, PathOf("A") + kMark);
+  EXPECT_EQ(NamesOnDisk(), (Names{"A", "x"}));
+}
+
+// The new name was free when the plan listed the folder; a file that came
+// after it sends the row through a temporary name nobody foresaw, which is
+// journaled just before the move.
+TEST_F(CommitJournaling, AnUnforeseenTemporaryNameIsJournaledAtItsRename) {
+  AddRow("c");
+  AddRow("a", "alpha");
+  Rename("c", "x");
+  Rename("a", "b");
+  std::vector<std::optional<JournalContent>> atEachRename;
+  fileSystem.beforeRename = [&](const std::string&, const std::string&) {
+    if (fileSystem.renames.size() == 1) files.WriteFile("b", "came after the plan");
+    atEachRename.push_back(JournalAt(JournalPath()));
+  };
+
+  const CommitResult result = CommitAll();
+
+  ASSERT_GE(fileSystem.renames.size(), 3u);
+  EXPECT_EQ(fileSystem.renames[2], std::make_pair(PathOf("a"), PathOf("b") + kMark));
+  ASSERT_TRUE(atEachRename[0].has_value());
+  EXPECT_TRUE(atEachRename[0]->temporaries.empty()) << "nothing was foreseen";
+  ASSERT_TRUE(atEachRename[2].has_value());
+  ASSERT_EQ(atEachRename[2]->temporaries.size(), 1u);
+  EXPECT_EQ(atEachRename[2]->temporaries[0].source, PathOf("a"));
+  EXPECT_EQ(atEachRename[2]->temporaries[0].temporary, PathOf("b") + kMark);
+  EXPECT_EQ(atEachRename[2]->temporaries[0].final, PathOf("b"));
+  // The file that came keeps its name; the release of the temporary name
+  // fails and is reported.
+  EXPECT_EQ(ContentOf("b"), "came after the plan");
+  EXPECT_EQ(ContentOf("b" + kMark), "alpha");
+  EXPECT_FALSE(result.notRenamed.empty());
 }
 
 TEST_F(CommitJournaling, SingleRowIsJournaledToo) {

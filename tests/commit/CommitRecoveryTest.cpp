@@ -200,6 +200,66 @@ TEST_F(CommitRecovery, JournalNamingFilesThatDontExistRenamesNothingAndReports) 
   EXPECT_EQ(NamesOnDisk(), Names{});
 }
 
+// The swap's move to a temporary name is in the journal before the first
+// rename; a crash before it leaves a record of a move that never was.
+TEST_F(CommitRecovery, APredictedTemporaryNameThatNeverCameIntoBeingIsPassedOver) {
+  AddRow("c", "gamma");
+  AddRow("a", "alpha");
+  AddRow("b", "beta");
+  Rename("c", "x");
+  Rename("a", "b");
+  Rename("b", "a");
+  CommitCrashingAt(1);
+  ASSERT_EQ(ParseJournal(ReadWholeFile(JournalPath())).temporaries.size(), 1u);
+
+  const InterruptedCommit commit = Recover();
+
+  EXPECT_TRUE(commit.found);
+  EXPECT_EQ(commit.unresolved, Names{});
+  EXPECT_EQ(commit.finished, Names{});
+  EXPECT_TRUE(fileSystem.renames.empty());
+  EXPECT_EQ(ContentOf("a"), "alpha");
+  EXPECT_EQ(ContentOf("b"), "beta");
+  EXPECT_EQ(ContentOf("c"), "gamma");
+  EXPECT_FALSE(Exists(JournalPath()));
+}
+
+// A planned file under none of its names is told once, by its plan record,
+// not again by the record of a move that may never have happened.
+TEST_F(CommitRecovery, PlannedFileUnderNoNameIsToldOnceThoughAMoveWasForeseen) {
+  data.WriteFile("commit.journal", std::string(kJournalHeader) + JournalPlanRecord(PathOf("a"), PathOf("b")) +
+                                       JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b")));
+
+  const InterruptedCommit commit = Recover();
+
+  EXPECT_TRUE(fileSystem.renames.empty());
+  ASSERT_EQ(commit.unresolved.size(), 2u) << ::testing::PrintToString(commit.unresolved);
+  EXPECT_TRUE(MentionsAll(commit, {Quoted(PathOf("a")), Quoted(PathOf("b")), "under neither name"}));
+  EXPECT_TRUE(MentionsAll(commit, {"will not be read again"}));
+}
+
+// A cycle of three cut short with two files under temporary names, the
+// first row's move unforeseen and so journaled after the second's: undone
+// latest row first, it goes back whole instead of jamming.
+TEST_F(CommitRecovery, MovesAreUndoneInTheBatchsOrderNotTheJournals) {
+  files.WriteFile("b" + kMark, "alpha");
+  files.WriteFile("c" + kMark, "beta");
+  files.WriteFile("c", "gamma");
+  data.WriteFile("commit.journal", std::string(kJournalHeader) + JournalPlanRecord(PathOf("a"), PathOf("b")) +
+                                       JournalPlanRecord(PathOf("b"), PathOf("c")) +
+                                       JournalPlanRecord(PathOf("c"), PathOf("a")) +
+                                       JournalTemporaryRecord(PathOf("b"), PathOf("c" + kMark), PathOf("c")) +
+                                       JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b")));
+
+  const InterruptedCommit commit = Recover();
+
+  EXPECT_EQ(commit.unresolved, Names{});
+  EXPECT_EQ(ContentOf("a"), "alpha");
+  EXPECT_EQ(ContentOf("b"), "beta");
+  EXPECT_EQ(ContentOf("c"), "gamma");
+  EXPECT_EQ(NamesOnDisk(), (Names{"a", "b", "c"}));
+}
+
 TEST_F(CommitRecovery, DamagedJournalIsDoneUpToTheDamageOnlyAndKept) {
   files.WriteFile("b" + kMark, "alpha");
   files.WriteFile("d" + kMark, "gamma");
