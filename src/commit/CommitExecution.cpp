@@ -89,9 +89,23 @@ std::vector<JournalPlanEntry> PlannedRenames(FileList& list, const OrderedPathMa
 // count) goes through a temporary name. Each foreseen name also goes into
 // `foreseen`. Where the disk changes after the plan, the renames find out
 // themselves and journal what wasn't foreseen.
+// Whether any row that will be renamed wants a name that stands on disk. If
+// none does, no temporary name can come: during the batch a name is taken
+// only by another row's new name, and two rows never get the same one.
+bool AnyTargetOnDisk(FileList& list, const OrderedPathMap& blocked, const PathMap& filesOnDisk) {
+  bool found = false;
+  list.ForEach([&](const FileEntry& row) {
+    if (found || !row.HasPendingChange() || blocked.Contains(row.key) || RefuseName(row[kColNewName])) return;
+    found = filesOnDisk.Contains(AddBackslash(row[kColPath]) + row[kColNewName]);
+  });
+  return found;
+}
+
 std::vector<JournalTemporaryEntry> ForeseeTemporaries(CommitBatch& batch, const OrderedPathMap& blocked,
                                                       const PathMap& filesOnDisk, PathMap& foreseen) {
   std::vector<JournalTemporaryEntry> temporaries;
+  // A plain batch (every new name free) spares the copy of the names and the run.
+  if (!AnyTargetOnDisk(batch.model.list, blocked, filesOnDisk)) return temporaries;
   PathMap taken = filesOnDisk;
   FileList& list = batch.model.list;
   for (int position = 1; position <= list.Count(); ++position) {
