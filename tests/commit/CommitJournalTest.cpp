@@ -17,14 +17,22 @@ namespace nomra::testing {
 namespace {
 
 using Names = std::vector<std::string>;
-using CommitJournaling = CommitTest;
-
 const std::string kMark(kTemporaryMark);
 
 std::optional<JournalContent> JournalAt(const std::string& path) {
   if (!Exists(path)) return std::nullopt;
   return ParseJournal(ReadWholeFile(path));
 }
+
+class CommitJournaling : public CommitTest {
+ protected:
+  // What the journal holds at the moment the first rename is made.
+  void KeepJournalAtFirstRename(std::optional<JournalContent>& kept) {
+    fileSystem.beforeRename = [&](const std::string&, const std::string&) {
+      if (fileSystem.renames.size() == 1) kept = JournalAt(JournalPath());
+    };
+  }
+};
 
 Names NamesIn(const std::string& folder) {
   Names names;
@@ -48,9 +56,7 @@ TEST_F(CommitJournaling, PlanIsOnDiskAtTheFirstRenameAndGoneAfterTheBatch) {
   Rename("a", "x");
   Rename("c", "z");
   std::optional<JournalContent> atFirstRename;
-  fileSystem.beforeRename = [&](const std::string&, const std::string&) {
-    if (fileSystem.renames.size() == 1) atFirstRename = JournalAt(JournalPath());
-  };
+  KeepJournalAtFirstRename(atFirstRename);
 
   const CommitResult result = CommitAll();
 
@@ -75,9 +81,7 @@ TEST_F(CommitJournaling, BlockedRowsAreNotInThePlan) {
   Rename("a", "taken");
   Rename("b", "y");
   std::optional<JournalContent> atFirstRename;
-  fileSystem.beforeRename = [&](const std::string&, const std::string&) {
-    if (fileSystem.renames.size() == 1) atFirstRename = JournalAt(JournalPath());
-  };
+  KeepJournalAtFirstRename(atFirstRename);
 
   CommitAll();
 
@@ -180,9 +184,7 @@ TEST_F(CommitJournaling, ChangeOfCaseAloneIsForeseenWhereCaseDoesntCount) {
   Rename("c", "x");
   Rename("a", "A");
   std::optional<JournalContent> atFirstRename;
-  fileSystem.beforeRename = [&](const std::string&, const std::string&) {
-    if (fileSystem.renames.size() == 1) atFirstRename = JournalAt(JournalPath());
-  };
+  KeepJournalAtFirstRename(atFirstRename);
 
   CommitAll();
 
