@@ -39,5 +39,43 @@ inline constexpr char kExpertModeKey[] = "ExpertMode";
 inline constexpr char kCheckExistenceKey[] = "CheckExistence";
 inline constexpr char kLoadExifDatesKey[] = "LoadEXIFDates";
 inline constexpr char kProtocolRenamesKey[] = "protren";
+inline constexpr char kSaveDialogSettingsKey[] = "savset";
+inline constexpr char kRenameStyleKey[] = "RenameStyle";
+inline constexpr char kSplashKey[] = "splash";
+inline constexpr char kButtonBarMainKey[] = "btnbarMain";
+inline constexpr char kButtonBarScriptKey[] = "btnbarScript";
+inline constexpr char kPreviewStyleKey[] = "PreviewStyle";
+inline constexpr char kPreviewGridLinesKey[] = "PreviewGridLines";
+inline constexpr char kPreviewSortKeyKey[] = "PreviewSortKey";
+inline constexpr char kPreviewSortOrderKey[] = "PreviewSortOrder";
+inline constexpr char kPreviewImageSizeKey[] = "PreviewImageSize";
+
+// The main window's place and column widths, in section "Main"; the widths
+// are "Col1" to "Col8".
+inline constexpr char kWindowStateKey[] = "ws";
+inline constexpr char kWindowLeftKey[] = "x";
+inline constexpr char kWindowTopKey[] = "y";
+inline constexpr char kWindowWidthKey[] = "w";
+inline constexpr char kWindowHeightKey[] = "h";
+inline constexpr char kColumnWidthKeyPrefix[] = "Col";
+
+// The colours of the marked fields in dialogs.
+inline constexpr char kDialogsSection[] = "Dialogs";
+inline constexpr char kBackColorKey[] = "BackColor";
+inline constexpr char kForeColorKey[] = "ForeColor";
+
+// The open dialog.
+inline constexpr char kFrmOpenSection[] = "FrmOpen";
+inline constexpr char kCheckAllKey[] = "chkAll";
+inline constexpr char kCheckSubKey[] = "chkSub";
+inline constexpr char kDialogueStyleKey[] = "DialogueStyle";
+inline constexpr char kShowHiddenFilesKey[] = "ShowHiddenFiles";
+
+// The assistant window.
+inline constexpr char kAssistantSection[] = "Assistant";
+inline constexpr char kAssistantVisibleKey[] = "Visible";
+
+// The language name (Main/lngname of a language file) chosen by the user.
+inline constexpr char kLanguageKey[] = "lng";
 
 }  // namespace nomra::settings
