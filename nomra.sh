@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Nomra's one entry script.
-#   ./nomra.sh          install what is missing, build, start Nomra
+#   ./nomra.sh [PATH]   install what is missing, build, start Nomra (with PATHs listed)
 #   ./nomra.sh test     install what is missing, build, run every test
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -8,7 +8,8 @@ cd "$(dirname "$0")"
 BUILD_DIR=${NOMRA_BUILD_DIR:-build}
 
 # Debian packages by name; only the missing ones are installed.
-PACKAGES=(cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev libutf8proc-dev)
+PACKAGES=(cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev libutf8proc-dev
+          qt6-base-dev libqt6svg6 fonts-dejavu-core)
 
 missing_packages() {
   local p
@@ -38,16 +39,12 @@ build() {
 install_missing
 build
 
-case "${1:-}" in
-  test)
-    ctest --test-dir "$BUILD_DIR" --output-on-failure --parallel "$(nproc)"
-    ;;
-  "")
-    # Until the window exists, starting Nomra shows what the command line offers.
-    exec "$BUILD_DIR/bin/nomra-cli" --help
-    ;;
-  *)
-    echo "usage: ./nomra.sh [test]" >&2
-    exit 2
-    ;;
-esac
+if [ "${1:-}" = test ]; then
+  ctest --test-dir "$BUILD_DIR" --output-on-failure --parallel "$(nproc)"
+  exit
+fi
+if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
+  echo "Nomra is built. No display to show its window on; the command line works anywhere:" >&2
+  exec "$BUILD_DIR/bin/nomra-cli" --help
+fi
+exec "$BUILD_DIR/bin/nomra" "$@"

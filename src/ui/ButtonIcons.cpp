@@ -1,0 +1,33 @@
+#include "ui/ButtonIcons.h"
+
+#include <QHash>
+
+namespace nomra::ui {
+
+QString ThemeIconName(const QString& key) {
+  static const QHash<QString, QString> names = {
+      {"OpenFile", "document-open"},
+      {"DelList", "edit-clear"},
+      {"TakeChanges", "document-save"},
+      {"RejectChanges", "edit-delete"},
+      {"Undo", "edit-undo"},
+      {"ImgPreview", "image-x-generic"},
+      {"Options", "preferences-system"},
+      {"Properties", "document-properties"},
+      {"CancelAction", "process-stop"},
+      {"StartRecordScript", "media-record"},
+      {"StopRecordScript", "media-playback-stop"},
+      {"StartRunScript", "media-playback-start"},
+      {"RunSelectedScript", "system-run"},
+  };
+  return names.value(key);
+}
+
+QIcon ButtonIcon(const QString& key) {
+  const QIcon own(QStringLiteral(":/icons/%1.svg").arg(key));
+  const QString themeName = ThemeIconName(key);
+  if (themeName.isEmpty()) return own;
+  return QIcon::fromTheme(themeName, own);
+}
+
+}  // namespace nomra::ui

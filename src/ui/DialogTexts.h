@@ -1,0 +1,15 @@
+#pragma once
+#include <QString>
+
+#include "lang/LocaliseForm.h"
+
+class QWidget;
+
+namespace nomra::ui {
+
+// Localises a dialog of the main window by the engine's rules, with the
+// main window's menu captions at hand for titles that borrow them.
+void LocaliseDialog(QWidget& dialog, const lang::MessageCatalog& catalog, const QWidget* mainWindow,
+                    const QString& appTitle);
+
+}  // namespace nomra::ui

@@ -1,0 +1,59 @@
+#include "ui/LanguageDialog.h"
+
+#include <QComboBox>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "settings/IniFile.h"
+#include "settings/SettingsKeys.h"
+#include "ui/DialogTexts.h"
+
+namespace nomra::ui {
+
+LanguageDialog::LanguageDialog(const std::string& appFolder, std::string settingsFile,
+                               const lang::MessageCatalog& catalog, const QString& menuCaption, QWidget* parent)
+    : QDialog(parent), settingsFile_(std::move(settingsFile)), files_(lang::ListLanguageFiles(appFolder)) {
+  setObjectName("frmOptions");
+  setWindowTitle(menuCaption.isEmpty() ? QString("Options") : QString(menuCaption).remove('&').remove("..."));
+  auto* layout = new QVBoxLayout(this);
+  auto* label = new QLabel("Language:", this);
+  label->setObjectName("lblLng");
+  layout->addWidget(label);
+  choices_ = new QComboBox(this);
+  choices_->setObjectName("cmbLngSel");
+  label->setBuddy(choices_);
+  for (const lang::LanguageFile& file : files_) {
+    const QString name = QString::fromStdString(file.languageName);
+    choices_->addItem(name.isEmpty() ? QFileInfo(QString::fromStdString(file.path)).completeBaseName() : name);
+    if (file.path == catalog.FilePath()) choices_->setCurrentIndex(choices_->count() - 1);
+  }
+  layout->addWidget(choices_);
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch(1);
+  auto* ok = new QPushButton("OK", this);
+  ok->setObjectName("cmdOK");
+  ok->setDefault(true);
+  auto* cancel = new QPushButton("Cancel", this);
+  cancel->setObjectName("cmdCancel");
+  buttons->addWidget(ok);
+  buttons->addWidget(cancel);
+  layout->addLayout(buttons);
+  connect(ok, &QPushButton::clicked, this, [this] {
+    Store();
+    accept();
+  });
+  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+  LocaliseDialog(*this, catalog, parent, QString());
+}
+
+void LanguageDialog::Store() {
+  const int index = choices_->currentIndex();
+  if (index < 0 || index >= static_cast<int>(files_.size())) return;
+  chosen_ = files_[index].path;
+  settings::WriteIni(settings::kSettingsSection, settings::kLanguageKey, files_[index].languageName, settingsFile_);
+}
+
+}  // namespace nomra::ui

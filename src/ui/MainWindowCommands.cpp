@@ -1,0 +1,316 @@
+// What each key, menu entry and list event of the main window runs.
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QListView>
+#include <QMenu>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QUrl>
+#include <QTableView>
+#include <QToolBar>
+
+#include "base/Fault.h"
+#include "commit/TakeChanges.h"
+#include "core/ManualEdit.h"
+#include "core/NameHistory.h"
+#include "core/RemoveRows.h"
+#include "core/SortFileList.h"
+#include "settings/IniFile.h"
+#include "settings/SettingsKeys.h"
+#include "ui/EditManDialog.h"
+#include "ui/FileListModel.h"
+#include "ui/InfoDialog.h"
+#include "ui/LanguageDialog.h"
+#include "ui/MainWindow.h"
+#include "ui/NotRenamedDialog.h"
+#include "ui/QtLocalisation.h"
+#include "ui/ThumbnailCache.h"
+#include "core/WindowPlacement.h"
+
+namespace nomra::ui {
+
+namespace {
+
+// Twelve digits, as the list's hidden sort texts are.
+std::string Padded(int value) {
+  std::string digits = std::to_string(std::max(value, 0));
+  return std::string(digits.size() < 12 ? 12 - digits.size() : 0, '0') + digits;
+}
+
+}  // namespace
+
+void MainWindow::ConnectCommands() {
+  auto on = [this](const char* name, auto handler) { connect(MenuAction(name), &QAction::triggered, this, handler); };
+  on("mnuOpenFile", [this] { RunMainToolKey("OpenFile"); });
+  on("mnuTakeChanges1", [this] { RunDropDownEntry("TakeChanges", "TakeChanges1"); });
+  on("mnuTakeChanges2", [this] { RunDropDownEntry("TakeChanges", "TakeChanges2"); });
+  on("mnuRejectChanges", [this] { RunMainToolKey("RejectChanges"); });
+  on("mnuUndo", [this] { RunMainToolKey("Undo"); });
+  for (int entry = 1; entry <= 5; ++entry) {
+    connect(MenuAction(QString("mnuDelList%1").arg(entry)), &QAction::triggered, this,
+            [this, entry] { RunDropDownEntry("DelList", QString("DelList%1").arg(entry)); });
+  }
+  on("mnuEditMan", [this] { mnuEditMan(); });
+  on("mnuCopyName1", [this] { mnuCopyText(kColOldName); });
+  on("mnuCopyName2", [this] { mnuCopyText(kColNewName); });
+  on("mnuCopyLink", [this] { mnuCopyText(-1); });
+  on("mnuInfo", [this] { mnuInfo(); });
+  on("mnuOptions", [this] { RunMainToolKey("Options"); });
+  on("mnuExperts", [this] { mnuExperts(); });
+  on("mnuEnd", [this] { close(); });
+  on("mnuViewDetails", [this] { SetView(ListView::Details); });
+  on("mnuViewDetailsIcons", [this] { SetView(ListView::DetailsIcons); });
+  on("mnuViewIcons", [this] { SetView(ListView::Icons); });
+  on("mnuGridLines", [this] { SetGridLines(MenuAction("mnuGridLines")->isChecked()); });
+  on("mnuShowBtnBarMain", [this] { mainBar_->setVisible(MenuAction("mnuShowBtnBarMain")->isChecked()); });
+  on("mnuShowBtnBarScript", [this] { scriptBar_->setVisible(MenuAction("mnuShowBtnBarScript")->isChecked()); });
+  on("mnuViewSortingUnsorted", [this] {
+    mnuViewSortingUnsorted(model_);
+    listModel_->Reload();
+    RestoreSelection();
+    UpdateSortIndicators();
+  });
+  for (int entry = 1; entry <= 14; ++entry) {
+    connect(MenuAction(QString("mnuViewSortingSorted(%1)").arg(entry)), &QAction::triggered, this, [this, entry] {
+      mnuViewSortingSorted(model_, entry);
+      listModel_->Reload();
+      RestoreSelection();
+      UpdateSortIndicators();
+    });
+  }
+  for (int entry = 1; entry <= 7; ++entry) {
+    connect(MenuAction(QString("mnuViewPre(%1)").arg(entry)), &QAction::triggered, this, [this, entry] { ToggleColumn(entry); });
+  }
+
+  for (const std::string& key : MainToolBarKeys()) {
+    if (key.empty()) continue;
+    const QString name = QString::fromStdString(key);
+    connect(ToolAction("BtnBarMain", name), &QAction::triggered, this, [this, name] { RunMainToolKey(name); });
+  }
+  connect(ToolAction("btnBarLeft", "EditMan"), &QAction::triggered, this, [this] { mnuEditMan(); });
+  connect(ToolAction("btnBarLeft", "DelList"), &QAction::triggered, this, [this] {
+    const int position = SelectedPosition();
+    if (position > 0) btnBarLeftDel1File(model_, position);
+    RefreshPreview();
+  });
+  connect(ToolAction("btnBarLeft", "CancelAction"), &QAction::triggered, this, [this] { CancelAction(); });
+
+  connect(applyTo_, &QComboBox::currentIndexChanged, this, [this](int index) {
+    if (index >= 0) model_.applyScope = index;
+  });
+  connect(details_->horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) { OnHeadClicked(section); });
+  connect(details_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          [this](const QItemSelection& selected, const QItemSelection& deselected) {
+            for (const QItemSelectionRange& range : deselected) {
+              for (int row = range.top(); row <= range.bottom(); ++row) model_.list.Item(row + 1).selected = false;
+            }
+            for (const QItemSelectionRange& range : selected) {
+              for (int row = range.top(); row <= range.bottom(); ++row) model_.list.Item(row + 1).selected = true;
+            }
+            SelectionHandler();
+          });
+  connect(details_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { SelectionHandler(); });
+  connect(details_, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) { ShowPopup(details_->viewport()->mapToGlobal(at)); });
+  connect(icons_, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) { ShowPopup(icons_->viewport()->mapToGlobal(at)); });
+  connect(listModel_, &FileListModel::rowDropped, this, [this](int dragged, int target) { OnRowDropped(dragged, target); });
+  connect(listModel_, &FileListModel::pathsDropped, this, [this](const QStringList& paths) { AddPaths(paths); });
+  connect(listModel_, &FileListModel::labelEdited, this, [this](int position, const QString& text) { OnLabelEdited(position, text); });
+  connect(thumbnails_, &ThumbnailCache::picturesLoaded, this, [this] {
+    details_->viewport()->update();
+    icons_->viewport()->update();
+  });
+}
+
+void MainWindow::RunMainToolKey(const QString& key) {
+  try {
+    if (key == "OpenFile") {
+      mnuOpenFile();
+    } else if (key == "DelList") {
+      model_.delListTag = variants_.value("DelList").toStdString();
+      UpdateToolTips();
+      deleteFromList(model_);
+      if (model_.list.Empty()) picture_->clear();
+      RefreshPreview();
+    } else if (key == "TakeChanges") {
+      takeChanges();
+    } else if (key == "RejectChanges") {
+      mnuRejectChanges(model_);
+      RefreshPreview();
+    } else if (key == "Undo") {
+      mnuUndo(model_);
+      RefreshPreview();
+    } else if (key == "Options") {
+      mnuOptions();
+    }
+    // Keys of commands that come later, and keys no table knows, do nothing.
+  } catch (const RuntimeFault& fault) {
+    frontEnd_.ShowFault(fault.what());
+    RefreshPreview();
+  }
+}
+
+void MainWindow::RunDropDownEntry(const QString& buttonKey, const QString& entryKey) {
+  if (notYetBuilt_.contains(entryKey)) return;
+  variants_.insert(buttonKey, entryKey);
+  UpdateToolTips();
+  RunMainToolKey(buttonKey);
+}
+
+void MainWindow::mnuOpenFile() {
+  // Nomra's own open dialog with filters comes later; until then both
+  // variants use the system's dialog.
+  const QStringList files = QFileDialog::getOpenFileNames(this, MenuAction("mnuOpenFile")->text().remove('&').remove("..."));
+  if (!files.isEmpty()) AddPaths(files);
+}
+
+void MainWindow::takeChanges() {
+  CommitServices services;
+  services.showNotRenamed = [this](const CommitResult& result) {
+    NotRenamedDialog dialog(result, catalog_, this);
+    dialog.exec();
+    return dialog.Choice();
+  };
+  nomra::takeChanges(model_, variants_.value("TakeChanges").toStdString(), services);
+  RefreshPreview();
+}
+
+void MainWindow::mnuEditMan() {
+  const int position = SelectedPosition();
+  if (position <= 0) return;
+  EditManDialog dialog(QString::fromStdString(model_.list.Item(position)[kColNewName]), catalog_, this);
+  if (dialog.exec() == QDialog::Accepted && ApplyManualEdit(model_, position, dialog.Text().toStdString())) {
+    RefreshPreview();
+  }
+}
+
+void MainWindow::mnuInfo() {
+  InfoDialog dialog(catalog_, appTitle_, version_, MenuAction("mnuInfo")->text(), this);
+  dialog.exec();
+}
+
+void MainWindow::mnuOptions() {
+  LanguageDialog dialog(paths_.appFolder, paths_.settingsPath, catalog_, MenuAction("mnuOptions")->text(), this);
+  if (dialog.exec() == QDialog::Accepted && !dialog.ChosenFile().empty()) UseLanguage(dialog.ChosenFile());
+}
+
+void MainWindow::mnuExperts() {
+  if (model_.expertMode) return;
+  const QString text = frontEnd_.TextOf({"MsgText33", "", MessageStyle::YesNoWarningDefaultNo, {}}) + '\n' +
+                       frontEnd_.TextOf({"MsgText34", "", MessageStyle::YesNoWarningDefaultNo, {}});
+  const Answer answer = frontEnd_.AskText({"MsgText33", "msgCapAttention", MessageStyle::YesNoWarningDefaultNo, {}}, text);
+  if (answer != Answer::Yes) return;
+  model_.expertMode = true;
+  ApplyExpertMode();
+}
+
+// -1 copies the full path.
+void MainWindow::mnuCopyText(int column) {
+  const int position = SelectedPosition();
+  if (position <= 0) return;
+  const FileEntry& row = model_.list.Item(position);
+  QApplication::clipboard()->setText(QString::fromStdString(column < 0 ? row.key : row[column]));
+}
+
+void MainWindow::SetView(ListView view) {
+  view_ = view;
+  RefreshPreview();
+}
+
+void MainWindow::SetIconSizeEntry(int entry) {
+  if (entry == iconSizeEntry_) return;
+  iconSizeEntry_ = entry;
+  const auto entries = iconSizeMenu_->actions();
+  for (int i = 0; i < entries.size(); ++i) entries[i]->setChecked(i + 1 == entry);
+  RefreshPreview();
+  settings::WriteIni(settings::kSettingsSection, settings::kPreviewImageSizeKey, entry, paths_.settingsPath);
+}
+
+// Entry i shows or hides head i + 1, which is Qt's column i.
+void MainWindow::ToggleColumn(int entry) {
+  const bool show = MenuAction(QString("mnuViewPre(%1)").arg(entry))->isChecked();
+  details_->setColumnHidden(entry, !show);
+  if (show) details_->setColumnWidth(entry, TwipsToPixels(entry == 7 ? 1400 : 1800, logicalDpiX()));
+}
+
+void MainWindow::SetGridLines(bool on) { details_->setShowGrid(on); }
+
+void MainWindow::OnHeadClicked(int section) {
+  ClickColumnHead(model_, section + 1);
+  listModel_->Reload();
+  RestoreSelection();
+  UpdateSortIndicators();
+}
+
+// A row dragged by hand: from now on the hand-made order is the user's order.
+void MainWindow::OnRowDropped(int dragged, int target) {
+  if (dragged == target) return;
+  model_.list.MoveRow(dragged, target);
+  model_.list.sortKey = kColListPosition;
+  lastSelectedIndex_ = target;
+  RefreshPreview();
+}
+
+void MainWindow::OnLabelEdited(int position, const QString& text) {
+  labelEditing_ = false;
+  ApplyLabelEdit(model_, position, text.toStdString());
+  RefreshPreview();
+}
+
+// Pictures placed freely: reading order on the screen becomes list order.
+void MainWindow::OnIconLayoutChanged() {
+  const int count = model_.list.Count();
+  if (count == 0) return;
+  const int dx = icons_->horizontalScrollBar()->value();
+  const int dy = icons_->verticalScrollBar()->value();
+  bool moved = false;
+  std::string previous;
+  for (int position = 1; position <= count; ++position) {
+    const QRect place = icons_->visualRect(listModel_->index(position - 1, 0));
+    FileEntry& row = model_.list.Item(position);
+    row[kColSortKey] = Padded(place.top() + dy) + "x" + Padded(place.left() + dx);
+    if (!previous.empty() && row[kColSortKey] < previous) moved = true;
+    previous = row[kColSortKey];
+  }
+  if (!moved) return;
+  model_.list.sortOrder = 0;
+  SortRowsByColumn(model_.list, kColSortKey);
+  model_.list.sortKey = kColListPosition;
+  RefreshPreview();
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == icons_->viewport() && event->type() == QEvent::MouseButtonRelease &&
+      static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+    // Let the view place the item first, then read the places.
+    QMetaObject::invokeMethod(this, [this] { OnIconLayoutChanged(); }, Qt::QueuedConnection);
+  }
+  if (watched == icons_->viewport() && event->type() == QEvent::Drop) {
+    QMetaObject::invokeMethod(this, [this] { OnIconLayoutChanged(); }, Qt::QueuedConnection);
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  QStringList paths;
+  for (const QUrl& url : event->mimeData()->urls()) {
+    if (url.isLocalFile()) paths << url.toLocalFile();
+  }
+  if (paths.isEmpty()) return;
+  event->acceptProposedAction();
+  AddPaths(paths);
+}
+
+void MainWindow::ShowPopup(const QPoint& position) {
+  if (!model_.list.Empty()) popup_->popup(position);
+}
+
+}  // namespace nomra::ui

@@ -1,0 +1,32 @@
+#pragma once
+#include <QDialog>
+
+#include "commit/CommitResult.h"
+#include "commit/CommitServices.h"
+#include "lang/MessageCatalog.h"
+
+class QRadioButton;
+
+namespace nomra::ui {
+
+// The report row's message in the user's language; without a text, a plain
+// English rendering.
+QString ReportRowText(const ReportRow& row, const lang::MessageCatalog& catalog);
+
+// frmNotRenamed: the renames that didn't happen, and what to do with the
+// rows that did: leave them in the list, or take them out.
+class NotRenamedDialog final : public QDialog {
+  Q_OBJECT
+ public:
+  NotRenamedDialog(const CommitResult& result, const lang::MessageCatalog& catalog, QWidget* parent = nullptr);
+
+  // What cmdOK chose; cmdCancel always gives NoAction.
+  NotRenamedChoice Choice() const { return choice_; }
+
+ private:
+  QRadioButton* noAction_ = nullptr;
+  QRadioButton* removeRenamed_ = nullptr;
+  NotRenamedChoice choice_ = NotRenamedChoice::NoAction;
+};
+
+}  // namespace nomra::ui

@@ -1,0 +1,124 @@
+#include "ui/QtFrontEnd.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+
+namespace nomra::ui {
+
+namespace {
+
+constexpr char kMessagesSection[] = "Messages";
+
+QMessageBox::Icon IconOf(MessageStyle style) {
+  switch (style) {
+    case MessageStyle::YesNo:
+    case MessageStyle::YesNoCancelDefaultNo:
+      return QMessageBox::Question;
+    case MessageStyle::YesNoWarningDefaultNo:
+    case MessageStyle::OkWarning:
+      return QMessageBox::Warning;
+    case MessageStyle::OkStop:
+      return QMessageBox::Critical;
+    case MessageStyle::OkInformation:
+      return QMessageBox::Information;
+  }
+  return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons ButtonsOf(MessageStyle style) {
+  switch (style) {
+    case MessageStyle::YesNo:
+    case MessageStyle::YesNoWarningDefaultNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    case MessageStyle::YesNoCancelDefaultNo:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    default:
+      return QMessageBox::Ok;
+  }
+}
+
+QMessageBox::StandardButton DefaultOf(MessageStyle style) {
+  switch (style) {
+    case MessageStyle::YesNo:
+      return QMessageBox::Yes;
+    case MessageStyle::YesNoCancelDefaultNo:
+    case MessageStyle::YesNoWarningDefaultNo:
+      return QMessageBox::No;
+    default:
+      return QMessageBox::Ok;
+  }
+}
+
+Answer AnswerOf(int button) {
+  switch (button) {
+    case QMessageBox::Yes:
+      return Answer::Yes;
+    case QMessageBox::No:
+      return Answer::No;
+    case QMessageBox::Cancel:
+      return Answer::Cancel;
+    default:
+      return Answer::Ok;
+  }
+}
+
+}  // namespace
+
+QtFrontEnd::QtFrontEnd(const lang::MessageCatalog& catalog, QString appTitle)
+    : catalog_(catalog), appTitle_(std::move(appTitle)) {}
+
+QString QtFrontEnd::TextOf(const Message& message) const {
+  std::string text = catalog_.GetText(kMessagesSection, message.textKey, message.arguments);
+  // Without a language text the key still says which question this is.
+  if (text.empty()) text = message.textKey;
+  return QString::fromStdString(text);
+}
+
+QString QtFrontEnd::CaptionOf(const Message& message) const {
+  if (message.captionKey.empty()) return appTitle_;
+  const std::string caption = catalog_.GetText(kMessagesSection, message.captionKey);
+  return caption.empty() ? appTitle_ : QString::fromStdString(caption);
+}
+
+Answer QtFrontEnd::Ask(const Message& message) { return AskText(message, TextOf(message)); }
+
+Answer QtFrontEnd::AskText(const Message& message, const QString& text) {
+  const QString caption = CaptionOf(message);
+  if (answerer_) return answerer_(message, caption, text);
+  // A question waits for the user even while the pointer shows busy.
+  if (busyDepth_ > 0) QApplication::setOverrideCursor(Qt::ArrowCursor);
+  QMessageBox box(IconOf(message.style), caption, text, ButtonsOf(message.style), window_);
+  box.setDefaultButton(DefaultOf(message.style));
+  const int button = box.exec();
+  if (busyDepth_ > 0) QApplication::restoreOverrideCursor();
+  return AnswerOf(button);
+}
+
+void QtFrontEnd::ShowFault(const std::string& text) {
+  Message fault;
+  fault.style = MessageStyle::OkStop;
+  if (answerer_) {
+    answerer_(fault, appTitle_, QString::fromStdString(text));
+    return;
+  }
+  QMessageBox::critical(window_, appTitle_, QString::fromStdString(text));
+}
+
+void QtFrontEnd::SetStatusText(const std::string& text) {
+  if (status_) status_->setText(QString::fromStdString(text));
+}
+
+void QtFrontEnd::Pump() { QCoreApplication::processEvents(); }
+
+void QtFrontEnd::SetBusy(bool busy) {
+  if (busy) {
+    ++busyDepth_;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else if (busyDepth_ > 0) {
+    --busyDepth_;
+    QApplication::restoreOverrideCursor();
+  }
+}
+
+}  // namespace nomra::ui

@@ -1,0 +1,47 @@
+#pragma once
+#include <QLabel>
+#include <QPointer>
+#include <QWidget>
+#include <QString>
+#include <functional>
+
+#include "core/FrontEnd.h"
+#include "lang/MessageCatalog.h"
+
+namespace nomra::ui {
+
+// The engine's questions and messages as Qt message boxes, with texts from
+// the language file. Tests hand it an answerer instead of a person.
+class QtFrontEnd final : public FrontEnd {
+ public:
+  using Answerer = std::function<Answer(const Message& message, const QString& caption, const QString& text)>;
+
+  QtFrontEnd(const lang::MessageCatalog& catalog, QString appTitle);
+
+  void SetParentWindow(QWidget* window) { window_ = window; }
+  void SetStatusLabel(QLabel* label) { status_ = label; }
+  // Replaces the message box, e.g. with scripted answers in tests.
+  void SetAnswerer(Answerer answerer) { answerer_ = std::move(answerer); }
+
+  Answer Ask(const Message& message) override;
+  // A question whose text the caller has put together from several keys.
+  Answer AskText(const Message& message, const QString& text);
+  void ShowFault(const std::string& text) override;
+  void SetStatusText(const std::string& text) override;
+  void Pump() override;
+  void SetBusy(bool busy) override;
+
+  // The text and caption a message shows, placeholders filled.
+  QString TextOf(const Message& message) const;
+  QString CaptionOf(const Message& message) const;
+
+ private:
+  const lang::MessageCatalog& catalog_;
+  QString appTitle_;
+  QPointer<QWidget> window_;
+  QPointer<QLabel> status_;
+  Answerer answerer_;
+  int busyDepth_ = 0;
+};
+
+}  // namespace nomra::ui

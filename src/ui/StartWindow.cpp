@@ -1,0 +1,58 @@
+#include "ui/StartWindow.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "ui/DialogTexts.h"
+
+namespace nomra::ui {
+
+StartWindow::StartWindow(const lang::MessageCatalog& catalog, const QString& appTitle, const QString& version,
+                         QWidget* parent)
+    : QDialog(parent, Qt::SplashScreen) {
+  setObjectName("frmStart");
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(32, 24, 32, 20);
+  auto* icon = new QLabel(this);
+  icon->setPixmap(QIcon(":/icons/nomra.svg").pixmap(64, 64));
+  icon->setAlignment(Qt::AlignCenter);
+  layout->addWidget(icon);
+  auto* name = new QLabel(appTitle, this);
+  name->setObjectName("lblProductName");
+  QFont big = name->font();
+  big.setPointSizeF(big.pointSizeF() * 2);
+  big.setBold(true);
+  name->setFont(big);
+  name->setAlignment(Qt::AlignCenter);
+  layout->addWidget(name);
+  auto* subtitle = new QLabel("Batch file renamer", this);
+  subtitle->setObjectName("lblSV");
+  subtitle->setAlignment(Qt::AlignCenter);
+  layout->addWidget(subtitle);
+  auto* versionLabel = new QLabel(this);
+  versionLabel->setObjectName("lblVers");
+  versionLabel->setAlignment(Qt::AlignCenter);
+  layout->addWidget(versionLabel);
+  auto* copyright = new QLabel(QString::fromUtf8("\u00a9 The Nomra developers"), this);
+  copyright->setObjectName("lblCopy");
+  copyright->setAlignment(Qt::AlignCenter);
+  layout->addWidget(copyright);
+  auto* ok = new QPushButton("OK", this);
+  ok->setObjectName("cmdOK");
+  ok->setDefault(true);
+  layout->addWidget(ok, 0, Qt::AlignCenter);
+  connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+
+  LocaliseDialog(*this, catalog, parent, appTitle);
+  // The version is the program's own, whatever the language file says.
+  versionLabel->setText("Version " + version);
+
+  timer_.setObjectName("Zeit1");
+  timer_.setSingleShot(true);
+  timer_.setInterval(kShowMilliseconds);
+  connect(&timer_, &QTimer::timeout, this, &QDialog::accept);
+  timer_.start();
+}
+
+}  // namespace nomra::ui
