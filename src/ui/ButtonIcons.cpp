@@ -2,7 +2,15 @@
 
 #include <QHash>
 
+// Outside any namespace, as the resource macro needs.
+static void InitialiseIconResources() { Q_INIT_RESOURCE(icons); }
+
 namespace nomra::ui {
+
+void RegisterOwnPictures() {
+  static const bool registered = (InitialiseIconResources(), true);
+  (void)registered;
+}
 
 QString ThemeIconName(const QString& key) {
   static const QHash<QString, QString> names = {
@@ -24,6 +32,7 @@ QString ThemeIconName(const QString& key) {
 }
 
 QIcon ButtonIcon(const QString& key) {
+  RegisterOwnPictures();
   const QIcon own(QStringLiteral(":/icons/%1.svg").arg(key));
   const QString themeName = ThemeIconName(key);
   if (themeName.isEmpty()) return own;

@@ -9,6 +9,10 @@ namespace nomra::ui {
 // looks right on a bare system too.
 QIcon ButtonIcon(const QString& key);
 
+// Makes Nomra's own pictures known; they live in a static library, whose
+// resources Qt doesn't find on its own. Safe to call more than once.
+void RegisterOwnPictures();
+
 // The freedesktop.org icon name used for a key; "" where the theme has none
 // that fits and Nomra's own picture is always used.
 QString ThemeIconName(const QString& key);

@@ -26,6 +26,7 @@
 #include "core/WindowPlacement.h"
 #include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
+#include "ui/ButtonIcons.h"
 #include "ui/FileListModel.h"
 #include "ui/QtLocalisation.h"
 #include "ui/StartWindow.h"
@@ -74,6 +75,7 @@ MainWindow::MainWindow(Services services, QWidget* parent)
       paths_(std::move(services.paths)),
       appTitle_(services.appTitle),
       version_(services.version) {
+  RegisterOwnPictures();
   setObjectName("frmMain");
   setWindowTitle(appTitle_);
   setWindowIcon(QIcon(":/icons/nomra.svg"));
