@@ -29,6 +29,10 @@ inline constexpr char kInstructionSeparator = '|';
 // The rename protocol in the data folder.
 inline constexpr char kProtocolFileName[] = "renamed.nrp";
 
+// The work file of a script recording in the data folder; one left by a
+// recording that never ended is removed at start.
+inline constexpr char kScriptTempFileName[] = "script.tmp";
+
 // Section "Settings" of the settings file.
 inline constexpr char kSettingsSection[] = "Settings";
 inline constexpr char kLettersKey[] = "letters";

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -25,10 +26,15 @@ LanguageDialog::LanguageDialog(const std::string& appFolder, std::string setting
   choices_ = new QComboBox(this);
   choices_->setObjectName("cmbLngSel");
   label->setBuddy(choices_);
+  // Before any choice, the desktop's own language is offered first.
+  const QLocale desktop = QLocale::system();
+  const QStringList desktopNames = {desktop.nativeLanguageName(), QLocale::languageToString(desktop.language())};
   for (const lang::LanguageFile& file : files_) {
     const QString name = QString::fromStdString(file.languageName);
     choices_->addItem(name.isEmpty() ? QFileInfo(QString::fromStdString(file.path)).completeBaseName() : name);
-    if (file.path == catalog.FilePath()) choices_->setCurrentIndex(choices_->count() - 1);
+    const bool current = catalog.FilePath().empty() ? desktopNames.contains(name, Qt::CaseInsensitive)
+                                                    : file.path == catalog.FilePath();
+    if (current) choices_->setCurrentIndex(choices_->count() - 1);
   }
   layout->addWidget(choices_);
   auto* buttons = new QHBoxLayout;

@@ -1,6 +1,7 @@
 #include "ui/MainWindow.h"
 
 #include <QActionGroup>
+#include <cstdio>
 #include <QApplication>
 #include <QComboBox>
 #include <QEvent>
@@ -101,6 +102,7 @@ MainWindow::MainWindow(Services services, QWidget* parent)
   const InterruptedCommit interrupted = RecoverInterruptedCommit(model_.fileSystem, model_.dataFolder);
   ShowUnresolved(frontEnd_, interrupted);
 
+  if (paths_.dataFolderUsable) std::remove((paths_.dataFolder + settings::kScriptTempFileName).c_str());
   LocaliseWidget(*this, QString(), catalog_, lang::CaptionSources{});
   setLngalt();
   RefreshPreview();
