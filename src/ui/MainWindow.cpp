@@ -29,6 +29,7 @@
 #include "settings/SettingsKeys.h"
 #include "ui/ButtonIcons.h"
 #include "ui/FileListModel.h"
+#include "ui/IconCellDelegate.h"
 #include "ui/QtLocalisation.h"
 #include "ui/StartWindow.h"
 #include "ui/ThumbnailCache.h"
@@ -190,14 +191,15 @@ int MainWindow::IconSize() const {
   return entry == nullptr ? 0 : entry->text().remove('&').toInt();
 }
 
-// Each drop-down button shows its base tip and the variant in force.
+// Each drop-down button shows its base tip and the variant in force; the
+// variant's text is a menu caption, whose shortcut marks a tip doesn't show.
 void MainWindow::UpdateToolTips() {
   for (auto it = baseToolTips_.constBegin(); it != baseToolTips_.constEnd(); ++it) {
     QAction* button = ToolAction("BtnBarMain", it.key());
     QString variantText;
     for (QAction* entry : button->menu()->actions()) {
       if (entry->property(kKeyProperty).toString().compare(variants_.value(it.key()), Qt::CaseInsensitive) == 0) {
-        variantText = entry->text();
+        variantText = entry->text().remove('&');
       }
     }
     button->setToolTip(it.value() + " [" + variantText + "]");
@@ -212,7 +214,11 @@ void MainWindow::LoadSettingsIntoWindow() {
 
   const double dpi = logicalDpiX();
   for (int head = 1; head <= 8; ++head) {
-    const long width = ColumnWidthToApply(head, settings_.columnWidths[head - 1]);
+    long width = ColumnWidthToApply(head, settings_.columnWidths[head - 1]);
+    // A date column without a stored width shows the whole date at any font size.
+    if (settings_.columnWidths[head - 1] < 0 && (head == 5 || head == 6)) {
+      width = std::max<long>(width, PixelsToTwips(fontMetrics().horizontalAdvance("0000-00-00 00:00:00") + 16, dpi));
+    }
     if (width >= 0) details_->setColumnWidth(head - 1, TwipsToPixels(static_cast<int>(width), dpi));
     if (width == 0) details_->setColumnHidden(head - 1, true);
   }
@@ -277,11 +283,18 @@ void MainWindow::RefreshPreview() {
   listModel_->SetInPlaceEditing(view_ == ListView::Icons);
   views_->setCurrentWidget(view_ == ListView::Icons ? static_cast<QWidget*>(icons_) : details_);
   details_->setColumnHidden(0, !pictures);
-  if (pictures) details_->setColumnWidth(0, IconSize() + 8);
+  details_->setIconSize(QSize(IconSize(), IconSize()));
+  if (pictures) {
+    const QString head = listModel_->headerData(0, Qt::Horizontal, Qt::DisplayRole).toString();
+    const int headWidth = details_->horizontalHeader()->fontMetrics().horizontalAdvance(head) + 24;
+    details_->setColumnWidth(0, std::max(IconSize() + 8, headWidth));
+  }
   details_->verticalHeader()->setDefaultSectionSize(
       std::max(fontMetrics().height() + 6, view_ == ListView::DetailsIcons ? IconSize() + 4 : 0));
   icons_->setIconSize(QSize(IconSize(), IconSize()));
-  icons_->setGridSize(QSize(std::max(IconSize() + 48, 96), IconSize() + 3 * fontMetrics().height() + 8));
+  const QSize cell(std::max(IconSize() + 48, 104), IconSize() + 3 * fontMetrics().height() + 10);
+  icons_->setGridSize(cell);
+  iconCells_->SetCellSize(cell - QSize(6, 6));
   MenuAction(view_ == ListView::Details ? "mnuViewDetails"
              : view_ == ListView::DetailsIcons ? "mnuViewDetailsIcons" : "mnuViewIcons")->setChecked(true);
 

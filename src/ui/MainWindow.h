@@ -28,6 +28,7 @@ class QToolBar;
 namespace nomra::ui {
 
 class FileListModel;
+class IconCellDelegate;
 class ThumbnailCache;
 
 // The three layouts of the list.
@@ -159,6 +160,7 @@ class MainWindow final : public QMainWindow {
   QStackedWidget* views_ = nullptr;
   QTableView* details_ = nullptr;
   QListView* icons_ = nullptr;
+  IconCellDelegate* iconCells_ = nullptr;
   QComboBox* applyTo_ = nullptr;
   QLabel* status_ = nullptr;
   QLabel* selectedScript_ = nullptr;

@@ -20,6 +20,7 @@
 #include "core/CommandState.h"
 #include "ui/ButtonIcons.h"
 #include "ui/FileListModel.h"
+#include "ui/IconCellDelegate.h"
 #include "ui/MainWindow.h"
 #include "ui/QtLocalisation.h"
 #include "ui/ThumbnailCache.h"
@@ -338,7 +339,12 @@ void MainWindow::BuildCentral() {
   icons_->setResizeMode(QListView::Adjust);
   icons_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   icons_->setEditTriggers(QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed);
+  // Every cell has the grid's size, so 100,000 pictures lay out without
+  // measuring each name, and long names still wrap onto three lines.
+  iconCells_ = new IconCellDelegate(icons_);
+  icons_->setItemDelegate(iconCells_);
   icons_->setUniformItemSizes(true);
+  icons_->setTextElideMode(Qt::ElideMiddle);
   icons_->setWordWrap(true);
   icons_->setAcceptDrops(true);
   icons_->setDragEnabled(true);
