@@ -12,19 +12,6 @@ namespace nomra::settings {
 
 namespace {
 
-// The profile routines we stand in for read into a buffer of this size.
-constexpr std::size_t kLongestValue = 999;
-
-std::string CutToCharacters(std::string value, std::size_t limit) {
-  std::size_t count = 0;
-  std::size_t cutAt = std::string::npos;
-  text::ForEachChar(value, [&](char32_t, std::size_t offset, std::size_t) {
-    if (count++ == limit && cutAt == std::string::npos) cutAt = offset;
-  });
-  if (cutAt != std::string::npos) value.resize(cutAt);
-  return value;
-}
-
 // A line break in a value would open a line of its own; the reader could
 // never give back more than the first line anyway, so only that is stored.
 std::string_view FirstLineOf(std::string_view value) {
@@ -38,7 +25,7 @@ std::string ReadIniString(std::string_view section, std::string_view key, const 
   if (!bytes) return {};
   auto value = FindValue(SplitLines(text::DecodeTextFile(*bytes)), section, key);
   if (!value) return {};
-  return CutToCharacters(std::move(*value), kLongestValue);
+  return CutToLongestValue(std::move(*value));
 }
 
 long ReadIniInt(std::string_view section, std::string_view key, const std::string& file) {

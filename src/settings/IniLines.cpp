@@ -1,8 +1,20 @@
 #include "settings/IniLines.h"
 
+#include "base/Utf8.h"
+
 #include "base/CaseMap.h"
 
 namespace nomra::settings {
+
+std::string CutToLongestValue(std::string value) {
+  std::size_t count = 0;
+  std::size_t cutAt = std::string::npos;
+  text::ForEachChar(value, [&](char32_t, std::size_t offset, std::size_t) {
+    if (count++ == kLongestIniValue && cutAt == std::string::npos) cutAt = offset;
+  });
+  if (cutAt != std::string::npos) value.resize(cutAt);
+  return value;
+}
 
 namespace {
 

@@ -12,6 +12,12 @@ namespace nomra::settings {
 // and, inside it, the first matching key win, as the Windows profile routines
 // do.
 
+// The longest value the profile routines give back, in characters.
+inline constexpr std::size_t kLongestIniValue = 999;
+
+// A value cut to kLongestIniValue characters, never inside a character.
+std::string CutToLongestValue(std::string value);
+
 // Spaces and tabs, the blanks around names and values.
 std::string_view TrimBlanks(std::string_view text);
 
