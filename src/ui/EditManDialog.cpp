@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "core/ManualEdit.h"
+#include "ui/DialogButtons.h"
 #include "ui/DialogTexts.h"
 
 namespace nomra::ui {
@@ -26,18 +27,8 @@ EditManDialog::EditManDialog(const QString& pendingName, const lang::MessageCata
   name_->installEventFilter(this);
   label->setBuddy(name_);
   layout->addWidget(name_);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  auto* ok = new QPushButton("OK", this);
-  ok->setObjectName("cmdOK");
-  ok->setDefault(true);
-  auto* cancel = new QPushButton("Cancel", this);
-  cancel->setObjectName("cmdCancel");
-  buttons->addWidget(ok);
-  buttons->addWidget(cancel);
-  layout->addLayout(buttons);
+  QPushButton* ok = AddOkCancelRow(*this, *layout);
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 
   LocaliseDialog(*this, catalog, parent, QString());
   // The name without its extension is what one usually changes.

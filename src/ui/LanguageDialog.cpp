@@ -10,6 +10,7 @@
 
 #include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
+#include "ui/DialogButtons.h"
 #include "ui/DialogTexts.h"
 
 namespace nomra::ui {
@@ -37,21 +38,11 @@ LanguageDialog::LanguageDialog(const std::string& appFolder, std::string setting
     if (current) choices_->setCurrentIndex(choices_->count() - 1);
   }
   layout->addWidget(choices_);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  auto* ok = new QPushButton("OK", this);
-  ok->setObjectName("cmdOK");
-  ok->setDefault(true);
-  auto* cancel = new QPushButton("Cancel", this);
-  cancel->setObjectName("cmdCancel");
-  buttons->addWidget(ok);
-  buttons->addWidget(cancel);
-  layout->addLayout(buttons);
+  QPushButton* ok = AddOkCancelRow(*this, *layout);
   connect(ok, &QPushButton::clicked, this, [this] {
     Store();
     accept();
   });
-  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   LocaliseDialog(*this, catalog, parent, QString());
 }
 

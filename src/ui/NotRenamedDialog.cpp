@@ -9,6 +9,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "ui/DialogButtons.h"
 #include "ui/DialogTexts.h"
 
 namespace nomra::ui {
@@ -59,21 +60,11 @@ NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::Messa
   layout->addWidget(noAction_);
   layout->addWidget(removeRenamed_);
 
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  auto* ok = new QPushButton("OK", this);
-  ok->setObjectName("cmdOK");
-  ok->setDefault(true);
-  auto* cancel = new QPushButton("Cancel", this);
-  cancel->setObjectName("cmdCancel");
-  buttons->addWidget(ok);
-  buttons->addWidget(cancel);
-  layout->addLayout(buttons);
+  QPushButton* ok = AddOkCancelRow(*this, *layout);
   connect(ok, &QPushButton::clicked, this, [this] {
     choice_ = removeRenamed_->isChecked() ? NotRenamedChoice::RemoveRenamed : NotRenamedChoice::NoAction;
     accept();
   });
-  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 
   LocaliseDialog(*this, catalog, parent, QString());
 }
