@@ -12,7 +12,7 @@
 #include <memory>
 #include <vector>
 
-#include "base/CaseMap.h"
+#include "platform/posix/CaseLookup.h"
 #include "platform/posix/NoReplaceRename.h"
 
 namespace nomra::platform {
@@ -49,27 +49,6 @@ bool HasCasefoldAttribute(const std::string& folder) {
   const bool ok = ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0;
   close(fd);
   return ok && (flags & kCasefoldFlag) != 0;
-}
-
-// Looks up an entry of the folder under another case; the same inode means
-// the folder ignores case.
-bool LookupIgnoresCase(const std::string& folder) {
-  std::unique_ptr<DIR, int (*)(DIR*)> dir(opendir(folder.c_str()), closedir);
-  if (!dir) return false;
-  while (dirent* entry = readdir(dir.get())) {
-    const std::string name = entry->d_name;
-    if (name == "." || name == "..") continue;
-    std::string flipped = text::ToUpper(name);
-    if (flipped == name) flipped = text::ToLower(name);
-    if (flipped == name) continue;
-    struct stat original {};
-    struct stat other {};
-    const std::string base = folder.empty() || folder.back() == '/' ? folder : folder + "/";
-    if (lstat((base + name).c_str(), &original) != 0) continue;
-    if (lstat((base + flipped).c_str(), &other) != 0) return false;
-    return original.st_ino == other.st_ino && original.st_dev == other.st_dev;
-  }
-  return false;
 }
 
 }  // namespace
