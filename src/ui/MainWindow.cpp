@@ -120,6 +120,11 @@ QAbstractItemView* MainWindow::ActiveListView() const {
 
 void MainWindow::UseLanguage(const std::string& languageFile) {
   catalog_ = lang::MessageCatalog(languageFile);
+  // The drop-down buttons go back to their base tips, so that a language
+  // without a tip of its own doesn't take the variant in as part of the base.
+  for (auto it = baseToolTips_.constBegin(); it != baseToolTips_.constEnd(); ++it) {
+    ToolAction("BtnBarMain", it.key())->setToolTip(it.value());
+  }
   LocaliseWidget(*this, QString(), catalog_, lang::CaptionSources{});
   setLngalt();
   RefreshPreview();
