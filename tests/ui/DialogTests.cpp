@@ -1,0 +1,187 @@
+// The small dialogs of the main window, each driven on its own.
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTreeWidget>
+
+#include "commit/CommitResult.h"
+#include "lang/MessageCatalog.h"
+#include "settings/IniFile.h"
+#include "support/TempFolder.h"
+#include "ui/LanguageDialog.h"
+#include "ui/NotRenamedDialog.h"
+#include "ui/StartWindow.h"
+#include "ui/WindowFixture.h"
+
+namespace nomra::ui::testing {
+namespace {
+
+using nomra::testing::TempFolder;
+
+class LanguageDialogTest : public ::testing::Test {
+ protected:
+  LanguageDialogTest() {
+    alpha = folder.WriteFile("Alpha.lng", "[Main]\nlngname=Alpha\n[frmMain]\nmnuFile=&Alpha file\n");
+    beta = folder.WriteFile("Beta.lng", "[Main]\nlngname=Beta\n[frmMain]\nmnuFile=&Beta file\n");
+  }
+  std::string SettingsFile() const { return data.Path() + "settings.nrp"; }
+
+  TempFolder folder;
+  TempFolder data;
+  std::string alpha;
+  std::string beta;
+};
+
+TEST_F(LanguageDialogTest, ListsTheLanguageNamesOfTheFolder) {
+  LanguageDialog dialog(folder.Path(), SettingsFile(), lang::MessageCatalog(), QString());
+
+  QStringList names;
+  for (int i = 0; i < dialog.Choices().count(); ++i) names << dialog.Choices().itemText(i);
+  names.sort();
+  EXPECT_EQ(names, QStringList({"Alpha", "Beta"}));
+}
+
+TEST_F(LanguageDialogTest, LanguageInUseIsTheOneShownFirst) {
+  LanguageDialog dialog(folder.Path(), SettingsFile(), lang::MessageCatalog(beta), QString());
+  EXPECT_EQ(dialog.Choices().currentText(), "Beta");
+}
+
+TEST_F(LanguageDialogTest, OkStoresTheChosenLanguage) {
+  LanguageDialog dialog(folder.Path(), SettingsFile(), lang::MessageCatalog(alpha), QString());
+  dialog.Choices().setCurrentIndex(dialog.Choices().findText("Beta"));
+
+  dialog.findChild<QPushButton*>("cmdOK")->click();
+
+  EXPECT_EQ(dialog.result(), QDialog::Accepted);
+  EXPECT_EQ(settings::ReadIniString("Settings", "lng", SettingsFile()), "Beta");
+  EXPECT_EQ(dialog.ChosenFile(), beta);
+}
+
+TEST_F(LanguageDialogTest, CancelStoresNothing) {
+  LanguageDialog dialog(folder.Path(), SettingsFile(), lang::MessageCatalog(alpha), QString());
+  dialog.Choices().setCurrentIndex(dialog.Choices().findText("Beta"));
+
+  dialog.findChild<QPushButton*>("cmdCancel")->click();
+
+  EXPECT_EQ(settings::ReadIniString("Settings", "lng", SettingsFile()), "");
+  EXPECT_EQ(dialog.ChosenFile(), "");
+}
+
+class OptionsTest : public WindowTest {};
+
+TEST_F(OptionsTest, LanguageChosenInOptionsPutsItsTextsOnTheWindow) {
+  const std::string alpha = app.WriteFile("Alpha.lng", "[Main]\nlngname=Alpha\n[frmMain]\nmnuFile=&Alpha file\n");
+  app.WriteFile("Beta.lng", "[Main]\nlngname=Beta\n[frmMain]\nmnuFile=&Beta file\n");
+  Open(alpha);
+  ASSERT_EQ(Menu("mnuFile")->text(), "&Alpha file");
+  expectedModals << "frmOptions";
+  modals.SetHandler([](QWidget& modal) {
+    auto* choices = modal.findChild<QComboBox*>("cmbLngSel");
+    choices->setCurrentIndex(choices->findText("Beta"));
+    modal.findChild<QPushButton*>("cmdOK")->click();
+  });
+
+  window->RunMainToolKey("Options");
+
+  EXPECT_EQ(Menu("mnuFile")->text(), "&Beta file");
+  EXPECT_EQ(settings::ReadIniString("Settings", "lng", SettingsPath()), "Beta");
+}
+
+TEST_F(OptionsTest, NewLanguageKeepsOneVariantInTheDropDownToolTips) {
+  const std::string alpha = app.WriteFile("Alpha.lng", "[Main]\nlngname=Alpha\n[frmMain]\nBtnBarMainDelList=Alpha tip\n");
+  app.WriteFile("Beta.lng", "[Main]\nlngname=Beta\n");
+  Open(alpha);
+  window->RunDropDownEntry("DelList", "DelList5");
+  const QString tip = MainTool("DelList")->toolTip();
+  ASSERT_TRUE(tip.startsWith("Alpha tip [")) << tip.toStdString();
+  expectedModals << "frmOptions";
+  modals.SetHandler([](QWidget& modal) {
+    auto* choices = modal.findChild<QComboBox*>("cmbLngSel");
+    choices->setCurrentIndex(choices->findText("Beta"));
+    modal.findChild<QPushButton*>("cmdOK")->click();
+  });
+
+  window->RunMainToolKey("Options");
+
+  // The language without a text of its own leaves the tip as it was.
+  EXPECT_EQ(MainTool("DelList")->toolTip(), tip);
+}
+
+TEST(StartWindowTest, ClosesItselfByItsTimer) {
+  StartWindow start(lang::MessageCatalog(), "Nomra", "1.2.3");
+  start.Zeit1().setInterval(10);
+  start.Zeit1().start();
+  start.show();
+
+  EXPECT_TRUE(WaitFor([&] { return !start.isVisible(); }));
+  EXPECT_EQ(start.result(), QDialog::Accepted);
+}
+
+TEST(StartWindowTest, ShowsTheProgramsVersion) {
+  StartWindow start(lang::MessageCatalog(EnglishFile()), "Nomra", "1.2.3");
+  start.Zeit1().stop();
+  EXPECT_EQ(start.findChild<QLabel*>("lblVers")->text(), "Version 1.2.3");
+}
+
+class NotRenamedDialogTest : public ::testing::Test {
+ protected:
+  NotRenamedDialogTest() {
+    ReportRow exists;
+    exists.number = 1;
+    exists.rowKey = "/d/a.txt";
+    exists.textKey = kTargetExistsText;
+    exists.arguments = {"\"/d/a.txt\"", "\"/d/b.txt\""};
+    ReportRow other;
+    other.number = 2;
+    other.rowKey = "/d/c.txt";
+    other.textKey = kOtherFailureText;
+    other.arguments = {"\"/d/c.txt\"", "\"/d/e.txt\""};
+    result.notRenamed = {exists, other};
+    result.renamed = {"/d/f.txt"};
+  }
+
+  CommitResult result;
+  lang::MessageCatalog catalog{EnglishFile()};
+};
+
+TEST_F(NotRenamedDialogTest, ListsEachRowWithNumberAndMessage) {
+  NotRenamedDialog dialog(result, catalog);
+  auto* rows = dialog.findChild<QTreeWidget*>("lstNotRenamed");
+  ASSERT_EQ(rows->topLevelItemCount(), 2);
+
+  const std::string expected = catalog.GetText("Messages", "MsgText05", {"\"/d/a.txt\"", "\"/d/b.txt\""});
+  ASSERT_FALSE(expected.empty());
+  EXPECT_EQ(rows->topLevelItem(0)->text(0), "1");
+  EXPECT_EQ(rows->topLevelItem(0)->text(1), QString::fromStdString(expected));
+  EXPECT_TRUE(rows->topLevelItem(0)->text(1).contains("/d/b.txt"));
+  EXPECT_EQ(rows->topLevelItem(1)->text(0), "2");
+}
+
+TEST_F(NotRenamedDialogTest, LeavingTheRowsIsChosenAtOpen) {
+  NotRenamedDialog dialog(result, catalog);
+  EXPECT_TRUE(dialog.findChild<QRadioButton*>("optNoAction")->isChecked());
+  EXPECT_FALSE(dialog.findChild<QRadioButton*>("optRemoveRenamed")->isChecked());
+  EXPECT_EQ(dialog.Choice(), NotRenamedChoice::NoAction);
+}
+
+TEST_F(NotRenamedDialogTest, OkWithRemoveChosenRemovesTheRenamed) {
+  NotRenamedDialog dialog(result, catalog);
+  dialog.findChild<QRadioButton*>("optRemoveRenamed")->setChecked(true);
+
+  dialog.findChild<QPushButton*>("cmdOK")->click();
+
+  EXPECT_EQ(dialog.Choice(), NotRenamedChoice::RemoveRenamed);
+}
+
+TEST_F(NotRenamedDialogTest, CancelLeavesTheRowsWhateverWasChosen) {
+  NotRenamedDialog dialog(result, catalog);
+  dialog.findChild<QRadioButton*>("optRemoveRenamed")->setChecked(true);
+
+  dialog.findChild<QPushButton*>("cmdCancel")->click();
+
+  EXPECT_EQ(dialog.Choice(), NotRenamedChoice::NoAction);
+}
+
+}  // namespace
+}  // namespace nomra::ui::testing
