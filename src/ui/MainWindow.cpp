@@ -201,9 +201,13 @@ int MainWindow::IconSize() const {
 void MainWindow::UpdateToolTips() {
   for (auto it = baseToolTips_.constBegin(); it != baseToolTips_.constEnd(); ++it) {
     QAction* button = ToolAction("BtnBarMain", it.key());
+    const QList<QAction*> entries = button->menu()->actions();
+    // No variant chosen yet acts as the first one, so the tip names that.
+    QString variant = variants_.value(it.key());
+    if (variant.isEmpty() && !entries.isEmpty()) variant = entries.first()->property(kKeyProperty).toString();
     QString variantText;
-    for (QAction* entry : button->menu()->actions()) {
-      if (entry->property(kKeyProperty).toString().compare(variants_.value(it.key()), Qt::CaseInsensitive) == 0) {
+    for (QAction* entry : entries) {
+      if (entry->property(kKeyProperty).toString().compare(variant, Qt::CaseInsensitive) == 0) {
         variantText = entry->text().remove('&');
       }
     }
