@@ -53,6 +53,10 @@ inline constexpr char kPreviewGridLinesKey[] = "PreviewGridLines";
 inline constexpr char kPreviewSortKeyKey[] = "PreviewSortKey";
 inline constexpr char kPreviewSortOrderKey[] = "PreviewSortOrder";
 inline constexpr char kPreviewImageSizeKey[] = "PreviewImageSize";
+// Where the open dialogs start next, and the filter row last chosen in the
+// system open dialog (1-based).
+inline constexpr char kLastPathKey[] = "lastpath";
+inline constexpr char kLastFilterKey[] = "lastfilter";
 
 // The main window's place and column widths, in section "Main"; the widths
 // are "Col1" to "Col8".
@@ -74,6 +78,13 @@ inline constexpr char kCheckAllKey[] = "chkAll";
 inline constexpr char kCheckSubKey[] = "chkSub";
 inline constexpr char kDialogueStyleKey[] = "DialogueStyle";
 inline constexpr char kShowHiddenFilesKey[] = "ShowHiddenFiles";
+
+// The filters of the open dialogs: keys f1, f2, ... in section "Filter"
+// ("Name|pattern") for the system dialog, in section "PowerFilter" (a digit
+// "1" or "0" for the check, then the pattern) for Nomra's own dialog.
+inline constexpr char kFilterSection[] = "Filter";
+inline constexpr char kPowerFilterSection[] = "PowerFilter";
+inline constexpr char kFilterKeyPrefix[] = "f";
 
 // The assistant window.
 inline constexpr char kAssistantSection[] = "Assistant";

@@ -1,0 +1,118 @@
+#include "open/OpenCommand.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+#include "base/Fault.h"
+#include "base/Helpers.h"
+#include "core/AddFile.h"
+#include "core/RefreshPreview.h"
+#include "open/BusyPointer.h"
+#include "open/FolderWalk.h"
+#include "settings/IniFile.h"
+#include "settings/SettingsKeys.h"
+
+namespace nomra::open {
+
+namespace {
+
+// A folder text through its last separator.
+std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind(kPathSeparator) + 1); }
+
+// A stop by the user: what was added so far is shown, and the flag is
+// spent.
+LoadOutcome StopLoading(MainModel& model) {
+  refreshPreview(model);
+  model.cancelLoading = false;
+  return LoadOutcome::Cancelled;
+}
+
+// A path the user chose that names nothing ends the command with a fault;
+// the rows added before it are shown first.
+void AddChosenPath(MainModel& model, std::string path) {
+  try {
+    AddFile(model, path);
+  } catch (const RuntimeFault&) {
+    refreshPreview(model);
+    throw;
+  }
+}
+
+// The pattern of the chosen filter row; an index the list doesn't have
+// means the first row.
+std::string PatternOf(const std::vector<FilterRow>& filters, int filterIndex) {
+  if (filters.empty()) return "*.*";
+  if (filterIndex < 1 || static_cast<std::size_t>(filterIndex) > filters.size()) return filters.front().pattern;
+  return filters[filterIndex - 1].pattern;
+}
+
+// The folder whose files are all taken: a chosen file stands for its folder.
+std::string FolderToTake(MainModel& model, const std::string& chosen) {
+  if (model.fileSystem.Status(chosen).kind == platform::EntryKind::File) return FolderOf(chosen);
+  return AddBackslash(chosen);
+}
+
+// False when the user stopped the walk.
+bool AddAllFiles(MainModel& model, const std::string& folder, const OpenChoice& choice,
+                 const std::vector<FilterRow>& filters, bool showHiddenFiles) {
+  const std::string pattern = PatternOf(filters, choice.filterIndex);
+  const bool walked = WalkFolders(
+      model.fileSystem, {folder}, choice.subFolders,
+      [&](std::size_t, const std::string& current, const std::vector<std::string>& fileNames) {
+        for (const std::string& name : fileNames) {
+          if (model.cancelLoading) return false;
+          if (!PassesFilter(name, pattern)) continue;
+          if (IsHiddenName(name) && !showHiddenFiles) continue;
+          std::string path = current + name;
+          try {
+            AddFile(model, path);
+          } catch (const RuntimeFault&) {
+            // A file that went away during the walk is passed over.
+          }
+        }
+        return true;
+      });
+  // A stop pressed while the very last file was added counts as well, so
+  // the flag never outlives the load.
+  return walked && !model.cancelLoading;
+}
+
+}  // namespace
+
+LoadOutcome RunOpenChoice(MainModel& model, const OpenChoice& choice, const std::vector<FilterRow>& filters,
+                          const std::string& settingsFile, bool showHiddenFiles) {
+  if (choice.paths.empty()) return LoadOutcome::Finished;  // nothing chosen is a dialog cancelled
+  BusyPointer busy(model.frontEnd);
+
+  std::string lastPath = FolderOf(choice.paths.front());
+  if (choice.mode == OpenMode::Files && choice.allFiles) {
+    const std::string folder = FolderToTake(model, choice.paths.front());
+    lastPath = folder;
+    if (!AddAllFiles(model, folder, choice, filters, showHiddenFiles)) return StopLoading(model);
+  } else {
+    for (const std::string& path : choice.paths) {
+      if (choice.mode == OpenMode::Playlists) {
+        LoadPlaylist(model, path);
+      } else {
+        AddChosenPath(model, path);
+      }
+      if (model.cancelLoading) return StopLoading(model);
+    }
+  }
+
+  refreshPreview(model);
+  settings::WriteIni(settings::kSettingsSection, settings::kLastPathKey, lastPath, settingsFile);
+  settings::WriteIni(settings::kSettingsSection, settings::kLastFilterKey, choice.filterIndex, settingsFile);
+  return LoadOutcome::Finished;
+}
+
+std::string InitialFolder(const std::string& settingsFile) {
+  const std::string lastPath = settings::ReadIniString(settings::kSettingsSection, settings::kLastPathKey, settingsFile);
+  std::error_code error;
+  if (!lastPath.empty() && std::filesystem::is_directory(lastPath, error)) return lastPath;
+  const char* home = std::getenv("HOME");
+  return AddBackslash(home != nullptr && *home != '\0' ? home : "/");
+}
+
+}  // namespace nomra::open

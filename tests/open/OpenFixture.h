@@ -1,0 +1,85 @@
+#pragma once
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "core/MainModel.h"
+#include "settings/IniFile.h"
+#include "settings/SettingsKeys.h"
+#include "support/ForwardingFileSystem.h"
+#include "support/ScriptedFrontEnd.h"
+#include "support/TempFolder.h"
+
+namespace nomra::testing {
+
+// The real file system, remembering every file it was asked about, in
+// order: AddFile asks once for each path it adds, so this is the order in
+// which files reached the list. Folders can be made unreadable.
+class RecordingFileSystem final : public ForwardingFileSystem {
+ public:
+  platform::FileStatus Status(const std::string& path) override {
+    platform::FileStatus status = real.Status(path);
+    if (status.kind == platform::EntryKind::File) filesAsked.push_back(path);
+    return status;
+  }
+  bool ListFolder(const std::string& folder, const EntryVisitor& visit) override {
+    if (unreadable.contains(folder)) return false;
+    return real.ListFolder(folder, visit);
+  }
+
+  std::vector<std::string> filesAsked;
+  std::set<std::string> unreadable;  // folder paths ending with the separator
+};
+
+// A list over real files in a temporary folder with a settings file beside
+// them, and a front end that can press the cancel button.
+class OpenTest : public ::testing::Test {
+ protected:
+  OpenTest() {
+    model.statusTexts[1] = "%1 files in %2 folders, %3 changed";
+    model.statusTexts[2] = "Adding";
+  }
+
+  // The cancel button is pressed while the `count`-th file from now is
+  // added: AddFile lets events through on every hundredth call.
+  void CancelAtFile(long count) {
+    model.addCounter = 100 - count;
+    frontEnd.onPump = [this] {
+      busyDuringLoad = frontEnd.busyDepth;
+      model.cancelLoading = true;
+    };
+  }
+
+  // The event pump runs during the next file added, and notes whether the
+  // wait pointer was shown then.
+  void WatchPointerAtNextFile() {
+    model.addCounter = 99;
+    frontEnd.onPump = [this] { busyDuringLoad = frontEnd.busyDepth; };
+  }
+
+  std::set<std::string> RowKeys() const {
+    std::set<std::string> keys;
+    model.list.ForEach([&](const FileEntry& row) { keys.insert(row.key); });
+    return keys;
+  }
+
+  // The refresh always enables the open command; nothing else here does.
+  bool Refreshed() const { return model.commands.IsEnabled("OpenFile"); }
+
+  std::string Setting(const char* key) const {
+    return settings::ReadIniString(settings::kSettingsSection, key, settingsFile);
+  }
+
+  TempFolder temp;
+  TempFolder settingsFolder;
+  const std::string settingsFile = settingsFolder.Path() + settings::kSettingsFileName;
+  RecordingFileSystem fileSystem;
+  ScriptedFrontEnd frontEnd;
+  NoExifDates noExif;
+  MainModel model{fileSystem, frontEnd, noExif};
+  int busyDuringLoad = -1;
+};
+
+}  // namespace nomra::testing
