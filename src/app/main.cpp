@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QMessageBox>
 
-#include "base/Fault.h"
 #include "core/CommandLine.h"
 #include "core/ExifDateReader.h"
 #include "core/Startup.h"
@@ -52,12 +51,7 @@ int main(int argc, char** argv) {
 
   nomra::ui::MainWindow window({fileSystem, exifDates, paths, languageFile, kAppTitle, NOMRA_VERSION});
   // Qt has taken its own options out of argv; the rest is ours.
-  try {
-    nomra::RunCommandLine(nomra::ArgumentsFromArgv(argc, argv), window.Model(), nomra::CommandLineSwitches{});
-  } catch (const nomra::RuntimeFault& fault) {
-    window.FrontEnd().ShowFault(fault.what());
-  }
-  window.RefreshPreview();
+  window.RunCommandLine(nomra::ArgumentsFromArgv(argc, argv));
   window.ShowAtStart();
   return QApplication::exec();
 }

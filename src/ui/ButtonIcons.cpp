@@ -27,6 +27,8 @@ QString ThemeIconName(const QString& key) {
       {"StopRecordScript", "media-playback-stop"},
       {"StartRunScript", "media-playback-start"},
       {"RunSelectedScript", "system-run"},
+      {"Add", "list-add"},
+      {"FolderUp", "go-up"},
   };
   return names.value(key);
 }

@@ -51,7 +51,7 @@ const QStringList& ManagedMenuNames() {
 // Commands whose dialogs come with later work: visible, never enabled, never faked.
 const QStringList& CommandsNotYetBuilt() {
   static const QStringList names = {
-      "mnuOpenFromList", "mnuTakeChanges2", "mnuHistory", "mnuCopyFiles", "mnuMoveFiles", "mnuDeleteFiles1",
+      "mnuTakeChanges2", "mnuHistory", "mnuCopyFiles", "mnuMoveFiles", "mnuDeleteFiles1",
       "mnuDeleteFiles2", "mnuRename01", "mnuRename02", "mnuRename03", "mnuRename04", "mnuRename05",
       "mnuRename06", "mnuRename07", "mnuRename08", "mnuRename09", "mnuRename10", "mnuRenameStructure",
       "mnuNewNamesFromFile", "mnuStartRecordScript", "mnuStopRecordScript", "mnuStartRunScript",
@@ -62,7 +62,7 @@ const QStringList& CommandsNotYetBuilt() {
       "BtnBarMain/Rename05", "BtnBarMain/Rename06", "BtnBarMain/Rename07", "BtnBarMain/Rename08",
       "BtnBarMain/Rename09", "BtnBarMain/Rename10", "BtnBarMain/Rename99", "BtnBarMain/ImgPreview",
       "btnBarLeft/Properties", "btnbarScript/StartRecordScript", "btnbarScript/StopRecordScript",
-      "btnbarScript/StartRunScript", "btnbarScript/RunSelectedScript", "OpenFile2", "TakeChanges2"};
+      "btnbarScript/StartRunScript", "btnbarScript/RunSelectedScript", "TakeChanges2"};
   return names;
 }
 

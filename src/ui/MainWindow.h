@@ -4,7 +4,10 @@
 #include <QPointer>
 #include <QSet>
 #include <QStringList>
+#include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "commit/DiskCommitter.h"
 #include "core/ExifDateReader.h"
@@ -25,9 +28,14 @@ class QStackedWidget;
 class QTableView;
 class QToolBar;
 
+namespace nomra::open {
+enum class OpenMode;
+}
+
 namespace nomra::ui {
 
 class FileListModel;
+class FrmOpen;
 class IconCellDelegate;
 class ThumbnailCache;
 
@@ -66,6 +74,10 @@ class MainWindow final : public QMainWindow {
   // AddFile for each path in turn, with the cancel button live between
   // them, then a refresh. Paths that vanished are passed over.
   void AddPaths(const QStringList& paths);
+
+  // The arguments of the start, in order, with their end mark: files and
+  // folders are added, "/openfromfile=" loads a playlist; then a refresh.
+  void RunCommandLine(const std::vector<std::string>& arguments);
 
   // The last steps of the start: show the window, then the start window
   // unless switched off.
@@ -122,6 +134,11 @@ class MainWindow final : public QMainWindow {
   // Commands.
   void ConnectCommands();
   void mnuOpenFile();
+  void OpenFilesDialog(open::OpenMode mode);
+  void ShowFrmOpen();
+  // A load with the cancel button live: the flag starts clear and is cleared
+  // after, a fault is shown, and the refresh follows.
+  void RunLoad(const std::function<void()>& load);
   void takeChanges();
   void mnuEditMan();
   void mnuInfo();
@@ -172,6 +189,7 @@ class MainWindow final : public QMainWindow {
   QMenu* popup_ = nullptr;
   QMenu* iconSizeMenu_ = nullptr;
   QActionGroup* viewGroup_ = nullptr;
+  FrmOpen* frmOpen_ = nullptr;  // made at its first use, kept as long as the window
 
   QHash<QString, QAction*> menuActions_;
   QHash<QString, QAction*> toolActions_;  // "bar/key"

@@ -2,7 +2,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QHeaderView>
 #include <QListView>
 #include <QMenu>
@@ -20,6 +19,7 @@
 #include "core/NameHistory.h"
 #include "core/RemoveRows.h"
 #include "core/SortFileList.h"
+#include "open/OpenCommand.h"
 #include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
 #include "ui/EditManDialog.h"
@@ -47,6 +47,7 @@ std::string Padded(int value) {
 void MainWindow::ConnectCommands() {
   auto on = [this](const char* name, auto handler) { connect(MenuAction(name), &QAction::triggered, this, handler); };
   on("mnuOpenFile", [this] { RunMainToolKey("OpenFile"); });
+  on("mnuOpenFromList", [this] { OpenFilesDialog(open::OpenMode::Playlists); });
   on("mnuTakeChanges1", [this] { RunDropDownEntry("TakeChanges", "TakeChanges1"); });
   on("mnuTakeChanges2", [this] { RunDropDownEntry("TakeChanges", "TakeChanges2"); });
   on("mnuRejectChanges", [this] { RunMainToolKey("RejectChanges"); });
@@ -159,13 +160,6 @@ void MainWindow::RunDropDownEntry(const QString& buttonKey, const QString& entry
   variants_.insert(buttonKey, entryKey);
   UpdateToolTips();
   RunMainToolKey(buttonKey);
-}
-
-void MainWindow::mnuOpenFile() {
-  // Nomra's own open dialog with filters comes later; until then both
-  // variants use the system's dialog.
-  const QStringList files = QFileDialog::getOpenFileNames(this, MenuAction("mnuOpenFile")->text().remove('&').remove("..."));
-  if (!files.isEmpty()) AddPaths(files);
 }
 
 void MainWindow::takeChanges() {
