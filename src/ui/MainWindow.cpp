@@ -55,14 +55,14 @@ const QStringList& CommandsNotYetBuilt() {
       "mnuDeleteFiles2", "mnuRename01", "mnuRename02", "mnuRename03", "mnuRename04", "mnuRename05",
       "mnuRename06", "mnuRename07", "mnuRename08", "mnuRename09", "mnuRename10", "mnuRenameStructure",
       "mnuNewNamesFromFile", "mnuStartRecordScript", "mnuStopRecordScript", "mnuStartRunScript",
-      "mnuRunSelectedScript", "mnuFileList", "mnuMP3List", "mnuEXIFList", "mnuID3Data", "mnuID3Data1",
+      "mnuRunSelectedScript", "mnuFileList", "mnuMP3List", "mnuEXIFList", "mnuID3Data", "mnuID3Data1", "mnuID3Data2",
       "mnuFileAttributes", "mnuFindDuplications", "mnuSyncFolders", "mnuUpdate", "mnuHelpContent",
       "mnuImgPreview", "mnuShowAssistant",
       "BtnBarMain/Rename01", "BtnBarMain/Rename02", "BtnBarMain/Rename03", "BtnBarMain/Rename04",
       "BtnBarMain/Rename05", "BtnBarMain/Rename06", "BtnBarMain/Rename07", "BtnBarMain/Rename08",
       "BtnBarMain/Rename09", "BtnBarMain/Rename10", "BtnBarMain/Rename99", "BtnBarMain/ImgPreview",
       "btnBarLeft/Properties", "btnbarScript/StartRecordScript", "btnbarScript/StopRecordScript",
-      "btnbarScript/StartRunScript", "btnbarScript/RunSelectedScript", "TakeChanges2"};
+      "btnbarScript/StartRunScript", "btnbarScript/RunSelectedScript", "BtnBarMain/TakeChanges2"};
   return names;
 }
 
@@ -92,6 +92,7 @@ MainWindow::MainWindow(Services services, QWidget* parent)
   BuildCentral();
   BuildStatusBar();
   frontEnd_.SetStatusLabel(status_);
+  BuildCommandTables();
   ConnectCommands();
 
   LoadStartupSettings(model_, paths_);
@@ -173,15 +174,18 @@ void MainWindow::setLngalt() {
     sizes << QString::fromStdString(text);
   }
   if (sizes.isEmpty()) sizes = {"32", "48", "64", "96", "128"};
+  for (const QAction* old : iconSizeMenu_->actions()) menuActions_.remove(old->objectName());
   iconSizeMenu_->clear();
   auto* group = new QActionGroup(iconSizeMenu_);
   for (int entry = 1; entry <= sizes.size(); ++entry) {
     QAction* action = iconSizeMenu_->addAction(sizes[entry - 1]);
-    action->setObjectName(QString("mnuViewIconSize(%1)").arg(entry));
+    const QString name = QString("mnuViewIconSize(%1)").arg(entry);
+    action->setObjectName(name);
     action->setCheckable(true);
     action->setChecked(entry == iconSizeEntry_);
     group->addAction(action);
-    connect(action, &QAction::triggered, this, [this, entry] { SetIconSizeEntry(entry); });
+    menuActions_.insert(name, action);
+    ConnectMenuEntry(*action);
   }
   if (iconSizeEntry_ > sizes.size()) iconSizeEntry_ = 1;
 
@@ -336,7 +340,7 @@ void MainWindow::ApplyCommandStates() {
   applyTo_->setEnabled(state.IsEnabled("lstApplyTo"));
   ToolAction("btnBarLeft", "CancelAction")->setEnabled(loading_);
   for (QAction* button : {ToolAction("BtnBarMain", "OpenFile"), ToolAction("BtnBarMain", "TakeChanges")}) {
-    for (QAction* entry : button->menu()->actions()) entry->setEnabled(allowed(entry->property(kKeyProperty).toString()));
+    for (QAction* entry : button->menu()->actions()) entry->setEnabled(allowed("BtnBarMain/" + entry->property(kKeyProperty).toString()));
   }
   ApplyExpertMode();
 }

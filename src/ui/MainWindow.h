@@ -87,6 +87,21 @@ class MainWindow final : public QMainWindow {
   void RunMainToolKey(const QString& key);
   // A drop-down entry: its key becomes the button's variant, then the button runs.
   void RunDropDownEntry(const QString& buttonKey, const QString& entryKey);
+
+  // Every menu entry and tool button runs its command through the window's
+  // dispatch tables, so a name without a command shows in these queries.
+  // A name without a command, or one whose command isn't built yet, does nothing.
+  void RunMenuCommand(const QString& name);
+  void RunToolCommand(const QString& bar, const QString& key);
+  bool HasMenuCommand(const QString& name) const;
+  bool HasToolCommand(const QString& bar, const QString& key) const;
+  // Menu entries go by name, tool buttons and drop-down entries by bar and key.
+  bool IsNotYetBuilt(const QString& name) const { return notYetBuilt_.contains(name); }
+  bool IsNotYetBuilt(const QString& bar, const QString& key) const;
+  // The names of all menu entries and submenus the window has.
+  QStringList MenuEntryNames() const { return menuActions_.keys(); }
+  // The keys of a bar's buttons and of their drop-down entries.
+  QStringList ToolKeys(const QString& bar) const;
   QString ToolVariant(const QString& buttonKey) const { return variants_.value(buttonKey); }
 
   // Menu entries by name ("mnuUndo", "mnuViewSortingSorted(3)") and tool
@@ -132,7 +147,13 @@ class MainWindow final : public QMainWindow {
   void UpdateToolTips();
 
   // Commands.
+  using Command = std::function<void()>;
+  void BuildCommandTables();
   void ConnectCommands();
+  void ConnectMenuEntry(QAction& action);
+  void ConnectToolEntry(QAction& action, const QString& bar, const QString& key);
+  // A button of a bar, or an entry of one of its buttons' drop-downs.
+  QAction* ToolEntry(const QString& bar, const QString& key) const;
   void mnuOpenFile();
   void OpenFilesDialog(open::OpenMode mode);
   void ShowFrmOpen();
@@ -196,6 +217,12 @@ class MainWindow final : public QMainWindow {
   QHash<QString, QString> variants_;       // the Tag of the drop-down buttons
   QHash<QString, QString> baseToolTips_;   // tool tip without the variant
   QSet<QString> notYetBuilt_;              // commands whose dialog comes later
+
+  // The dispatch tables, filled in one place (BuildCommandTables).
+  QHash<QString, Command> menuCommands_;   // menu entry name
+  // Numbered entries ("mnuViewPre(3)") share their family's command, which gets the number.
+  QHash<QString, std::function<void(int)>> numberedMenuCommands_;
+  QHash<QString, Command> toolCommands_;   // "bar/key", drop-down entries too
 
   ListView view_ = ListView::Details;
   int iconSizeEntry_ = 1;

@@ -193,6 +193,7 @@ void MainWindow::BuildMenus() {
   popup_->addAction(menuActions_.value("mnuCopyLink"));
   popup_->addSeparator();
   AddMenuAction(*popup_, "mnuID3Data1", "&ID3 tags...");
+  AddMenuAction(*popup_, "mnuID3Data2", "ID3 tags of &all files...");
   popup_->addSeparator();
   popup_->addAction(menuActions_.value("mnuDelList2"));
 }
@@ -249,7 +250,6 @@ void MainWindow::BuildToolBars() {
     for (int i = 0; i < entries.size(); ++i) {
       QAction* entry = menu->addAction(designTexts[i]);
       entry->setProperty(kKeyProperty, entries[i]);
-      connect(entry, &QAction::triggered, this, [this, key, entries, i] { RunDropDownEntry(key, entries[i]); });
     }
     button->setMenu(menu);
     if (auto* tool = qobject_cast<QToolButton*>(mainBar_->widgetForAction(button))) {

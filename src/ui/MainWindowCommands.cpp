@@ -1,5 +1,6 @@
 // What each key, menu entry and list event of the main window runs.
 #include <QApplication>
+#include <utility>
 #include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
@@ -13,13 +14,9 @@
 #include <QTableView>
 #include <QToolBar>
 
-#include "base/Fault.h"
 #include "commit/TakeChanges.h"
 #include "core/ManualEdit.h"
-#include "core/NameHistory.h"
-#include "core/RemoveRows.h"
 #include "core/SortFileList.h"
-#include "open/OpenCommand.h"
 #include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
 #include "ui/EditManDialog.h"
@@ -44,62 +41,16 @@ std::string Padded(int value) {
 
 }  // namespace
 
+// Each menu entry and tool button runs what the dispatch tables give its name.
 void MainWindow::ConnectCommands() {
-  auto on = [this](const char* name, auto handler) { connect(MenuAction(name), &QAction::triggered, this, handler); };
-  on("mnuOpenFile", [this] { RunMainToolKey("OpenFile"); });
-  on("mnuOpenFromList", [this] { OpenFilesDialog(open::OpenMode::Playlists); });
-  on("mnuTakeChanges1", [this] { RunDropDownEntry("TakeChanges", "TakeChanges1"); });
-  on("mnuTakeChanges2", [this] { RunDropDownEntry("TakeChanges", "TakeChanges2"); });
-  on("mnuRejectChanges", [this] { RunMainToolKey("RejectChanges"); });
-  on("mnuUndo", [this] { RunMainToolKey("Undo"); });
-  for (int entry = 1; entry <= 5; ++entry) {
-    connect(MenuAction(QString("mnuDelList%1").arg(entry)), &QAction::triggered, this,
-            [this, entry] { RunDropDownEntry("DelList", QString("DelList%1").arg(entry)); });
+  for (QAction* action : std::as_const(menuActions_)) ConnectMenuEntry(*action);
+  for (auto it = toolActions_.constBegin(); it != toolActions_.constEnd(); ++it) {
+    const QString bar = it.key().section(QLatin1Char('/'), 0, 0);
+    ConnectToolEntry(*it.value(), bar, it.value()->property(kKeyProperty).toString());
+    if (QMenu* entries = it.value()->menu()) {
+      for (QAction* entry : entries->actions()) ConnectToolEntry(*entry, bar, entry->property(kKeyProperty).toString());
+    }
   }
-  on("mnuEditMan", [this] { mnuEditMan(); });
-  on("mnuCopyName1", [this] { mnuCopyText(kColOldName); });
-  on("mnuCopyName2", [this] { mnuCopyText(kColNewName); });
-  on("mnuCopyLink", [this] { mnuCopyText(-1); });
-  on("mnuInfo", [this] { mnuInfo(); });
-  on("mnuOptions", [this] { RunMainToolKey("Options"); });
-  on("mnuExperts", [this] { mnuExperts(); });
-  on("mnuEnd", [this] { close(); });
-  on("mnuViewDetails", [this] { SetView(ListView::Details); });
-  on("mnuViewDetailsIcons", [this] { SetView(ListView::DetailsIcons); });
-  on("mnuViewIcons", [this] { SetView(ListView::Icons); });
-  on("mnuGridLines", [this] { SetGridLines(MenuAction("mnuGridLines")->isChecked()); });
-  on("mnuShowBtnBarMain", [this] { mainBar_->setVisible(MenuAction("mnuShowBtnBarMain")->isChecked()); });
-  on("mnuShowBtnBarScript", [this] { scriptBar_->setVisible(MenuAction("mnuShowBtnBarScript")->isChecked()); });
-  on("mnuViewSortingUnsorted", [this] {
-    mnuViewSortingUnsorted(model_);
-    listModel_->Reload();
-    RestoreSelection();
-    UpdateSortIndicators();
-  });
-  for (int entry = 1; entry <= 14; ++entry) {
-    connect(MenuAction(QString("mnuViewSortingSorted(%1)").arg(entry)), &QAction::triggered, this, [this, entry] {
-      mnuViewSortingSorted(model_, entry);
-      listModel_->Reload();
-      RestoreSelection();
-      UpdateSortIndicators();
-    });
-  }
-  for (int entry = 1; entry <= 7; ++entry) {
-    connect(MenuAction(QString("mnuViewPre(%1)").arg(entry)), &QAction::triggered, this, [this, entry] { ToggleColumn(entry); });
-  }
-
-  for (const std::string& key : MainToolBarKeys()) {
-    if (key.empty()) continue;
-    const QString name = QString::fromStdString(key);
-    connect(ToolAction("BtnBarMain", name), &QAction::triggered, this, [this, name] { RunMainToolKey(name); });
-  }
-  connect(ToolAction("btnBarLeft", "EditMan"), &QAction::triggered, this, [this] { mnuEditMan(); });
-  connect(ToolAction("btnBarLeft", "DelList"), &QAction::triggered, this, [this] {
-    const int position = SelectedPosition();
-    if (position > 0) btnBarLeftDel1File(model_, position);
-    RefreshPreview();
-  });
-  connect(ToolAction("btnBarLeft", "CancelAction"), &QAction::triggered, this, [this] { CancelAction(); });
 
   connect(applyTo_, &QComboBox::currentIndexChanged, this, [this](int index) {
     if (index >= 0) model_.applyScope = index;
@@ -125,41 +76,6 @@ void MainWindow::ConnectCommands() {
     details_->viewport()->update();
     icons_->viewport()->update();
   });
-}
-
-void MainWindow::RunMainToolKey(const QString& key) {
-  try {
-    if (key == "OpenFile") {
-      mnuOpenFile();
-    } else if (key == "DelList") {
-      model_.delListTag = variants_.value("DelList").toStdString();
-      UpdateToolTips();
-      deleteFromList(model_);
-      if (model_.list.Empty()) picture_->clear();
-      RefreshPreview();
-    } else if (key == "TakeChanges") {
-      takeChanges();
-    } else if (key == "RejectChanges") {
-      mnuRejectChanges(model_);
-      RefreshPreview();
-    } else if (key == "Undo") {
-      mnuUndo(model_);
-      RefreshPreview();
-    } else if (key == "Options") {
-      mnuOptions();
-    }
-    // Keys of commands that come later, and keys no table knows, do nothing.
-  } catch (const RuntimeFault& fault) {
-    frontEnd_.ShowFault(fault.what());
-    RefreshPreview();
-  }
-}
-
-void MainWindow::RunDropDownEntry(const QString& buttonKey, const QString& entryKey) {
-  if (notYetBuilt_.contains(entryKey)) return;
-  variants_.insert(buttonKey, entryKey);
-  UpdateToolTips();
-  RunMainToolKey(buttonKey);
 }
 
 void MainWindow::takeChanges() {
