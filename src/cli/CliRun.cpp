@@ -8,29 +8,16 @@
 #include "cli/CommitStep.h"
 #include "cli/ExitStatus.h"
 #include "cli/JsonOutput.h"
+#include "cli/LoadSources.h"
 #include "cli/RecoveryStep.h"
 #include "cli/TableOutput.h"
-#include "core/AddFile.h"
 #include "core/ExifDateReader.h"
-#include "core/RefreshPreview.h"
 #include "core/Startup.h"
 #include "platform/posix/PosixFileSystem.h"
 
 namespace nomra::cli {
 
 namespace {
-
-// A path that can't be added is reported and the next one still loads.
-void LoadPaths(MainModel& model, const std::vector<std::string>& paths) {
-  for (std::string path : paths) {
-    try {
-      AddFile(model, path);
-    } catch (const RuntimeFault& fault) {
-      model.frontEnd.ShowFault(fault.what());
-    }
-  }
-  refreshPreview(model);
-}
 
 // A fault ends its step only; the steps after it still run.
 void RunSteps(MainModel& model, const std::vector<Step>& steps, std::ostream& notes) {
@@ -56,7 +43,7 @@ int RunInvocation(const Invocation& invocation, std::ostream& out, std::ostream&
   if (invocation.protocolRenames) model.protocolRenames = *invocation.protocolRenames;
   RecoverAtStart(model, messages);
 
-  LoadPaths(model, invocation.paths);
+  LoadSources(model, invocation.sources);
   RunSteps(model, invocation.steps, messages);
   std::vector<ReportRow> report;
   if (invocation.commit) {

@@ -26,7 +26,7 @@ Invocation ParseCommandLine(const std::vector<std::string>& arguments) {
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const std::string& argument = arguments[i];
     if (optionsEnded || !LooksLikeOption(argument)) {
-      invocation.paths.push_back(argument);
+      invocation.sources.push_back({LoadSource::Kind::Path, argument});
       continue;
     }
     if (argument == "--") {
@@ -55,7 +55,7 @@ Invocation ParseCommandLine(const std::vector<std::string>& arguments) {
     option->apply(invocation, value.value_or(std::string()));
     if (invocation.showHelp || invocation.showVersion) return invocation;
   }
-  if (invocation.paths.empty()) throw UsageError("no PATH given");
+  if (invocation.sources.empty()) throw UsageError("no PATH or --playlist given");
   return invocation;
 }
 

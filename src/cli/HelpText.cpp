@@ -50,18 +50,20 @@ void WriteOption(std::ostream& out, const OptionSpec& option) {
 }  // namespace
 
 void WriteHelp(std::ostream& out) {
-  out << "Usage: nomra-cli [OPTIONS] PATH...\n\n";
+  out << "Usage: nomra-cli [OPTIONS] PATH...\n";
+  out << "       nomra-cli [OPTIONS] --playlist FILE [PATH...]\n\n";
   WriteWrapped(out,
-               "Loads each PATH into the list (a folder with everything in it, subfolders included), then runs the "
-               "options in the order they are given, each one a step of its own, and prints the rows with a "
-               "pending name change, grouped by folder, and the counts. Paths and options may be mixed; all paths "
-               "load first. Everything after -- is a path. Nothing is renamed on disk.");
+               "Loads each PATH into the list (a folder with everything in it, subfolders included) and the "
+               "entries of each --playlist, then runs the other options in the order they are given, each one a "
+               "step of its own, and prints the rows with a pending name change, grouped by folder, and the "
+               "counts. Paths and options may be mixed; all paths and playlists load first, in the order they "
+               "are given. Everything after -- is a path. Nothing is renamed on disk unless --commit is given.");
   out << "\nOptions:\n";
   for (const OptionSpec& option : OptionTable()) WriteOption(out, option);
   out << "\nExit status:\n";
   out << kIndent << "0  success\n";
-  out << kIndent << "1  a path or a step met a fault, or --commit left a row not renamed\n";
-  out << kIndent << "   (each is printed; the run goes on)\n";
+  out << kIndent << "1  a path, a playlist or a step met a fault, or --commit left a row\n";
+  out << kIndent << "   not renamed (each is printed; the run goes on)\n";
   out << kIndent << "2  the command line is wrong; nothing ran\n";
 }
 

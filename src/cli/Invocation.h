@@ -7,9 +7,17 @@
 
 namespace nomra::cli {
 
+// One thing to load, named on the command line: a file or folder, or a
+// playlist whose entries are loaded.
+struct LoadSource {
+  enum class Kind { Path, Playlist };
+  Kind kind = Kind::Path;
+  std::string path;  // as given
+};
+
 // What one command line asks for.
 struct Invocation {
-  std::vector<std::string> paths;  // loaded first, in this order
+  std::vector<LoadSource> sources;  // loaded first, in command-line order
   std::vector<Step> steps;         // then run in this order
   std::string dataFolder;          // empty: NOMRA_DATA_DIR or the default folder
   bool commit = false;             // take the pending names to disk after every step

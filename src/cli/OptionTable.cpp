@@ -49,6 +49,16 @@ void AddEdit(Invocation& invocation, const std::string& argument) {
 
 const std::vector<OptionSpec>& OptionTable() {
   static const std::vector<OptionSpec> table{
+      {"--playlist", "", "FILE",
+       "Loads the entries of the playlist FILE, in its place among the PATHs: of an .m3u every line but the "
+       "#EXT comments, of a .pls what follows the = of each File line, of any other file every line. An entry "
+       "that is no existing file is taken relative to the playlist's folder; entries that name nothing are "
+       "passed over in silence. May be given more than once. A playlist that doesn't exist is printed on "
+       "stderr and makes the exit status 1.",
+       "~/Music/intro.mp3 --playlist ~/Music/party.m3u --playlist ~/Music/radio.pls",
+       [](Invocation& invocation, const std::string& argument) {
+         invocation.sources.push_back({LoadSource::Kind::Playlist, argument});
+       }},
       {"--select", "", "PATTERN[;PATTERN...]",
        "From here on exactly the rows whose name on disk matches one of the wildcards are selected, all others "
        "not. Case is ignored; * stands for any run of characters, ? for one character, # for one digit, "

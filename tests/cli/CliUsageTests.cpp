@@ -14,18 +14,18 @@ TEST_F(CliUsage, HelpDocumentsEveryOptionWithAnExampleAndExitsZero) {
   const CliResult result = Run({"--help"});
   EXPECT_EQ(result.exitStatus, 0);
   EXPECT_TRUE(result.err.empty()) << result.err;
-  for (const char* option : {"--select", "--scope", "--sort", "--undo", "--reject", "--edit", "--commit",
-                             "--protocol", "--no-protocol", "--data-dir", "--json", "--yes", "--help", "-h",
-                             "--version"}) {
+  for (const char* option : {"--playlist", "--select", "--scope", "--sort", "--undo", "--reject", "--edit",
+                             "--commit", "--protocol", "--no-protocol", "--data-dir", "--json", "--yes", "--help",
+                             "-h", "--version"}) {
     EXPECT_NE(result.out.find(option), std::string::npos) << option;
   }
-  // One example line per option, fourteen options.
+  // One example line per option, fifteen options.
   std::size_t examples = 0;
   for (std::size_t at = result.out.find("Example: nomra-cli"); at != std::string::npos;
        at = result.out.find("Example: nomra-cli", at + 1)) {
     ++examples;
   }
-  EXPECT_EQ(examples, 14u);
+  EXPECT_EQ(examples, 15u);
 }
 
 TEST_F(CliUsage, ShortHelpOptionGivesTheSameHelp) {
