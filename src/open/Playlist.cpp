@@ -69,7 +69,10 @@ std::optional<std::vector<std::string>> ReadEntries(const std::string& playlistP
   std::vector<std::string> entries;
   for (const std::string& line : settings::SplitLines(text::DecodeTextFile(*bytes))) {
     std::string entry = EntryOf(line, kind);
-    if (entry.empty()) continue;
+    // No file name holds a NUL, and the system calls would read the path
+    // only up to it: "\0x" in the playlist's folder would be the folder
+    // itself, walked again under every name it holds, without end.
+    if (entry.empty() || entry.find('\0') != std::string::npos) continue;
     // Every entry that is no file as it stands is tried in the playlist's
     // folder, whatever it holds; one that still names nothing is dropped
     // later by AddFile. A leading separator already makes a path absolute.
