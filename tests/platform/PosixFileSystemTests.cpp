@@ -347,5 +347,22 @@ TEST(PlatformRenameTrust, FolderThatIsMissingIsNotTrusted) {
   EXPECT_FALSE(KernelRenameIsTrusted("/no/such/folder/anywhere/"));
 }
 
+// The system reads a path only up to a NUL; such a path must not name the
+// file or folder in front of the NUL.
+TEST(PlatformFileSystem, PathHoldingANulNamesNothing) {
+  TempFolder folder;
+  const std::string file = folder.WriteFile("a.txt", "x");
+  PosixFileSystem fileSystem;
+  const std::string withNul = file + std::string(1, '\0') + "more";
+  EXPECT_NE(fileSystem.Status(withNul).error, 0);
+  const std::string folderWithNul = folder.Path() + std::string(1, '\0');
+  int visited = 0;
+  EXPECT_FALSE(fileSystem.ListFolder(folderWithNul, [&](std::string_view, EntryKind) { ++visited; }));
+  EXPECT_EQ(visited, 0);
+  EXPECT_FALSE(fileSystem.RenameNoReplace(withNul, folder.Path() + "b.txt").ok);
+  EXPECT_TRUE(fileSystem.Status(file).error == 0) << "the real file stays where it was";
+}
+
 }  // namespace
 }  // namespace nomra::platform
+

@@ -19,6 +19,9 @@ namespace nomra::platform {
 
 namespace {
 
+bool HoldsNul(const std::string& path) { return path.find('\0') != std::string::npos; }
+
+
 constexpr long kMsdosMagic = 0x4d44;        // FAT12/16/32, vfat
 constexpr long kExfatMagic = 0x2011BAB0;
 constexpr long kCifsMagic = 0xFF534D42;
@@ -55,6 +58,12 @@ bool HasCasefoldAttribute(const std::string& folder) {
 
 FileStatus PosixFileSystem::Status(const std::string& path) {
   FileStatus status;
+  // The system would read the path only up to a NUL and so name another
+  // file; a path holding one names nothing.
+  if (HoldsNul(path)) {
+    status.error = ENOENT;
+    return status;
+  }
   struct statx sx {};
   if (statx(AT_FDCWD, path.c_str(), 0, STATX_TYPE | STATX_SIZE | STATX_MTIME | STATX_BTIME, &sx) != 0) {
     status.error = errno;
@@ -84,6 +93,7 @@ std::string PosixFileSystem::AbsolutePath(const std::string& path) {
 }
 
 bool PosixFileSystem::ListFolder(const std::string& folder, const EntryVisitor& visit) {
+  if (HoldsNul(folder)) return false;
   std::unique_ptr<DIR, int (*)(DIR*)> dir(opendir(folder.c_str()), closedir);
   if (!dir) return false;
   const int dirFd = dirfd(dir.get());
@@ -156,6 +166,7 @@ bool ProbeCaseInsensitiveFolder(const std::string& folder) {
 }
 
 RenameResult PosixFileSystem::RenameNoReplace(const std::string& from, const std::string& to) {
+  if (HoldsNul(from) || HoldsNul(to)) return RenameResult{false, ENOENT};
   return RenameWithoutReplacing(from, to);
 }
 
