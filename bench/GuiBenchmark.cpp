@@ -24,6 +24,7 @@
 #include <string>
 #include <vector>
 
+#include "BenchTree.h"
 #include "core/CommandLine.h"
 #include "core/ExifDateReader.h"
 #include "core/FileEntry.h"
@@ -44,22 +45,7 @@ double Median(std::vector<double> values) {
   return values[values.size() / 2];
 }
 
-// Same layout as the list benchmark's tree: files spread round-robin over
-// the folders, all empty, so only the listing is measured.
-void MakeTree(const std::string& root, int files, int folders) {
-  std::filesystem::create_directories(root);
-  for (int f = 0; f < folders; ++f) {
-    char folder[64];
-    std::snprintf(folder, sizeof folder, "/d%04d", f);
-    std::filesystem::create_directory(root + folder);
-    for (int i = f; i < files; i += folders) {
-      char name[64];
-      std::snprintf(name, sizeof name, "/file_%06d.dat", i);
-      const int fd = open((root + folder + name).c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0644);
-      if (fd >= 0) close(fd);
-    }
-  }
-}
+using nomra::bench::MakeTree;
 
 // The peak resident size so far, from the kernel's own account.
 double PeakResidentMiB() {

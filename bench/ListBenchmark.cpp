@@ -15,6 +15,7 @@
 #include <string>
 #include <vector>
 
+#include "BenchTree.h"
 #include "HeadlessFrontEnd.h"
 #include "core/AddFile.h"
 #include "core/MainModel.h"
@@ -27,20 +28,7 @@ using Clock = std::chrono::steady_clock;
 
 double Seconds(Clock::time_point from) { return std::chrono::duration<double>(Clock::now() - from).count(); }
 
-void MakeTree(const std::string& root, int files, int folders) {
-  std::filesystem::create_directories(root);
-  for (int f = 0; f < folders; ++f) {
-    char folder[64];
-    std::snprintf(folder, sizeof folder, "/d%04d", f);
-    std::filesystem::create_directory(root + folder);
-    for (int i = f; i < files; i += folders) {
-      char name[64];
-      std::snprintf(name, sizeof name, "/file_%06d.dat", i);
-      const int fd = open((root + folder + name).c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0644);
-      if (fd >= 0) close(fd);
-    }
-  }
-}
+using nomra::bench::MakeTree;
 
 double TimeFind(const std::string& root) {
   const std::string command = "find '" + root + "' -printf '%s %T@\\n' >/dev/null";
