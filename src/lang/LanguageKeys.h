@@ -12,6 +12,8 @@ inline constexpr char kButtonsSection[] = "Buttons";
 // Menu entries fall back to this section when their own has no text.
 inline constexpr char kMenusSection[] = "Menus";
 inline constexpr char kCaptionKey[] = "Caption";
+// Questions, messages and status texts.
+inline constexpr char kMessagesSection[] = "Messages";
 
 // The prefix of the menu entry that stands behind a tool button's key.
 inline constexpr char kMenuPrefix[] = "mnu";

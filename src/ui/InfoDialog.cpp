@@ -6,6 +6,7 @@
 #include <QSysInfo>
 
 #include "ui/DialogTexts.h"
+#include "ui/ProductLabels.h"
 
 namespace nomra::ui {
 
@@ -15,16 +16,8 @@ InfoDialog::InfoDialog(const lang::MessageCatalog& catalog, const QString& appTi
   setObjectName("frmInfo");
   setWindowTitle(QString(menuCaption).remove('&'));
   auto* grid = new QGridLayout(this);
-  auto* icon = new QLabel(this);
-  icon->setPixmap(QIcon(":/icons/nomra.svg").pixmap(64, 64));
-  grid->addWidget(icon, 0, 0, 4, 1, Qt::AlignTop);
-  auto* name = new QLabel(appTitle, this);
-  name->setObjectName("lblProductName");
-  QFont big = name->font();
-  big.setPointSizeF(big.pointSizeF() * 1.6);
-  big.setBold(true);
-  name->setFont(big);
-  grid->addWidget(name, 0, 1);
+  grid->addWidget(ProgramPicture(*this), 0, 0, 4, 1, Qt::AlignTop);
+  grid->addWidget(ProductNameLabel(*this, appTitle, 1.6), 0, 1);
   auto* about = new QLabel("Renames many files at once, safely: no file is ever overwritten.", this);
   about->setObjectName("Label1");
   about->setWordWrap(true);

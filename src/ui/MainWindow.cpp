@@ -27,6 +27,7 @@
 #include "core/WindowPlacement.h"
 #include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
+#include "lang/LanguageKeys.h"
 #include "ui/ButtonIcons.h"
 #include "ui/FileListModel.h"
 #include "ui/IconCellDelegate.h"
@@ -39,7 +40,6 @@ namespace nomra::ui {
 namespace {
 
 constexpr char kFrmMain[] = "FrmMain";
-constexpr char kMessages[] = "Messages";
 
 // The controls the refresh switches off before it decides what to switch on.
 const QStringList& ManagedMenuNames() {
@@ -135,7 +135,7 @@ void MainWindow::UseLanguage(const std::string& languageFile) {
 // scope list, sort and size entries, and the tool tips of the variants.
 void MainWindow::setLngalt() {
   for (int i = 0; i < 11; ++i) {
-    model_.statusTexts[i] = catalog_.GetText(kMessages, QString("MsgStat%1").arg(i, 2, 10, QChar('0')).toStdString());
+    model_.statusTexts[i] = catalog_.GetText(lang::kMessagesSection, QString("MsgStat%1").arg(i, 2, 10, QChar('0')).toStdString());
   }
   static const char* kDesignHeads[] = {"Picture", "Path", "Old name", "New name", "Created", "Modified", "EXIF date", "Size"};
   QStringList heads;

@@ -9,13 +9,14 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "lang/LanguageKeys.h"
 #include "ui/DialogButtons.h"
 #include "ui/DialogTexts.h"
 
 namespace nomra::ui {
 
 QString ReportRowText(const ReportRow& row, const lang::MessageCatalog& catalog) {
-  std::string text = catalog.GetText("Messages", row.textKey, row.arguments);
+  std::string text = catalog.GetText(lang::kMessagesSection, row.textKey, row.arguments);
   if (text.empty()) return QString::fromStdString(row.Describe());
   if (!row.systemText.empty()) text += "   " + row.systemText;
   if (!row.about.empty()) text = row.about + ": " + text;

@@ -4,11 +4,11 @@
 #include <QLabel>
 #include <QMessageBox>
 
+#include "lang/LanguageKeys.h"
+
 namespace nomra::ui {
 
 namespace {
-
-constexpr char kMessagesSection[] = "Messages";
 
 QMessageBox::Icon IconOf(MessageStyle style) {
   switch (style) {
@@ -69,7 +69,7 @@ QtFrontEnd::QtFrontEnd(const lang::MessageCatalog& catalog, QString appTitle)
     : catalog_(catalog), appTitle_(std::move(appTitle)) {}
 
 QString QtFrontEnd::TextOf(const Message& message) const {
-  std::string text = catalog_.GetText(kMessagesSection, message.textKey, message.arguments);
+  std::string text = catalog_.GetText(lang::kMessagesSection, message.textKey, message.arguments);
   // Without a language text the key still says which question this is.
   if (text.empty()) text = message.textKey;
   return QString::fromStdString(text);
@@ -77,7 +77,7 @@ QString QtFrontEnd::TextOf(const Message& message) const {
 
 QString QtFrontEnd::CaptionOf(const Message& message) const {
   if (message.captionKey.empty()) return appTitle_;
-  const std::string caption = catalog_.GetText(kMessagesSection, message.captionKey);
+  const std::string caption = catalog_.GetText(lang::kMessagesSection, message.captionKey);
   return caption.empty() ? appTitle_ : QString::fromStdString(caption);
 }
 

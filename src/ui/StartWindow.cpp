@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "ui/DialogTexts.h"
+#include "ui/ProductLabels.h"
 
 namespace nomra::ui {
 
@@ -14,16 +15,10 @@ StartWindow::StartWindow(const lang::MessageCatalog& catalog, const QString& app
   setObjectName("frmStart");
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(32, 24, 32, 20);
-  auto* icon = new QLabel(this);
-  icon->setPixmap(QIcon(":/icons/nomra.svg").pixmap(64, 64));
+  QLabel* icon = ProgramPicture(*this);
   icon->setAlignment(Qt::AlignCenter);
   layout->addWidget(icon);
-  auto* name = new QLabel(appTitle, this);
-  name->setObjectName("lblProductName");
-  QFont big = name->font();
-  big.setPointSizeF(big.pointSizeF() * 2);
-  big.setBold(true);
-  name->setFont(big);
+  QLabel* name = ProductNameLabel(*this, appTitle, 2);
   name->setAlignment(Qt::AlignCenter);
   layout->addWidget(name);
   auto* subtitle = new QLabel("Batch file renamer", this);
