@@ -5,7 +5,8 @@ namespace nomra::cli {
 namespace {
 
 bool IsQuestion(MessageStyle style) {
-  return style == MessageStyle::YesNo || style == MessageStyle::YesNoCancelDefaultNo ||
+  return style == MessageStyle::YesNo || style == MessageStyle::YesNoDefaultNo ||
+         style == MessageStyle::YesNoCancelDefaultNo ||
          style == MessageStyle::YesNoWarningDefaultNo;
 }
 
@@ -29,6 +30,7 @@ Answer DefaultAnswer(MessageStyle style) {
   switch (style) {
     case MessageStyle::YesNo:
       return Answer::Yes;
+    case MessageStyle::YesNoDefaultNo:
     case MessageStyle::YesNoCancelDefaultNo:
     case MessageStyle::YesNoWarningDefaultNo:
       return Answer::No;
@@ -47,6 +49,14 @@ Answer CliFrontEnd::Ask(const Message& message) {
   messages_ << (question ? "question " : "message ") << message.textKey << ": answered " << AnswerName(answer)
             << '\n';
   return answer;
+}
+
+void CliFrontEnd::ShowPlainMessage(const std::string& text) { messages_ << "message: " << text << '\n'; }
+
+// Nobody is there to type: the preset answer stands, as if OK were pressed.
+std::string CliFrontEnd::AskInput(const Message& prompt, const std::string& preset) {
+  messages_ << "input " << prompt.textKey << ": answered \"" << preset << "\"\n";
+  return preset;
 }
 
 void CliFrontEnd::ShowFault(const std::string& text) {

@@ -17,6 +17,8 @@ class CliFrontEnd final : public FrontEnd {
   CliFrontEnd(std::ostream& messages, bool answerYes) : messages_(messages), answerYes_(answerYes) {}
 
   Answer Ask(const Message& message) override;
+  void ShowPlainMessage(const std::string& text) override;
+  std::string AskInput(const Message& prompt, const std::string& preset) override;
   void ShowFault(const std::string& text) override;
   // A full folder would give one line per file: not worth printing.
   void SetStatusText(const std::string&) override {}

@@ -4,7 +4,7 @@
 
 #include "commit/CommitJournal.h"
 #include "commit/CommitResult.h"
-#include "commit/LocalClock.h"
+#include "base/LocalClock.h"
 #include "commit/PathKeys.h"
 #include "commit/ProtocolWriter.h"
 #include "commit/RenameFailure.h"

@@ -2,7 +2,7 @@
 #include <functional>
 
 #include "commit/CommitResult.h"
-#include "commit/LocalClock.h"
+#include "base/LocalClock.h"
 
 namespace nomra {
 

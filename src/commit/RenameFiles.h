@@ -1,6 +1,6 @@
 #pragma once
 #include "commit/CommitResult.h"
-#include "commit/LocalClock.h"
+#include "base/LocalClock.h"
 #include "core/MainModel.h"
 
 namespace nomra {

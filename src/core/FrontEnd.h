@@ -7,6 +7,7 @@ namespace nomra {
 // Message box styles by their numbers, used throughout the program.
 enum class MessageStyle : int {
   YesNo = 36,                   // question mark
+  YesNoDefaultNo = 292,         // question mark, No is the default
   YesNoCancelDefaultNo = 547,   // question mark, No is the default
   YesNoWarningDefaultNo = 308,  // exclamation mark, No is the default
   OkWarning = 48,
@@ -32,6 +33,11 @@ class FrontEnd {
   virtual ~FrontEnd() = default;
 
   virtual Answer Ask(const Message& message) = 0;
+  // A plain message box: the text alone, the default caption, OK.
+  virtual void ShowPlainMessage(const std::string& text) = 0;
+  // An input box with the message's text as its prompt and caption as its
+  // title, the preset answer filled in; "" when the user cancels.
+  virtual std::string AskInput(const Message& prompt, const std::string& preset) = 0;
   // A run-time fault ended a command: what stopped and where.
   virtual void ShowFault(const std::string& text) = 0;
   virtual void SetStatusText(const std::string& text) = 0;

@@ -7,6 +7,7 @@
 #include "core/FileList.h"
 #include "core/FrontEnd.h"
 #include "core/RowCommitter.h"
+#include "core/ScriptSession.h"
 #include "platform/FileSystem.h"
 
 namespace nomra {
@@ -59,8 +60,10 @@ struct MainModel {
   int lastClickedColumn = 0;
   bool iconView = false;
 
+  // Remembered dialog inputs, recording and playback of scripts.
+  ScriptSession script;
+
   // Facts the refresh needs from other parts of the window.
-  bool scriptRecording = false;
   bool scriptMenuHasEntries = false;
 
   // Variant of the removal button: "", "DelList1" to "DelList5".

@@ -67,7 +67,7 @@ void ComputeCommandState(MainModel& model) {
                            "mnuScript", "mnuRename", "StartRunScript"}) {
     enabled.insert(name);
   }
-  if (!model.scriptRecording) enabled.insert("StartRecordScript");
+  if (model.script.recording == 0) enabled.insert("StartRecordScript");
   if (model.scriptMenuHasEntries) enabled.insert("RunSelectedScript");
   if (model.undoLevels > 0) {
     enabled.insert("mnuUndo");

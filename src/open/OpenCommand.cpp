@@ -8,7 +8,7 @@
 #include "base/Helpers.h"
 #include "core/AddFile.h"
 #include "core/RefreshPreview.h"
-#include "open/BusyPointer.h"
+#include "core/BusyPointer.h"
 #include "open/FolderWalk.h"
 #include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"

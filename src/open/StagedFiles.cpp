@@ -4,7 +4,7 @@
 #include "base/Helpers.h"
 #include "core/AddFile.h"
 #include "core/RefreshPreview.h"
-#include "open/BusyPointer.h"
+#include "core/BusyPointer.h"
 #include "open/FolderWalk.h"
 #include "open/PowerFilters.h"
 #include "platform/posix/PosixFileSystem.h"

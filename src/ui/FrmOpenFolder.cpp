@@ -6,7 +6,7 @@
 #include <QListWidget>
 
 #include "base/Helpers.h"
-#include "open/BusyPointer.h"
+#include "core/BusyPointer.h"
 #include "open/StagedFiles.h"
 #include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
@@ -150,7 +150,7 @@ void FrmOpen::InvertSelection() {
 }
 
 void FrmOpen::cmdOpen() {
-  open::BusyPointer busy(services_.frontEnd);
+  BusyPointer busy(services_.frontEnd);
   open::FolderSelection selection;
   selection.folder = folder_;
   for (int row = 0; row < rows_->count(); ++row) {

@@ -336,7 +336,7 @@ void MainWindow::ApplyCommandStates() {
   for (const char* key : {"RunSelectedScript", "StartRecordScript", "StartRunScript"}) {
     ToolAction("btnbarScript", key)->setEnabled(state.IsEnabled(key) && allowed(QString("btnbarScript/") + key));
   }
-  ToolAction("btnbarScript", "StopRecordScript")->setEnabled(model_.scriptRecording && allowed("btnbarScript/StopRecordScript"));
+  ToolAction("btnbarScript", "StopRecordScript")->setEnabled(model_.script.recording != 0 && allowed("btnbarScript/StopRecordScript"));
   applyTo_->setEnabled(state.IsEnabled("lstApplyTo"));
   ToolAction("btnBarLeft", "CancelAction")->setEnabled(loading_);
   for (QAction* button : {ToolAction("BtnBarMain", "OpenFile"), ToolAction("BtnBarMain", "TakeChanges")}) {

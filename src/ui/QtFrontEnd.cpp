@@ -1,6 +1,7 @@
 #include "ui/QtFrontEnd.h"
 
 #include <QApplication>
+#include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
 
@@ -13,6 +14,7 @@ namespace {
 QMessageBox::Icon IconOf(MessageStyle style) {
   switch (style) {
     case MessageStyle::YesNo:
+    case MessageStyle::YesNoDefaultNo:
     case MessageStyle::YesNoCancelDefaultNo:
       return QMessageBox::Question;
     case MessageStyle::YesNoWarningDefaultNo:
@@ -29,6 +31,7 @@ QMessageBox::Icon IconOf(MessageStyle style) {
 QMessageBox::StandardButtons ButtonsOf(MessageStyle style) {
   switch (style) {
     case MessageStyle::YesNo:
+    case MessageStyle::YesNoDefaultNo:
     case MessageStyle::YesNoWarningDefaultNo:
       return QMessageBox::Yes | QMessageBox::No;
     case MessageStyle::YesNoCancelDefaultNo:
@@ -42,6 +45,7 @@ QMessageBox::StandardButton DefaultOf(MessageStyle style) {
   switch (style) {
     case MessageStyle::YesNo:
       return QMessageBox::Yes;
+    case MessageStyle::YesNoDefaultNo:
     case MessageStyle::YesNoCancelDefaultNo:
     case MessageStyle::YesNoWarningDefaultNo:
       return QMessageBox::No;
@@ -93,6 +97,27 @@ Answer QtFrontEnd::AskText(const Message& message, const QString& text) {
   const int button = box.exec();
   if (busyDepth_ > 0) QApplication::restoreOverrideCursor();
   return AnswerOf(button);
+}
+
+void QtFrontEnd::ShowPlainMessage(const std::string& text) {
+  Message plain;
+  plain.style = MessageStyle::OkInformation;
+  if (answerer_) {
+    answerer_(plain, appTitle_, QString::fromStdString(text));
+    return;
+  }
+  QMessageBox box(QMessageBox::NoIcon, appTitle_, QString::fromStdString(text), QMessageBox::Ok, window_);
+  box.exec();
+}
+
+std::string QtFrontEnd::AskInput(const Message& prompt, const std::string& preset) {
+  if (inputAnswerer_) return inputAnswerer_(prompt, preset);
+  if (busyDepth_ > 0) QApplication::setOverrideCursor(Qt::ArrowCursor);
+  bool ok = false;
+  const QString answer = QInputDialog::getText(window_, CaptionOf(prompt), TextOf(prompt), QLineEdit::Normal,
+                                               QString::fromStdString(preset), &ok);
+  if (busyDepth_ > 0) QApplication::restoreOverrideCursor();
+  return ok ? answer.toStdString() : std::string();
 }
 
 void QtFrontEnd::ShowFault(const std::string& text) {

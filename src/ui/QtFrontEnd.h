@@ -26,6 +26,11 @@ class QtFrontEnd final : public FrontEnd {
   Answer Ask(const Message& message) override;
   // A question whose text the caller has put together from several keys.
   Answer AskText(const Message& message, const QString& text);
+  void ShowPlainMessage(const std::string& text) override;
+  std::string AskInput(const Message& prompt, const std::string& preset) override;
+  // Replaces the input box in tests: the answer for a prompt and preset.
+  using InputAnswerer = std::function<std::string(const Message& prompt, const std::string& preset)>;
+  void SetInputAnswerer(InputAnswerer answerer) { inputAnswerer_ = std::move(answerer); }
   void ShowFault(const std::string& text) override;
   void SetStatusText(const std::string& text) override;
   void Pump() override;
@@ -41,6 +46,7 @@ class QtFrontEnd final : public FrontEnd {
   QPointer<QWidget> window_;
   QPointer<QLabel> status_;
   Answerer answerer_;
+  InputAnswerer inputAnswerer_;
   int busyDepth_ = 0;
 };
 

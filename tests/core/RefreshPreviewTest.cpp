@@ -67,7 +67,7 @@ TEST_F(RefreshTest, NonEmptyListEnablesTheListCommands) {
   }
   EXPECT_FALSE(model.commands.IsEnabled("RunSelectedScript"));
   EXPECT_FALSE(model.commands.IsEnabled("Undo"));
-  model.scriptRecording = true;
+  model.script.recording = 1;
   model.scriptMenuHasEntries = true;
   refreshPreview(model);
   EXPECT_FALSE(model.commands.IsEnabled("StartRecordScript"));

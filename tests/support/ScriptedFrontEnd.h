@@ -16,6 +16,9 @@ class ScriptedFrontEnd final : public FrontEnd {
   std::vector<Message> asked;
   std::vector<std::string> faults;
   std::vector<std::string> statusTexts;
+  std::vector<std::string> plainMessages;
+  std::deque<std::string> inputs;  // answers of input boxes, in order; when none is left, ""
+  std::vector<std::string> inputPresets;
   int pumps = 0;
   int busyDepth = 0;
   // Runs during a pump, as a click on the cancel button would.
@@ -26,6 +29,15 @@ class ScriptedFrontEnd final : public FrontEnd {
     if (answers.empty()) return Answer::No;
     const Answer answer = answers.front();
     answers.pop_front();
+    return answer;
+  }
+  void ShowPlainMessage(const std::string& text) override { plainMessages.push_back(text); }
+  std::string AskInput(const Message& prompt, const std::string& preset) override {
+    asked.push_back(prompt);
+    inputPresets.push_back(preset);
+    if (inputs.empty()) return "";
+    std::string answer = inputs.front();
+    inputs.pop_front();
     return answer;
   }
   void ShowFault(const std::string& text) override { faults.push_back(text); }

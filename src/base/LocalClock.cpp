@@ -1,4 +1,4 @@
-#include "commit/LocalClock.h"
+#include "base/LocalClock.h"
 
 namespace nomra {
 

@@ -1,10 +1,10 @@
 #pragma once
 #include "core/FrontEnd.h"
 
-namespace nomra::open {
+namespace nomra {
 
-// The wait pointer for as long as a load runs; it comes back however the
-// load ends, a fault included, so the pointer never stays an hourglass.
+// The wait pointer for as long as long work runs; it comes back however the
+// work ends, a fault included, so the pointer never stays an hourglass.
 class BusyPointer {
  public:
   explicit BusyPointer(FrontEnd& frontEnd) : frontEnd_(frontEnd) { frontEnd_.SetBusy(true); }
@@ -16,4 +16,4 @@ class BusyPointer {
   FrontEnd& frontEnd_;
 };
 
-}  // namespace nomra::open
+}  // namespace nomra

@@ -1,0 +1,34 @@
+#include "rename/BuiltInActions.h"
+
+#include <functional>
+#include <map>
+
+#include "rename/PrefixSuffix.h"
+
+namespace nomra {
+
+namespace {
+
+// Adding an action dialog is one line here.
+const std::map<int, std::function<std::unique_ptr<ActionDialog>()>>& Factories() {
+  static const std::map<int, std::function<std::unique_ptr<ActionDialog>()>> factories{
+      {5, [] { return std::make_unique<PrefixSuffixDialog>(); }},
+  };
+  return factories;
+}
+
+}  // namespace
+
+std::unique_ptr<ActionDialog> CreateActionDialog(int stepType) {
+  const auto found = Factories().find(stepType);
+  if (found == Factories().end()) return nullptr;
+  return found->second();
+}
+
+std::vector<int> KnownStepTypes() {
+  std::vector<int> types;
+  for (const auto& [type, factory] : Factories()) types.push_back(type);
+  return types;
+}
+
+}  // namespace nomra

@@ -1,0 +1,82 @@
+#include "script/ScriptChooser.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "dialog/DialogState.h"
+#include "script/ScriptFiles.h"
+
+namespace nomra {
+
+namespace {
+
+constexpr char kScriptList[] = "lstScript";
+constexpr char kRunAll[] = "optRunAll";
+constexpr char kRunSingleSteps[] = "optRunSingleSteps";
+constexpr char kDelete[] = "optDelete";
+constexpr char kChooserSection[] = "frmScript";
+constexpr char kRunOptions[] = "fraOptRun";
+
+// Read-only files go too: the folder's permission is what a removal needs,
+// and the write bits are given back first in case the volume wants them.
+void RemoveScriptFile(const std::string& path) {
+  std::error_code ignored;
+  std::filesystem::permissions(path, std::filesystem::perms::owner_write, std::filesystem::perm_options::add,
+                               ignored);
+  std::filesystem::remove(path, ignored);
+}
+
+}  // namespace
+
+ScriptChooser::ScriptChooser(MainModel& model) : model_(model), dialog_("frmScript") {
+  dialog_.AddNoValue("lblScript");
+  dialog_.AddList(kScriptList, {}, false);
+  dialog_.AddNoValue(kRunOptions);
+  dialog_.AddOption(kRunAll, kRunOptions);
+  dialog_.AddOption(kRunSingleSteps, kRunOptions);
+  dialog_.AddOption(kDelete, kRunOptions);
+  dialog_.AddNoValue("cmdStart");
+  dialog_.AddNoValue("cmdCancel");
+}
+
+void ScriptChooser::Load() {
+  dialog::DialogInput& list = dialog_.At(kScriptList);
+  list.rows.clear();
+  fileNames_.clear();
+  for (StoredScript& script : ListStoredScripts(model_.fileSystem, model_.script.dataFolder)) {
+    list.rows.push_back(std::move(script.displayText));
+    fileNames_.push_back(std::move(script.fileName));
+  }
+  list.number = -1;
+  dialog_.SetOption(kRunAll, true);
+}
+
+bool ScriptChooser::StartEnabled() const { return dialog_.Number(kScriptList) >= 0; }
+
+bool ScriptChooser::Start() {
+  const int row = dialog_.Number(kScriptList);
+  if (row < 0 || row >= static_cast<int>(fileNames_.size())) return false;
+  if (dialog_.IsSelected(kDelete)) {
+    DeleteChosen(row);
+    return false;
+  }
+  dialog::StoreDialogState(dialog_, kChooserSection, dialog::kSettingsMode, model_.script);
+  model_.script.runMode = dialog_.IsSelected(kRunSingleSteps) ? 2 : 1;
+  model_.script.runPath = ScriptFolder(model_.script.dataFolder) + fileNames_[row];
+  return true;
+}
+
+void ScriptChooser::Cancel() { model_.script.runMode = 0; }
+
+void ScriptChooser::DeleteChosen(int row) {
+  dialog::DialogInput& list = dialog_.At(kScriptList);
+  const Answer answer =
+      model_.frontEnd.Ask({"msgDeleteScript", "msgCapAttention", MessageStyle::YesNoDefaultNo, {list.rows[row]}});
+  if (answer != Answer::Yes) return;
+  RemoveScriptFile(ScriptFolder(model_.script.dataFolder) + fileNames_[row]);
+  list.rows.erase(list.rows.begin() + row);
+  fileNames_.erase(fileNames_.begin() + row);
+  list.number = -1;
+}
+
+}  // namespace nomra

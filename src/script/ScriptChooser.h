@@ -1,0 +1,44 @@
+#pragma once
+#include <string>
+#include <vector>
+
+#include "core/MainModel.h"
+#include "dialog/DialogModel.h"
+
+namespace nomra {
+
+// The dialog frmScript without a window: the stored scripts, how to run the
+// chosen one, or deleting it.
+class ScriptChooser {
+ public:
+  explicit ScriptChooser(MainModel& model);
+
+  dialog::DialogModel& Model() { return dialog_; }
+
+  // Lists the stored scripts in the order of the file system; run all
+  // steps is chosen.
+  void Load();
+
+  // cmdStart is enabled exactly while a row is chosen.
+  bool StartEnabled() const;
+
+  // cmdStart. Deleting asks first and keeps the dialog open; running stores
+  // the inputs, sets the run mode and path, and the dialog closes. True when
+  // the dialog closes.
+  bool Start();
+
+  // cmdCancel: nothing plays.
+  void Cancel();
+
+  // The file name of each row (item data), in row order.
+  const std::vector<std::string>& FileNames() const { return fileNames_; }
+
+ private:
+  void DeleteChosen(int row);
+
+  MainModel& model_;
+  dialog::DialogModel dialog_;
+  std::vector<std::string> fileNames_;
+};
+
+}  // namespace nomra

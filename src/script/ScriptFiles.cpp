@@ -1,0 +1,64 @@
+#include "script/ScriptFiles.h"
+
+#include "base/CaseMap.h"
+#include "base/Helpers.h"
+#include "base/Utf8.h"
+#include "settings/IniFile.h"
+
+namespace nomra {
+
+namespace {
+
+std::string TwoDigits(int value) {
+  std::string text = std::to_string(value);
+  return text.size() < 2 ? "0" + text : text;
+}
+
+bool HasScriptEnding(std::string_view name) {
+  return name.size() > kScriptFileEnding.size() &&
+         text::EqualsNoCase(name.substr(name.size() - kScriptFileEnding.size()), kScriptFileEnding);
+}
+
+}  // namespace
+
+std::string ScriptFolder(const std::string& dataFolder) {
+  return AddBackslash(AddBackslash(dataFolder) + kScriptFolderName);
+}
+
+std::string ScriptFileName(const std::tm& moment) {
+  return std::to_string(moment.tm_year + 1900) + TwoDigits(moment.tm_mon + 1) + TwoDigits(moment.tm_mday) +
+         TwoDigits(moment.tm_hour) + TwoDigits(moment.tm_min) + TwoDigits(moment.tm_sec) +
+         std::string(kScriptFileEnding);
+}
+
+std::string FormatScriptDate(std::string_view fileName) {
+  const std::u32string chars = text::ToChars(fileName);
+  // Characters from..to (1-based), as far as the name reaches.
+  const auto cut = [&](std::size_t from, std::size_t to) {
+    if (from > chars.size()) return std::string();
+    return text::FromChars(std::u32string_view(chars).substr(from - 1, to - from + 1));
+  };
+  return cut(1, 4) + "-" + cut(5, 6) + "-" + cut(7, 8) + ", " + cut(9, 10) + ":" + cut(11, 12) + ":" + cut(13, 14);
+}
+
+std::string ScriptDisplayText(const std::string& scriptPath, std::string_view fileName) {
+  return settings::ReadIniString(kScriptMainSection, kScriptNameKey, scriptPath) + " [" +
+         FormatScriptDate(fileName) + "]";
+}
+
+std::vector<StoredScript> ListStoredScripts(platform::FileSystem& fileSystem, const std::string& dataFolder) {
+  std::vector<std::string> names;
+  const std::string folder = ScriptFolder(dataFolder);
+  fileSystem.ListFolder(folder, [&](std::string_view name, platform::EntryKind kind) {
+    if (kind == platform::EntryKind::File && HasScriptEnding(name)) names.emplace_back(name);
+  });
+  std::vector<StoredScript> scripts;
+  scripts.reserve(names.size());
+  for (std::string& name : names) {
+    std::string display = ScriptDisplayText(folder + name, name);
+    scripts.push_back({std::move(name), std::move(display)});
+  }
+  return scripts;
+}
+
+}  // namespace nomra

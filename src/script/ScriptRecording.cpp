@@ -1,0 +1,82 @@
+#include "script/ScriptRecording.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "base/DateText.h"
+#include "settings/CompactIniFile.h"
+#include "settings/IniFile.h"
+#include "settings/IniLines.h"
+#include "settings/SettingsKeys.h"
+#include "script/ScriptFiles.h"
+
+namespace nomra {
+
+namespace {
+
+std::string DateTimeText(const std::tm& moment) {
+  std::tm copy = moment;
+  return text::FormatListDate(std::mktime(&copy));
+}
+
+// The name the user gives, or nothing when the recording is discarded.
+std::optional<std::string> AskScriptName(MainModel& model, const LocalClock& clock) {
+  for (;;) {
+    std::string answer = model.frontEnd.AskInput({"MsgText31", "MsgCap12", MessageStyle::OkInformation, {}},
+                                                 DateTimeText(clock()));
+    if (!settings::TrimBlanks(answer).empty()) return answer;
+    const Answer discard = model.frontEnd.Ask({"MsgText32", "MsgCap12", MessageStyle::YesNoDefaultNo, {}});
+    if (discard == Answer::Yes) return std::nullopt;
+  }
+}
+
+// Two scripts stored within one second would share a name: the later one
+// takes the next free second, so that none replaces another.
+bool MoveIntoScriptFolder(MainModel& model, const std::string& folder, const LocalClock& clock) {
+  std::tm moment = clock();
+  for (int attempt = 0; attempt < 3600; ++attempt) {
+    const platform::RenameResult result =
+        model.fileSystem.RenameNoReplace(model.script.tempPath, folder + ScriptFileName(moment));
+    if (result.ok) return true;
+    if (result.error != EEXIST) return false;
+    ++moment.tm_sec;
+    std::mktime(&moment);
+  }
+  return false;
+}
+
+}  // namespace
+
+void ResetScriptTemp(ScriptSession& session) {
+  session.tempPath = session.dataFolder + settings::kScriptTempFileName;
+  std::error_code ignored;
+  std::filesystem::remove(session.tempPath, ignored);
+  session.recording = 0;
+}
+
+void BeginScriptRecording(ScriptSession& session) {
+  session.recording = 1;
+  settings::WriteIni(kScriptMainSection, kScriptStepsKey, 0L, session.tempPath);
+}
+
+bool EndScriptRecording(MainModel& model, const LocalClock& clock) {
+  ScriptSession& session = model.script;
+  session.recording = 0;
+  const std::string folder = ScriptFolder(session.dataFolder);
+  std::error_code ignored;
+  std::filesystem::create_directory(folder, ignored);
+
+  if (settings::ReadIniInt(kScriptMainSection, kScriptStepsKey, session.tempPath) <= 0) return false;
+  const std::optional<std::string> name = AskScriptName(model, clock);
+  if (!name) return false;
+  settings::WriteIni(kScriptMainSection, kScriptNameKey, *name, session.tempPath);
+  settings::CompactIniFile(session.tempPath, session.dataFolder);
+  if (!MoveIntoScriptFolder(model, folder, clock)) {
+    model.frontEnd.ShowFault("The script could not be stored in " + folder + "; the recording stays in " +
+                             session.tempPath + ".");
+    return false;
+  }
+  return true;
+}
+
+}  // namespace nomra

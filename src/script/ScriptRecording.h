@@ -1,0 +1,22 @@
+#pragma once
+#include "base/LocalClock.h"
+#include "core/MainModel.h"
+#include "core/ScriptSession.h"
+
+namespace nomra {
+
+// Points the recording at "script.tmp" in the data folder and removes what
+// an earlier run left there: a recording doesn't outlive the program.
+void ResetScriptTemp(ScriptSession& session);
+
+// Starts counting steps from 0 in the recording's file.
+void BeginScriptRecording(ScriptSession& session);
+
+// Ends the recording and, when it holds a step, asks for a name and stores
+// it in the scripts folder under the moment of storing. A cleared or
+// cancelled name is asked again unless the user discards the recording, which
+// leaves "script.tmp" as it is. True when a script was stored, so the
+// caller fills the script menu again.
+bool EndScriptRecording(MainModel& model, const LocalClock& clock);
+
+}  // namespace nomra
