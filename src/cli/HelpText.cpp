@@ -51,7 +51,8 @@ void WriteOption(std::ostream& out, const OptionSpec& option) {
 
 void WriteHelp(std::ostream& out) {
   out << "Usage: nomra-cli [OPTIONS] PATH...\n";
-  out << "       nomra-cli [OPTIONS] --playlist FILE [PATH...]\n\n";
+  out << "       nomra-cli [OPTIONS] --playlist FILE [PATH...]\n";
+  out << "       nomra-cli scripts [--data-dir DIR] [--json]\n\n";
   WriteWrapped(out,
                "Loads each PATH into the list (a folder with everything in it, subfolders included) and the "
                "entries of each --playlist, then runs the other options in the order they are given, each one a "
@@ -60,6 +61,13 @@ void WriteHelp(std::ostream& out) {
                "are given. Everything after -- is a path. Nothing is renamed on disk unless --commit is given.");
   out << "\nOptions:\n";
   for (const OptionSpec& option : OptionTable()) WriteOption(out, option);
+  out << "\nCommands:\n";
+  out << "  scripts [--data-dir DIR] [--json]\n";
+  WriteWrapped(out,
+               "Lists the stored scripts of the data folder, one per line: the file name that --script takes, a "
+               "tab, and the name the script was given with the date it was stored. With --json, an array of "
+               "objects with file and display.");
+  out << kIndent << "Example: nomra-cli scripts\n";
   out << "\nExit status:\n";
   out << kIndent << "0  success\n";
   out << kIndent << "1  a path, a playlist or a step met a fault, or --commit left a row\n";

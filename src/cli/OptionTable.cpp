@@ -3,6 +3,7 @@
 #include "cli/ArgumentValues.h"
 #include "cli/EditStep.h"
 #include "cli/ListSteps.h"
+#include "cli/ScriptSteps.h"
 #include "cli/UsageError.h"
 
 namespace nomra::cli {
@@ -45,6 +46,16 @@ void AddEdit(Invocation& invocation, const std::string& argument) {
           [argument](MainModel& model, std::ostream& notes) { EditNamesInScope(model, argument, notes); });
 }
 
+void AddScript(Invocation& invocation, const std::string& argument) {
+  AddStep(invocation, "--script",
+          [argument](MainModel& model, std::ostream& notes) { PlayScriptFile(model, argument, notes); });
+}
+
+void AddStructure(Invocation& invocation, const std::string& argument) {
+  AddStep(invocation, "--structure",
+          [argument](MainModel& model, std::ostream&) { ApplyStructureStep(model, argument); });
+}
+
 }  // namespace
 
 const std::vector<OptionSpec>& OptionTable() {
@@ -80,6 +91,17 @@ const std::vector<OptionSpec>& OptionTable() {
        "Makes NAME the pending name of every row in the scope, as typed into the name field: the characters "
        "\\ / : ? * < > | \" are dropped, and a name of only blanks is ignored.",
        "--select 'report.txt' --scope selected --edit 'Report 2024.txt' ./docs", AddEdit},
+      {"--script", "", "FILE",
+       "Plays the stored script FILE with all its steps, as the window's Run all steps does, on the rows of "
+       "the scope: each step's action takes the inputs recorded for it. FILE is a path, or the file name of a "
+       "script in the folder Script of the data folder (see nomra-cli scripts). Steps of a kind this version "
+       "doesn't know are passed over. May be given more than once; scripts play in order with the other "
+       "steps.",
+       "--script 20261115023303.nrs --commit ~/Pictures/Rome", AddScript},
+      {"--structure", "", "TEXT",
+       "Makes TEXT, a name structure, the pending name of every row in the scope, as the name structure "
+       "dialog applies it.",
+       "--select '*.txt' --scope selected --structure 'notes.txt' ./docs", AddStructure},
       {"--commit", "", "",
        "After every other step, renames the files on disk to their pending names, all in one batch: chains, "
        "swaps and cycles of names work, no file is ever overwritten, and a row whose new name stays taken is "

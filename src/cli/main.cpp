@@ -9,6 +9,7 @@
 #include "cli/CommandLineParser.h"
 #include "cli/ExitStatus.h"
 #include "cli/HelpText.h"
+#include "cli/ScriptSteps.h"
 #include "cli/UsageError.h"
 
 int main(int argc, char** argv) {
@@ -18,6 +19,9 @@ int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
 
   const std::vector<std::string> arguments(argv + 1, argv + argc);
+  if (!arguments.empty() && arguments.front() == "scripts") {
+    return RunScriptsCommand({arguments.begin() + 1, arguments.end()}, std::cout, std::cerr);
+  }
   Invocation invocation;
   try {
     invocation = ParseCommandLine(arguments);

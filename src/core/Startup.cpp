@@ -58,6 +58,10 @@ void LoadStartupSettings(MainModel& model, const StartupPaths& paths) {
   model.loadExifDates = ReadFlag(model, file, kSettingsSection, kLoadExifDatesKey, true);
   model.protocolRenames = ReadFlag(model, file, kSettingsSection, kProtocolRenamesKey, false);
   model.dataFolder = paths.dataFolder;
+  model.script.dataFolder = paths.dataFolder;
+  model.script.settingsPath = file;
+  model.script.saveDialogSettings = ReadFlag(model, file, kSettingsSection, kSaveDialogSettingsKey, false);
+  model.script.tempPath = paths.dataFolder + kScriptTempFileName;
   if (paths.dataFolderUsable) CreateProtocolIfMissing(paths.dataFolder);
 }
 

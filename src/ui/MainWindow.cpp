@@ -25,9 +25,11 @@
 #include "core/RefreshPreview.h"
 #include "core/SortFileList.h"
 #include "core/WindowPlacement.h"
+#include "script/ScriptRecording.h"
 #include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
 #include "lang/LanguageKeys.h"
+#include "ui/ActionWindows.h"
 #include "ui/ButtonIcons.h"
 #include "ui/FileListModel.h"
 #include "ui/IconCellDelegate.h"
@@ -52,17 +54,12 @@ const QStringList& ManagedMenuNames() {
 const QStringList& CommandsNotYetBuilt() {
   static const QStringList names = {
       "mnuTakeChanges2", "mnuHistory", "mnuCopyFiles", "mnuMoveFiles", "mnuDeleteFiles1",
-      "mnuDeleteFiles2", "mnuRename01", "mnuRename02", "mnuRename03", "mnuRename04", "mnuRename05",
-      "mnuRename06", "mnuRename07", "mnuRename08", "mnuRename09", "mnuRename10", "mnuRenameStructure",
-      "mnuNewNamesFromFile", "mnuStartRecordScript", "mnuStopRecordScript", "mnuStartRunScript",
-      "mnuRunSelectedScript", "mnuFileList", "mnuMP3List", "mnuEXIFList", "mnuID3Data", "mnuID3Data1", "mnuID3Data2",
+      "mnuDeleteFiles2", "mnuRenameStructure",
+      "mnuNewNamesFromFile", "mnuFileList", "mnuMP3List", "mnuEXIFList", "mnuID3Data", "mnuID3Data1", "mnuID3Data2",
       "mnuFileAttributes", "mnuFindDuplications", "mnuSyncFolders", "mnuUpdate", "mnuHelpContent",
       "mnuImgPreview", "mnuShowAssistant",
-      "BtnBarMain/Rename01", "BtnBarMain/Rename02", "BtnBarMain/Rename03", "BtnBarMain/Rename04",
-      "BtnBarMain/Rename05", "BtnBarMain/Rename06", "BtnBarMain/Rename07", "BtnBarMain/Rename08",
-      "BtnBarMain/Rename09", "BtnBarMain/Rename10", "BtnBarMain/Rename99", "BtnBarMain/ImgPreview",
-      "btnBarLeft/Properties", "btnbarScript/StartRecordScript", "btnbarScript/StopRecordScript",
-      "btnbarScript/StartRunScript", "btnbarScript/RunSelectedScript", "BtnBarMain/TakeChanges2"};
+      "BtnBarMain/Rename99", "BtnBarMain/ImgPreview",
+      "btnBarLeft/Properties", "BtnBarMain/TakeChanges2"};
   return names;
 }
 
@@ -83,6 +80,12 @@ MainWindow::MainWindow(Services services, QWidget* parent)
   setWindowIcon(QIcon(":/icons/nomra.svg"));
   setAcceptDrops(true);
   for (const QString& name : CommandsNotYetBuilt()) notYetBuilt_.insert(name);
+  for (int stepType = 1; stepType <= kActionMenuEntries; ++stepType) {
+    if (HasActionWindow(stepType)) continue;
+    const QString number = QString("%1").arg(stepType, 2, 10, QLatin1Char('0'));
+    notYetBuilt_.insert("mnuRename" + number);
+    notYetBuilt_.insert("BtnBarMain/Rename" + number);
+  }
   model_.committer = &committer_;
   frontEnd_.SetParentWindow(this);
 
@@ -104,7 +107,8 @@ MainWindow::MainWindow(Services services, QWidget* parent)
   const InterruptedCommit interrupted = RecoverInterruptedCommit(model_.fileSystem, model_.dataFolder);
   ShowUnresolved(frontEnd_, interrupted);
 
-  if (paths_.dataFolderUsable) std::remove((paths_.dataFolder + settings::kScriptTempFileName).c_str());
+  if (paths_.dataFolderUsable) ResetScriptTemp(model_.script);
+  FillScriptMenu();
   LocaliseWidget(*this, QString(), catalog_, lang::CaptionSources{});
   setLngalt();
   RefreshPreview();
@@ -336,7 +340,10 @@ void MainWindow::ApplyCommandStates() {
   for (const char* key : {"RunSelectedScript", "StartRecordScript", "StartRunScript"}) {
     ToolAction("btnbarScript", key)->setEnabled(state.IsEnabled(key) && allowed(QString("btnbarScript/") + key));
   }
-  ToolAction("btnbarScript", "StopRecordScript")->setEnabled(model_.script.recording != 0 && allowed("btnbarScript/StopRecordScript"));
+  const bool recording = model_.script.recording != 0;
+  ToolAction("btnbarScript", "StopRecordScript")->setEnabled(recording);
+  MenuAction("mnuStartRecordScript")->setEnabled(!recording);
+  MenuAction("mnuStopRecordScript")->setEnabled(recording);
   applyTo_->setEnabled(state.IsEnabled("lstApplyTo"));
   ToolAction("btnBarLeft", "CancelAction")->setEnabled(loading_);
   for (QAction* button : {ToolAction("BtnBarMain", "OpenFile"), ToolAction("BtnBarMain", "TakeChanges")}) {

@@ -16,6 +16,7 @@
 #include "core/Startup.h"
 #include "lang/MessageCatalog.h"
 #include "platform/FileSystem.h"
+#include "ui/ActionDialogWindow.h"
 #include "ui/QtFrontEnd.h"
 
 class QAbstractItemView;
@@ -113,6 +114,13 @@ class MainWindow final : public QMainWindow {
   QAbstractItemView* ActiveListView() const;
   int IconSize() const;
 
+  // The dialog of a renaming action by its script step type, modal.
+  void OpenAction(int stepType);
+  // The drop-down of "RunSelectedScript" rebuilt from the scripts folder.
+  void FillScriptMenu();
+  // The file name the "RunSelectedScript" button plays (its Tag).
+  QString SelectedScriptFile() const { return selectedScriptFile_; }
+
   // Puts the language's texts on the window again, e.g. after a new choice.
   void UseLanguage(const std::string& languageFile);
 
@@ -177,6 +185,16 @@ class MainWindow final : public QMainWindow {
   void OnHeadClicked(int section);
   void ShowPopup(const QPoint& position);
 
+  // Actions and scripts.
+  ActionWindowServices ActionServices();
+  void PlayScriptSteps();
+  void mnuStartRecordScript();
+  void mnuStopRecordScript();
+  void EndRecording();
+  void mnuStartRunScript();
+  void RunSelectedScriptButton();
+  void RunScriptFromCommandLine(const std::string& name);
+
   // Closing.
   void CollectLayout();
   void ApplyExpertMode();
@@ -229,6 +247,7 @@ class MainWindow final : public QMainWindow {
   int lastSelectedIndex_ = 0;
   bool labelEditing_ = false;
   bool loading_ = false;
+  QString selectedScriptFile_;
 };
 
 }  // namespace nomra::ui

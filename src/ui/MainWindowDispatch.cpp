@@ -11,6 +11,7 @@
 #include "core/RemoveRows.h"
 #include "core/SortFileList.h"
 #include "open/OpenCommand.h"
+#include "ui/ActionWindows.h"
 #include "ui/FileListModel.h"
 #include "ui/MainWindow.h"
 #include "ui/QtLocalisation.h"
@@ -21,6 +22,7 @@ namespace {
 
 constexpr char kMainBar[] = "BtnBarMain";
 constexpr char kLeftBar[] = "btnBarLeft";
+constexpr char kScriptBar[] = "btnbarScript";
 
 // "mnuViewPre(3)" is entry 3 of the family "mnuViewPre"; other names have number 0.
 std::pair<QString, int> SplitNumberedName(const QString& name) {
@@ -79,6 +81,22 @@ void MainWindow::BuildCommandTables() {
   dropDownEntry("OpenFile", "OpenFile2");
   for (int entry = 1; entry <= 5; ++entry) dropDownEntry("DelList", QString("DelList%1").arg(entry));
   dropDownEntry("TakeChanges", "TakeChanges1");
+
+  for (int stepType = 1; stepType <= kActionMenuEntries; ++stepType) {
+    const QString number = QString("%1").arg(stepType, 2, 10, QLatin1Char('0'));
+    mainTool("Rename" + number, [this, stepType] { OpenAction(stepType); });
+    menu("mnuRename" + number, [this, number] { RunMainToolKey("Rename" + number); });
+  }
+
+  tool(kScriptBar, "StartRecordScript", [this] { mnuStartRecordScript(); });
+  tool(kScriptBar, "StopRecordScript", [this] { mnuStopRecordScript(); });
+  tool(kScriptBar, "StartRunScript", [this] { mnuStartRunScript(); });
+  tool(kScriptBar, "RunSelectedScript", [this] { RunSelectedScriptButton(); });
+  menu("mnuStartRecordScript", [this] { RunToolCommand(kScriptBar, "StartRecordScript"); });
+  menu("mnuStopRecordScript", [this] { RunToolCommand(kScriptBar, "StopRecordScript"); });
+  menu("mnuStartRunScript", [this] { RunToolCommand(kScriptBar, "StartRunScript"); });
+  // The entry is there and does nothing of its own; the button plays.
+  menu("mnuRunSelectedScript", [] {});
 
   tool(kLeftBar, "EditMan", [this] { mnuEditMan(); });
   tool(kLeftBar, "DelList", [this] {

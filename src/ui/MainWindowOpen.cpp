@@ -105,6 +105,7 @@ void MainWindow::ShowFrmOpen() {
 void MainWindow::RunCommandLine(const std::vector<std::string>& arguments) {
   CommandLineSwitches switches;
   switches.openFromFile = [this](const std::string& path) { open::LoadPlaylist(model_, path); };
+  switches.runScript = [this](const std::string& name) { RunScriptFromCommandLine(name); };
   RunLoad([&] { nomra::RunCommandLine(arguments, model_, switches); });
 }
 

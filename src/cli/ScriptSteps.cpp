@@ -1,0 +1,55 @@
+#include "cli/ScriptSteps.h"
+
+#include "base/Fault.h"
+#include "cli/ExitStatus.h"
+#include "cli/JsonText.h"
+#include "core/Startup.h"
+#include "platform/posix/PosixFileSystem.h"
+#include "rename/EvaluateStructure.h"
+#include "script/ScriptFiles.h"
+#include "script/ScriptPlayback.h"
+
+namespace nomra::cli {
+
+void PlayScriptFile(MainModel& model, const std::string& file, std::ostream&) {
+  const bool played = RunScriptArgument(model, file, [&model](int stepType) { PlayStepWithoutWindow(model, stepType); });
+  if (!played) {
+    throw RuntimeFault("no script '" + file + "', neither as a path nor in " + ScriptFolder(model.script.dataFolder));
+  }
+}
+
+void ApplyStructureStep(MainModel& model, const std::string& structure) { ApplyStructure(model, structure); }
+
+int RunScriptsCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& messages) {
+  std::string dataFolder;
+  bool json = false;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    if (arguments[i] == "--json") {
+      json = true;
+    } else if (arguments[i] == "--data-dir" && i + 1 < arguments.size()) {
+      dataFolder = arguments[++i];
+    } else if (arguments[i].starts_with("--data-dir=")) {
+      dataFolder = arguments[i].substr(std::string_view("--data-dir=").size());
+    } else {
+      messages << "nomra-cli: scripts takes only --data-dir DIR and --json, not '" << arguments[i]
+               << "'\nTry 'nomra-cli --help'.\n";
+      return kExitUsage;
+    }
+  }
+  platform::PosixFileSystem fileSystem;
+  const StartupPaths paths = PrepareStartup(dataFolder);
+  const std::vector<StoredScript> scripts = ListStoredScripts(fileSystem, paths.dataFolder);
+  if (json) {
+    out << '[';
+    for (std::size_t i = 0; i < scripts.size(); ++i) {
+      out << (i == 0 ? "" : ",") << "\n  {\"file\": " << JsonString(scripts[i].fileName)
+          << ", \"display\": " << JsonString(scripts[i].displayText) << '}';
+    }
+    out << (scripts.empty() ? "]\n" : "\n]\n");
+  } else {
+    for (const StoredScript& script : scripts) out << script.fileName << '\t' << script.displayText << '\n';
+  }
+  return kExitSuccess;
+}
+
+}  // namespace nomra::cli

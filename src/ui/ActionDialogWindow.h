@@ -1,0 +1,65 @@
+#pragma once
+#include <QDialog>
+#include <QString>
+#include <functional>
+#include <memory>
+
+#include "core/MainModel.h"
+#include "lang/MessageCatalog.h"
+#include "rename/ActionDialog.h"
+
+class QPushButton;
+class QVBoxLayout;
+
+namespace nomra::ui {
+
+// What an action dialog's window needs from the main window.
+struct ActionWindowServices {
+  MainModel& model;
+  const lang::MessageCatalog& catalog;
+  QWidget* mainWindow = nullptr;  // parent, and the source of borrowed captions
+  QString appTitle;
+  // Shows the new pending names after each run.
+  std::function<void()> afterRun;
+};
+
+// The window of an action dialog: the engine's model shown by widgets named
+// as its inputs, with cmdApply, cmdOK, cmdCancel and cmdHelp. Subclasses put
+// their inputs into InputArea() and then call FinishBuilding().
+class ActionDialogWindow : public QDialog {
+  Q_OBJECT
+ public:
+  ActionDialogWindow(std::unique_ptr<ActionDialog> action, ActionWindowServices services);
+  ~ActionDialogWindow() override;
+
+  ActionDialog& Action() { return *action_; }
+  // The caption the dialog has when no script plays it.
+  const QString& UsualCaption() const { return usualCaption_; }
+
+  void cmdApply();
+  void cmdOK();
+
+ protected:
+  QVBoxLayout& InputArea() { return *inputArea_; }
+  // Localises, lets the subclass finish its texts, and restores the inputs.
+  void FinishBuilding();
+  // After the language texts are in place, before the inputs are restored.
+  virtual void AfterLocalised() {}
+
+  void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  const ActionWindowServices& Services() const { return services_; }
+
+ private:
+  void OnFirstActivation();
+
+  std::unique_ptr<ActionDialog> action_;
+  ActionWindowServices services_;
+  QVBoxLayout* inputArea_ = nullptr;
+  QPushButton* apply_ = nullptr;
+  QPushButton* ok_ = nullptr;
+  QString usualCaption_;
+  bool activated_ = false;
+};
+
+}  // namespace nomra::ui

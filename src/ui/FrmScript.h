@@ -1,0 +1,30 @@
+#pragma once
+#include <QDialog>
+
+#include "core/MainModel.h"
+#include "lang/MessageCatalog.h"
+#include "script/ScriptChooser.h"
+
+class QListWidget;
+class QPushButton;
+
+namespace nomra::ui {
+
+// frmScript: choose a stored script and how to run it, or delete it.
+class FrmScript final : public QDialog {
+  Q_OBJECT
+ public:
+  FrmScript(MainModel& model, const lang::MessageCatalog& catalog, QWidget* mainWindow, const QString& appTitle);
+
+  void cmdStart();
+  void cmdCancel();
+
+ private:
+  void ShowChooser();
+
+  ScriptChooser chooser_;
+  QListWidget* scripts_ = nullptr;
+  QPushButton* start_ = nullptr;
+};
+
+}  // namespace nomra::ui
