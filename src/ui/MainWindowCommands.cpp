@@ -82,6 +82,7 @@ void MainWindow::takeChanges() {
   CommitServices services;
   services.showNotRenamed = [this](const CommitResult& result) {
     NotRenamedDialog dialog(result, catalog_, this);
+    dialog.RememberChoiceIn(model_.script, frontEnd_);
     dialog.exec();
     return dialog.Choice();
   };

@@ -9,7 +9,9 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "dialog/DialogState.h"
 #include "lang/LanguageKeys.h"
+#include "ui/DialogBinder.h"
 #include "ui/DialogButtons.h"
 #include "ui/DialogTexts.h"
 
@@ -64,10 +66,26 @@ NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::Messa
   QPushButton* ok = AddOkCancelRow(*this, *layout);
   connect(ok, &QPushButton::clicked, this, [this] {
     choice_ = removeRenamed_->isChecked() ? NotRenamedChoice::RemoveRenamed : NotRenamedChoice::NoAction;
+    if (session_ != nullptr) {
+      ReadWidgetsIntoModel(model_, *this);
+      dialog::StoreDialogState(model_, model_.Name(), dialog::kSettingsMode, *session_);
+    }
     accept();
   });
+  for (const char* name : {"lblSelAction", "lstNotRenamed"}) model_.AddNoValue(name);
+  model_.AddList("lstRenamed", {}, false);
+  model_.AddOption("optNoAction", "choice");
+  model_.AddOption("optRemoveRenamed", "choice");
+  for (const char* name : {"cmdOK", "cmdCancel"}) model_.AddNoValue(name);
 
   LocaliseDialog(*this, catalog, parent, QString());
+}
+
+void NotRenamedDialog::RememberChoiceIn(const ScriptSession& session, FrontEnd& frontEnd) {
+  session_ = &session;
+  ReadWidgetsIntoModel(model_, *this);
+  dialog::RestoreDialogState(model_, model_.Name(), dialog::kSettingsMode, session, frontEnd);
+  ShowModelInWidgets(model_, *this);
 }
 
 }  // namespace nomra::ui

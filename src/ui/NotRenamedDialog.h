@@ -3,6 +3,9 @@
 
 #include "commit/CommitResult.h"
 #include "commit/CommitServices.h"
+#include "core/FrontEnd.h"
+#include "core/ScriptSession.h"
+#include "dialog/DialogModel.h"
 #include "lang/MessageCatalog.h"
 
 class QRadioButton;
@@ -23,7 +26,13 @@ class NotRenamedDialog final : public QDialog {
   // What cmdOK chose; cmdCancel always gives NoAction.
   NotRenamedChoice Choice() const { return choice_; }
 
+  // Shows the choice of the last OK, and stores this one on OK, in the
+  // settings under the dialog's name.
+  void RememberChoiceIn(const ScriptSession& session, FrontEnd& frontEnd);
+
  private:
+  dialog::DialogModel model_{"frmNotRenamed"};
+  const ScriptSession* session_ = nullptr;
   QRadioButton* noAction_ = nullptr;
   QRadioButton* removeRenamed_ = nullptr;
   NotRenamedChoice choice_ = NotRenamedChoice::NoAction;

@@ -8,6 +8,7 @@
 #include "commit/CommitResult.h"
 #include "lang/MessageCatalog.h"
 #include "settings/IniFile.h"
+#include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
 #include "ui/LanguageDialog.h"
 #include "ui/NotRenamedDialog.h"
@@ -144,6 +145,41 @@ class NotRenamedDialogTest : public ::testing::Test {
   CommitResult result;
   lang::MessageCatalog catalog{EnglishFile()};
 };
+
+TEST_F(NotRenamedDialogTest, ChoiceOfTheLastOkIsShownNextTime) {
+  TempFolder data;
+  ScriptSession session;
+  session.dataFolder = data.Path();
+  session.settingsPath = data.Path() + "settings.nrp";
+  nomra::testing::ScriptedFrontEnd frontEnd;
+  {
+    NotRenamedDialog first(result, catalog);
+    first.RememberChoiceIn(session, frontEnd);
+    ASSERT_TRUE(first.findChild<QRadioButton*>("optNoAction")->isChecked());
+    first.findChild<QRadioButton*>("optRemoveRenamed")->setChecked(true);
+    first.findChild<QPushButton*>("cmdOK")->click();
+  }
+  EXPECT_EQ(settings::ReadIniString("frmNotRenamed", "optRemoveRenamed", session.settingsPath), "-1");
+  EXPECT_EQ(settings::ReadIniString("frmNotRenamed", "optNoAction", session.settingsPath), "");
+
+  NotRenamedDialog second(result, catalog);
+  second.RememberChoiceIn(session, frontEnd);
+  EXPECT_TRUE(second.findChild<QRadioButton*>("optRemoveRenamed")->isChecked());
+  EXPECT_FALSE(second.findChild<QRadioButton*>("optNoAction")->isChecked());
+}
+
+TEST_F(NotRenamedDialogTest, CancelStoresNoChoice) {
+  TempFolder data;
+  ScriptSession session;
+  session.dataFolder = data.Path();
+  session.settingsPath = data.Path() + "settings.nrp";
+  nomra::testing::ScriptedFrontEnd frontEnd;
+  NotRenamedDialog dialog(result, catalog);
+  dialog.RememberChoiceIn(session, frontEnd);
+  dialog.findChild<QRadioButton*>("optRemoveRenamed")->setChecked(true);
+  dialog.findChild<QPushButton*>("cmdCancel")->click();
+  EXPECT_EQ(settings::ReadIniString("frmNotRenamed", "optRemoveRenamed", session.settingsPath), "");
+}
 
 TEST_F(NotRenamedDialogTest, ListsEachRowWithNumberAndMessage) {
   NotRenamedDialog dialog(result, catalog);
