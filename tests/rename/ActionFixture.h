@@ -1,0 +1,28 @@
+#pragma once
+#include <string>
+
+#include "settings/SettingsKeys.h"
+#include "support/ListFixture.h"
+
+namespace nomra::testing {
+
+// A list over real files, with a data folder of its own for the settings
+// file, the recording's work file and the scripts.
+class ActionTest : public ListTest {
+ protected:
+  ActionTest() {
+    model.statusTexts[6] = "File %1 of %2";
+    model.script.dataFolder = data.Path();
+    model.script.settingsPath = data.Path() + settings::kSettingsFileName;
+    model.script.tempPath = data.Path() + settings::kScriptTempFileName;
+  }
+
+  std::vector<std::string> PendingNames() { return Column(kColNewName); }
+
+  std::string SettingsText() const { return ReadWholeFile(model.script.settingsPath); }
+  std::string RecordingText() const { return ReadWholeFile(model.script.tempPath); }
+
+  TempFolder data;
+};
+
+}  // namespace nomra::testing

@@ -1,0 +1,163 @@
+#include "script/ScriptChooser.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "script/ScriptFixture.h"
+
+namespace nomra {
+namespace {
+
+class ScriptChooserTest : public testing::ScriptTest {
+ protected:
+  ScriptChooserTest() { AddFiles({"a.jpg"}); }
+
+  void WriteTwoScripts() {
+    WriteScript("20261115023303.nrs", "[Main]\r\nSteps=1\r\nName=Prefix\r\n\r\n[1]\r\nType=5\r\ntxtPr=p_\r\n");
+    WriteScript("20261116101010.nrs", "[Main]\r\nSteps=1\r\nName=Suffix\r\n\r\n[1]\r\nType=5\r\ntxtSu=_s\r\n");
+  }
+
+  // Chooses the row that shows this display text.
+  void ChooseRow(const std::string& text) {
+    const std::vector<std::string>& rows = chooser.Model().At("lstScript").rows;
+    const auto found = std::find(rows.begin(), rows.end(), text);
+    ASSERT_NE(found, rows.end()) << text;
+    ASSERT_TRUE(chooser.Model().SetNumber("lstScript", static_cast<int>(found - rows.begin())));
+  }
+
+  std::vector<std::string> Rows() { return chooser.Model().At("lstScript").rows; }
+
+  // Lists the scripts and asks to delete the prefix script; the user
+  // answers. True when the dialog closes.
+  bool DeletePrefixScript(Answer answer) {
+    chooser.Load();
+    ChooseRow("Prefix [2026-11-15, 02:33:03]");
+    chooser.Model().SetOption("optDelete", true);
+    frontEnd.answers = {answer};
+    return chooser.Start();
+  }
+
+  ScriptChooser chooser{model};
+};
+
+TEST_F(ScriptChooserTest, MissingScriptsFolderGivesAnEmptyListAndNoStart) {
+  chooser.Load();
+  EXPECT_TRUE(Rows().empty());
+  EXPECT_FALSE(chooser.StartEnabled());
+  EXPECT_FALSE(chooser.Start());
+}
+
+TEST_F(ScriptChooserTest, EmptyScriptsFolderGivesAnEmptyListAndNoStart) {
+  data.MakeFolder("Script");
+  chooser.Load();
+  EXPECT_TRUE(Rows().empty());
+  EXPECT_FALSE(chooser.StartEnabled());
+}
+
+TEST_F(ScriptChooserTest, ListsEachScriptByNameAndDateWithRunAllChosen) {
+  WriteTwoScripts();
+  chooser.Load();
+  std::vector<std::string> rows = Rows();
+  std::sort(rows.begin(), rows.end());
+  EXPECT_EQ(rows, (std::vector<std::string>{"Prefix [2026-11-15, 02:33:03]", "Suffix [2026-11-16, 10:10:10]"}));
+  ASSERT_EQ(chooser.FileNames().size(), 2u);
+  // Each row's item data names the file the row shows.
+  for (std::size_t row = 0; row < 2; ++row) {
+    EXPECT_TRUE(Rows()[row].ends_with("[" + FormatScriptDate(chooser.FileNames()[row]) + "]")) << row;
+  }
+  EXPECT_TRUE(chooser.Model().IsSelected("optRunAll"));
+  EXPECT_FALSE(chooser.StartEnabled());
+}
+
+TEST_F(ScriptChooserTest, StartIsEnabledExactlyWhileARowIsChosen) {
+  WriteTwoScripts();
+  chooser.Load();
+  ChooseRow("Suffix [2026-11-16, 10:10:10]");
+  EXPECT_TRUE(chooser.StartEnabled());
+  chooser.Model().SetNumber("lstScript", -1);
+  EXPECT_FALSE(chooser.StartEnabled());
+}
+
+TEST_F(ScriptChooserTest, StartWithRunAllChoosesTheScriptAndStoresTheInputs) {
+  WriteTwoScripts();
+  chooser.Load();
+  ChooseRow("Suffix [2026-11-16, 10:10:10]");
+  const int row = chooser.Model().Number("lstScript");
+  ASSERT_TRUE(chooser.Start());
+  EXPECT_EQ(model.script.runMode, 1);
+  EXPECT_EQ(model.script.runPath, ScriptFolderPath() + "20261116101010.nrs");
+  EXPECT_EQ(SettingsText(), "[frmScript]\r\nlstScript=" + std::to_string(row) + "\r\noptRunAll=-1\r\n");
+
+  PlayScript(model.script, HeadlessOpener());
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a_s.jpg"}));
+}
+
+TEST_F(ScriptChooserTest, StartWithSingleStepsChoosesModeTwo) {
+  WriteTwoScripts();
+  chooser.Load();
+  ChooseRow("Prefix [2026-11-15, 02:33:03]");
+  chooser.Model().SetOption("optRunSingleSteps", true);
+  ASSERT_TRUE(chooser.Start());
+  EXPECT_EQ(model.script.runMode, 2);
+  EXPECT_NE(SettingsText().find("optRunSingleSteps=-1\r\n"), std::string::npos);
+}
+
+TEST_F(ScriptChooserTest, StoredInputsAreNeverReadBack) {
+  data.WriteFile(settings::kSettingsFileName, "[frmScript]\r\nlstScript=0\r\noptRunSingleSteps=-1\r\n");
+  model.script.saveDialogSettings = true;
+  WriteTwoScripts();
+  chooser.Load();
+  EXPECT_TRUE(chooser.Model().IsSelected("optRunAll"));
+  EXPECT_FALSE(chooser.Model().IsSelected("optRunSingleSteps"));
+  EXPECT_FALSE(chooser.StartEnabled());
+}
+
+TEST_F(ScriptChooserTest, CancellingPlaysNothingThoughPlaybackIsStillCalled) {
+  WriteTwoScripts();
+  chooser.Load();
+  ChooseRow("Prefix [2026-11-15, 02:33:03]");
+  model.script.runMode = 1;
+  chooser.Cancel();
+  EXPECT_EQ(model.script.runMode, 0);
+  PlayScript(model.script, HeadlessOpener());
+  EXPECT_TRUE(openedTypes.empty());
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.jpg"}));
+  EXPECT_FALSE(testing::Exists(model.script.settingsPath));
+}
+
+TEST_F(ScriptChooserTest, DeletingAnsweredNoKeepsTheRowTheFileAndTheDialogOpen) {
+  WriteTwoScripts();
+  EXPECT_FALSE(DeletePrefixScript(Answer::No));
+  ASSERT_EQ(frontEnd.asked.size(), 1u);
+  EXPECT_EQ(frontEnd.asked[0].textKey, "msgDeleteScript");
+  EXPECT_EQ(frontEnd.asked[0].captionKey, "msgCapAttention");
+  EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::YesNoDefaultNo);
+  EXPECT_EQ(frontEnd.asked[0].arguments, (std::vector<std::string>{"Prefix [2026-11-15, 02:33:03]"}));
+  EXPECT_EQ(Rows().size(), 2u);
+  EXPECT_TRUE(chooser.StartEnabled());
+  EXPECT_TRUE(testing::Exists(ScriptFolderPath() + "20261115023303.nrs"));
+  EXPECT_EQ(model.script.runMode, 0);
+}
+
+TEST_F(ScriptChooserTest, DeletingAnsweredYesRemovesTheScriptEvenWhenReadOnly) {
+  WriteTwoScripts();
+  std::filesystem::permissions(ScriptFolderPath() + "20261115023303.nrs", std::filesystem::perms::owner_read);
+  EXPECT_FALSE(DeletePrefixScript(Answer::Yes));
+  EXPECT_FALSE(testing::Exists(ScriptFolderPath() + "20261115023303.nrs"));
+  EXPECT_EQ(Rows(), (std::vector<std::string>{"Suffix [2026-11-16, 10:10:10]"}));
+  EXPECT_EQ(chooser.FileNames(), (std::vector<std::string>{"20261116101010.nrs"}));
+  EXPECT_FALSE(chooser.StartEnabled());
+  EXPECT_FALSE(testing::Exists(model.script.settingsPath));
+}
+
+TEST_F(ScriptChooserTest, DeletedScriptStillChosenOnTheButtonShowsStatusTextFive) {
+  WriteTwoScripts();
+  DeletePrefixScript(Answer::Yes);
+  EXPECT_FALSE(RunSelectedScript(model, "20261115023303.nrs", HeadlessOpener()));
+  EXPECT_EQ(model.selectedScriptLabel, "No script");
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.jpg"}));
+}
+
+}  // namespace
+}  // namespace nomra

@@ -1,0 +1,41 @@
+#include <gtest/gtest.h>
+
+#include "core/CommandLine.h"
+#include "script/ScriptFixture.h"
+
+namespace nomra {
+namespace {
+
+// "/runscript=" on the command line, carried out as the program does.
+class ScriptCommandLineTest : public testing::ScriptTest {
+ protected:
+  ScriptCommandLineTest() {
+    AddFiles({"a.jpg"});
+    switches.runScript = [this](const std::string& name) {
+      ++scriptArguments;
+      RunScriptArgument(model, name, HeadlessOpener());
+    };
+  }
+
+  CommandLineSwitches switches;
+  int scriptArguments = 0;
+};
+
+TEST_F(ScriptCommandLineTest, SwitchWithNothingBehindItIsNoScriptArgument) {
+  WriteScript("20261115023303.nrs", "[Main]\r\nSteps=1\r\n[1]\r\nType=5\r\ntxtPr=x\r\n");
+  RunCommandLine(SplitCommandLine("/runscript="), model, switches);
+  EXPECT_EQ(scriptArguments, 0);
+  EXPECT_TRUE(openedTypes.empty());
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.jpg"}));
+}
+
+TEST_F(ScriptCommandLineTest, QuotedFileNameFindsTheScriptInTheScriptsFolder) {
+  WriteScript("20261115023303.nrs", "[Main]\r\nSteps=1\r\n[1]\r\nType=5\r\ntxtPr=x\xC2\x90\r\n");
+  RunCommandLine(SplitCommandLine("/runscript=\"20261115023303.nrs\""), model, switches);
+  EXPECT_EQ(scriptArguments, 1);
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"x a.jpg"}));
+  EXPECT_EQ(model.script.runMode, 0);
+}
+
+}  // namespace
+}  // namespace nomra

@@ -1,0 +1,249 @@
+#include "script/ScriptPlayback.h"
+
+#include <gtest/gtest.h>
+
+#include "base/Fault.h"
+#include "dialog/DialogState.h"
+#include "rename/ActionFrame.h"
+#include "script/ScriptFixture.h"
+#include "script/ScriptRecording.h"
+
+namespace nomra {
+namespace {
+
+// The example of two steps from the description of the format, as a user's
+// editor would save it: UTF-8 with the stand-in for each blank.
+constexpr char kExampleScript[] =
+    "[Main]\r\nSteps=2\r\nName=Holiday pictures\r\n\r\n"
+    "[1]\r\nType=5\r\ntxtPr=Rome\xC2\x90" "2009\xC2\x90\r\n\r\n"
+    "[2]\r\nType=4\r\nopt2(1)=-1\r\n";
+
+class ScriptPlaybackTest : public testing::ScriptTest {
+ protected:
+  ScriptPlaybackTest() { AddFiles({"a.jpg", "b.jpg"}); }
+
+  // Chooses the script to play, as frmScript does.
+  void Choose(const std::string& fileName, const std::string& content, int runMode = 1) {
+    model.script.runPath = WriteScript(fileName, content);
+    model.script.runMode = static_cast<std::int16_t>(runMode);
+  }
+
+  void Play() { PlayScript(model.script, HeadlessOpener()); }
+
+  bool NoScriptPlays() const { return model.script.runMode == 0 && model.script.runPath.empty(); }
+  bool UserWasToldNothing() const {
+    return frontEnd.asked.empty() && frontEnd.plainMessages.empty() && frontEnd.faults.empty();
+  }
+};
+
+// Notes the step types handed over and the step number each came with.
+struct OpenedSteps {
+  StepOpener Opener(const ScriptSession& session) {
+    return [this, &session](int type) {
+      types.push_back(type);
+      steps.push_back(session.runStep);
+    };
+  }
+  std::vector<int> types;
+  std::vector<int> steps;
+};
+
+// A dialog whose own check refuses whatever it was given, and says so.
+class RefusingDialog final : public ActionDialog {
+ public:
+  RefusingDialog() : ActionDialog("frmInsert") { Model().AddText("txtInsert"); }
+  const ActionTraits& Traits() const override {
+    static const ActionTraits traits{"frmInsert", "frmInsert", "frmInsert", 7, false, RestoreMoment::OnLoad};
+    return traits;
+  }
+  bool CheckInputs(MainModel& model) override {
+    model.frontEnd.Ask({"MsgText05", "MsgCap02", MessageStyle::OkWarning, {Model().Text("txtInsert")}});
+    return false;
+  }
+  void Run(MainModel&) override { ADD_FAILURE() << "a refused step ran"; }
+};
+
+TEST_F(ScriptPlaybackTest, ExampleScriptPlaysHeadlessToTheRightPendingNames) {
+  Choose("20261115023303.nrs", kExampleScript);
+  std::vector<std::string> caseOptions;
+  PlayScript(model.script, [&](int type) {
+    openedTypes.push_back(type);
+    if (type != 4) return PlayStepWithoutWindow(model, type);
+    // The case dialog's option group, restored from its step.
+    dialog::DialogModel caseDialog("frmULCase");
+    for (int index = 0; index < 3; ++index) caseDialog.AddOption("opt2", "opt2", index);
+    caseDialog.SetOption("opt2(0)", true);
+    dialog::RestoreDialogState(caseDialog, std::to_string(model.script.runStep), dialog::kScriptMode, model.script,
+                               frontEnd);
+    for (const dialog::DialogInput& input : caseDialog.Inputs()) {
+      if (input.selected) caseOptions.push_back(input.Key());
+    }
+  });
+  EXPECT_EQ(openedTypes, (std::vector<int>{5, 4}));
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"Rome 2009 a.jpg", "Rome 2009 b.jpg"}));
+  EXPECT_EQ(caseOptions, (std::vector<std::string>{"opt2(1)"}));
+  EXPECT_TRUE(NoScriptPlays());
+}
+
+TEST_F(ScriptPlaybackTest, StepsArePlayedInOrderEachWithItsOwnNumber) {
+  Choose("20261115023303.nrs",
+         "[Main]\r\nSteps=3\r\n[1]\r\nType=5\r\ntxtPr=1\r\n[2]\r\nType=5\r\ntxtPr=2\r\n[3]\r\nType=5\r\ntxtSu=3\r\n");
+  OpenedSteps opened;
+  const StepOpener noting = opened.Opener(model.script);
+  PlayScript(model.script, [&](int type) {
+    noting(type);
+    PlayStepWithoutWindow(model, type);
+  });
+  EXPECT_EQ(opened.steps, (std::vector<int>{1, 2, 3}));
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"21a3.jpg", "21b3.jpg"}));
+}
+
+TEST_F(ScriptPlaybackTest, NothingPlaysWithoutAScriptOrARunMode) {
+  OpenedSteps opened;
+  model.script.runMode = 1;
+  PlayScript(model.script, opened.Opener(model.script));
+  EXPECT_TRUE(NoScriptPlays());
+
+  Choose("20261115023303.nrs", kExampleScript, 0);
+  PlayScript(model.script, opened.Opener(model.script));
+  EXPECT_TRUE(opened.types.empty());
+  EXPECT_TRUE(NoScriptPlays());
+}
+
+TEST_F(ScriptPlaybackTest, MissingStepCounterEndsTheScriptAtOnce) {
+  Choose("20261115023303.nrs", "[Main]\r\nName=No count\r\n\r\n[1]\r\nType=5\r\ntxtPr=x\r\n");
+  Play();
+  EXPECT_TRUE(openedTypes.empty());
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.jpg", "b.jpg"}));
+  EXPECT_TRUE(NoScriptPlays());
+}
+
+TEST_F(ScriptPlaybackTest, StepCounterThatIsNoNumberEndsTheCommandAndNoScriptPlaysAfterwards) {
+  Choose("20261115023303.nrs", "[Main]\r\nSteps=two\r\n\r\n[1]\r\nType=5\r\ntxtPr=x\r\n");
+  EXPECT_THROW(Play(), RuntimeFault);
+  EXPECT_TRUE(openedTypes.empty());
+  EXPECT_TRUE(NoScriptPlays());
+}
+
+TEST_F(ScriptPlaybackTest, StepWithAMissingTypeOrATypeThatIsNoNumberIsSkipped) {
+  Choose("20261115023303.nrs",
+         "[Main]\r\nSteps=3\r\n[1]\r\ntxtPr=a\r\n[2]\r\nType=five\r\ntxtPr=b\r\n[3]\r\nType=5\r\ntxtPr=c\r\n");
+  Play();
+  EXPECT_EQ(openedTypes, (std::vector<int>{5}));
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"ca.jpg", "cb.jpg"}));
+  EXPECT_TRUE(UserWasToldNothing());
+}
+
+TEST_F(ScriptPlaybackTest, StepOfType11IsSkippedWithoutAMessage) {
+  Choose("20261115023303.nrs", "[Main]\r\nSteps=2\r\n[1]\r\nType=11\r\ntxtPr=a\r\n[2]\r\nType=5\r\ntxtPr=b\r\n");
+  Play();
+  EXPECT_EQ(openedTypes, (std::vector<int>{5}));
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"ba.jpg", "bb.jpg"}));
+  EXPECT_TRUE(UserWasToldNothing());
+}
+
+TEST_F(ScriptPlaybackTest, TypesOneToTenEachOpenTheirDialog) {
+  std::string script = "[Main]\r\nSteps=12\r\n";
+  for (int step = 1; step <= 12; ++step) {
+    script += "[" + std::to_string(step) + "]\r\nType=" + std::to_string(step - 1) + "\r\n";
+  }
+  Choose("20261115023303.nrs", script);
+  OpenedSteps opened;
+  PlayScript(model.script, opened.Opener(model.script));
+  EXPECT_EQ(opened.types, (std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
+}
+
+TEST_F(ScriptPlaybackTest, StepRefusedByItsDialogsCheckShowsItsMessageAndTheNextStepRuns) {
+  Choose("20261115023303.nrs", "[Main]\r\nSteps=2\r\n[1]\r\nType=7\r\ntxtInsert=bad\r\n[2]\r\nType=5\r\ntxtPr=b\r\n");
+  PlayScript(model.script, [&](int type) {
+    if (type != 7) return PlayStepWithoutWindow(model, type);
+    RefusingDialog dialog;
+    PlayActionWithoutWindow(dialog, model);
+  });
+  ASSERT_EQ(frontEnd.asked.size(), 1u);
+  EXPECT_EQ(frontEnd.asked[0].arguments, (std::vector<std::string>{"bad"}));
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"ba.jpg", "bb.jpg"}));
+}
+
+TEST_F(ScriptPlaybackTest, ScriptThatIsNotUtf8IsReadAsWindows1252) {
+  Choose("20261115023303.nrs", "[Main]\r\nSteps=1\r\nName=Caf\xE9\r\n\r\n[1]\r\nType=5\r\ntxtPr=Caf\xE9\x90\r\n");
+  Play();
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"Café a.jpg", "Café b.jpg"}));
+}
+
+TEST_F(ScriptPlaybackTest, SingleStepsWithEveryDialogCancelledLeaveTheListAndEndNormally) {
+  Choose("20261115023303.nrs", kExampleScript, 2);
+  Play();
+  EXPECT_EQ(openedTypes, (std::vector<int>{5, 4}));
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.jpg", "b.jpg"}));
+  EXPECT_TRUE(NoScriptPlays());
+}
+
+TEST_F(ScriptPlaybackTest, ScriptPlayedDuringARecordingIsRecordedStepByStep) {
+  ResetScriptTemp(model.script);
+  BeginScriptRecording(model.script);
+  Choose("20261115023303.nrs",
+         "[Main]\r\nSteps=2\r\nName=Two\r\n\r\n[1]\r\nType=5\r\ntxtPr=Rome\xC2\x90\r\n\r\n[2]\r\nType=5\r\ntxtSu=_x\r\n");
+  Play();
+  EXPECT_EQ(RecordingText(),
+            "[Main]\r\nSteps=2\r\n\r\n[1]\r\nType=5\r\ntxtPr=Rome\xC2\x90\r\n\r\n[2]\r\nType=5\r\ntxtSu=_x\r\n");
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"Rome a_x.jpg", "Rome b_x.jpg"}));
+}
+
+TEST_F(ScriptPlaybackTest, PlayedStepIsNotMixedWithNorStoredToTheRememberedInputs) {
+  model.script.saveDialogSettings = true;
+  const std::string remembered = "[FrmPS]\r\ntxtPr=mine\r\n";
+  data.WriteFile(settings::kSettingsFileName, remembered);
+  Choose("20261115023303.nrs", "[Main]\r\nSteps=1\r\n\r\n[1]\r\nType=5\r\ntxtSu=_x\r\n");
+  Play();
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a_x.jpg", "b_x.jpg"}));
+  EXPECT_EQ(SettingsText(), remembered);
+}
+
+TEST_F(ScriptPlaybackTest, SelectedScriptThatExistsIsPlayedWithAllSteps) {
+  WriteScript("20261115023303.nrs", kExampleScript);
+  EXPECT_TRUE(RunSelectedScript(model, "20261115023303.nrs", HeadlessOpener()));
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"Rome 2009 a.jpg", "Rome 2009 b.jpg"}));
+  EXPECT_TRUE(NoScriptPlays());
+}
+
+TEST_F(ScriptPlaybackTest, SelectedScriptDeletedMeanwhileShowsStatusTextFiveAndNoMessage) {
+  model.selectedScriptLabel = "Holiday pictures [2026-11-15, 02:33:03]";
+  EXPECT_FALSE(RunSelectedScript(model, "20261115023303.nrs", HeadlessOpener()));
+  EXPECT_EQ(model.selectedScriptLabel, "No script");
+  EXPECT_TRUE(openedTypes.empty());
+  EXPECT_TRUE(NoScriptPlays());
+  EXPECT_TRUE(UserWasToldNothing());
+}
+
+TEST_F(ScriptPlaybackTest, ButtonWithoutAChosenScriptShowsStatusTextFive) {
+  data.MakeFolder("Script");
+  EXPECT_FALSE(RunSelectedScript(model, "", HeadlessOpener()));
+  EXPECT_EQ(model.selectedScriptLabel, "No script");
+  EXPECT_TRUE(NoScriptPlays());
+}
+
+TEST_F(ScriptPlaybackTest, ArgumentWithAPathPlaysThatFile) {
+  const std::string path = data.WriteFile("elsewhere/tidy.nrs", kExampleScript);
+  EXPECT_TRUE(RunScriptArgument(model, path, HeadlessOpener()));
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"Rome 2009 a.jpg", "Rome 2009 b.jpg"}));
+  EXPECT_TRUE(NoScriptPlays());
+}
+
+TEST_F(ScriptPlaybackTest, ArgumentWithABareNameIsLookedForInTheScriptsFolderWithoutItsQuotes) {
+  WriteScript("20261115023303.nrs", kExampleScript);
+  EXPECT_TRUE(RunScriptArgument(model, "\"20261115023303.nrs\"", HeadlessOpener()));
+  EXPECT_EQ(openedTypes, (std::vector<int>{5, 4}));
+  EXPECT_TRUE(NoScriptPlays());
+}
+
+TEST_F(ScriptPlaybackTest, ArgumentThatCannotBeFoundIsPassedOverSilentlyAndKeptAsThePath) {
+  EXPECT_FALSE(RunScriptArgument(model, "missing.nrs", HeadlessOpener()));
+  EXPECT_EQ(model.script.runPath, ScriptFolderPath() + "missing.nrs");
+  EXPECT_EQ(model.script.runMode, 0);
+  EXPECT_TRUE(openedTypes.empty());
+  EXPECT_TRUE(UserWasToldNothing());
+}
+
+}  // namespace
+}  // namespace nomra

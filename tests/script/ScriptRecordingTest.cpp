@@ -1,0 +1,188 @@
+#include "script/ScriptRecording.h"
+
+#include <gtest/gtest.h>
+
+#include "rename/ActionFrame.h"
+#include "rename/PrefixSuffix.h"
+#include "script/ScriptFixture.h"
+
+namespace nomra {
+namespace {
+
+class ScriptRecordingTest : public testing::ScriptTest {
+ protected:
+  ScriptRecordingTest() {
+    AddFiles({"a.txt"});
+    ResetScriptTemp(model.script);
+  }
+
+  // The user fills the prefix and suffix dialog and presses Apply.
+  void ApplyPrefixSuffix(const std::string& prefix, const std::string& suffix = "") {
+    PrefixSuffixDialog dialog;
+    dialog.Model().SetText("txtPr", prefix);
+    dialog.Model().SetText("txtSu", suffix);
+    ApplyActionDialog(dialog, model);
+  }
+
+  // A whole recording of one prefix, stored under `name`.
+  bool RecordOneStep(const std::string& prefix, const std::string& name) {
+    BeginScriptRecording(model.script);
+    ApplyPrefixSuffix(prefix);
+    frontEnd.inputs.push_back(name);
+    return EndScriptRecording(model, clock);
+  }
+
+  std::vector<std::string> AskedKeys() const {
+    std::vector<std::string> keys;
+    for (const Message& message : frontEnd.asked) keys.push_back(message.textKey);
+    return keys;
+  }
+};
+
+TEST_F(ScriptRecordingTest, ResetRemovesTheWorkFileAnEarlierRunLeft) {
+  data.WriteFile("script.tmp", "[Main]\r\nSteps=3\r\n");
+  model.script.tempPath.clear();
+  model.script.recording = 1;
+  ResetScriptTemp(model.script);
+  EXPECT_EQ(model.script.tempPath, data.Path() + "script.tmp");
+  EXPECT_FALSE(testing::Exists(data.Path() + "script.tmp"));
+  EXPECT_EQ(model.script.recording, 0);
+}
+
+TEST_F(ScriptRecordingTest, BeginningWritesOnlyTheStepCounter) {
+  BeginScriptRecording(model.script);
+  EXPECT_EQ(model.script.recording, 1);
+  EXPECT_EQ(RecordingText(), "[Main]\r\nSteps=0\r\n");
+}
+
+TEST_F(ScriptRecordingTest, RecordedStepIsStoredExactlyInTheScriptFormat) {
+  ASSERT_TRUE(RecordOneStep("Rome 2009 ", "Holiday pictures"));
+  EXPECT_EQ(ScriptFilesOnDisk(), (std::vector<std::string>{"20261115023303.nrs"}));
+  EXPECT_EQ(testing::ReadWholeFile(ScriptFolderPath() + "20261115023303.nrs"),
+            "[Main]\r\nSteps=1\r\nName=Holiday pictures\r\n\r\n[1]\r\nType=5\r\ntxtPr=Rome\xC2\x90"
+            "2009\xC2\x90\r\n");
+  EXPECT_FALSE(testing::Exists(model.script.tempPath));
+  EXPECT_EQ(model.script.recording, 0);
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"Rome 2009 a.txt"}));
+}
+
+TEST_F(ScriptRecordingTest, NamePromptOffersThePresentDateAndTime) {
+  ASSERT_TRUE(RecordOneStep("x", "Named"));
+  ASSERT_EQ(frontEnd.asked.size(), 1u);
+  EXPECT_EQ(frontEnd.asked[0].textKey, "MsgText31");
+  EXPECT_EQ(frontEnd.asked[0].captionKey, "MsgCap12");
+  EXPECT_EQ(frontEnd.inputPresets, (std::vector<std::string>{"2026-11-15 02:33:03"}));
+}
+
+TEST_F(ScriptRecordingTest, RecordingWithNoStepStoresNothingAndAsksNothing) {
+  BeginScriptRecording(model.script);
+  EXPECT_FALSE(EndScriptRecording(model, clock));
+  EXPECT_TRUE(frontEnd.asked.empty());
+  EXPECT_EQ(model.script.recording, 0);
+  // The scripts folder is made all the same, and stays empty.
+  EXPECT_TRUE(testing::Exists(ScriptFolderPath()));
+  EXPECT_TRUE(ScriptFilesOnDisk().empty());
+}
+
+TEST_F(ScriptRecordingTest, CancelledNameThenNoAsksAgainWithAFreshDate) {
+  clock = [this] {
+    std::tm moment = now;
+    ++now.tm_sec;
+    return moment;
+  };
+  BeginScriptRecording(model.script);
+  ApplyPrefixSuffix("x");
+  frontEnd.inputs = {"", "Second try"};
+  frontEnd.answers = {Answer::No};
+  ASSERT_TRUE(EndScriptRecording(model, clock));
+  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{"MsgText31", "MsgText32", "MsgText31"}));
+  EXPECT_EQ(frontEnd.asked[1].captionKey, "MsgCap12");
+  EXPECT_EQ(frontEnd.asked[1].style, MessageStyle::YesNoDefaultNo);
+  EXPECT_EQ(frontEnd.inputPresets, (std::vector<std::string>{"2026-11-15 02:33:03", "2026-11-15 02:33:04"}));
+  const std::vector<std::string> stored = ScriptFilesOnDisk();
+  ASSERT_EQ(stored.size(), 1u);
+  EXPECT_EQ(ScriptDisplayText(ScriptFolderPath() + stored[0], stored[0]).substr(0, 11), "Second try ");
+}
+
+TEST_F(ScriptRecordingTest, CancelledNameThenYesStoresNothingAndKeepsTheWorkFile) {
+  BeginScriptRecording(model.script);
+  ApplyPrefixSuffix("x");
+  const std::string recorded = RecordingText();
+  frontEnd.answers = {Answer::Yes};
+  EXPECT_FALSE(EndScriptRecording(model, clock));
+  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{"MsgText31", "MsgText32"}));
+  EXPECT_EQ(RecordingText(), recorded);
+  EXPECT_TRUE(ScriptFilesOnDisk().empty());
+  EXPECT_EQ(model.script.recording, 0);
+}
+
+TEST_F(ScriptRecordingTest, NameOfBlanksOnlyCountsAsCancelled) {
+  BeginScriptRecording(model.script);
+  ApplyPrefixSuffix("x");
+  frontEnd.inputs = {"   "};
+  frontEnd.answers = {Answer::Yes};
+  EXPECT_FALSE(EndScriptRecording(model, clock));
+  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{"MsgText31", "MsgText32"}));
+  EXPECT_TRUE(ScriptFilesOnDisk().empty());
+}
+
+TEST_F(ScriptRecordingTest, NameIsStoredAsTypedWithItsBlanks) {
+  ASSERT_TRUE(RecordOneStep("x", "  Trip  "));
+  const std::string text = testing::ReadWholeFile(ScriptFolderPath() + "20261115023303.nrs");
+  EXPECT_NE(text.find("\r\nName=  Trip  \r\n"), std::string::npos) << text;
+}
+
+TEST_F(ScriptRecordingTest, TwoRecordingsStoredInTheSameSecondAreBothKept) {
+  ASSERT_TRUE(RecordOneStep("x", "first"));
+  ASSERT_TRUE(RecordOneStep("y", "second"));
+  ASSERT_EQ(ScriptFilesOnDisk(), (std::vector<std::string>{"20261115023303.nrs", "20261115023304.nrs"}));
+  EXPECT_EQ(ScriptDisplayText(ScriptFolderPath() + "20261115023303.nrs", "20261115023303.nrs"),
+            "first [2026-11-15, 02:33:03]");
+  EXPECT_EQ(ScriptDisplayText(ScriptFolderPath() + "20261115023304.nrs", "20261115023304.nrs"),
+            "second [2026-11-15, 02:33:04]");
+}
+
+TEST_F(ScriptRecordingTest, ScriptsOfTheSameNameAreBothKeptUnderTheirOwnFileNames) {
+  ASSERT_TRUE(RecordOneStep("x", "Same"));
+  now.tm_min = 40;
+  ASSERT_TRUE(RecordOneStep("y", "Same"));
+  EXPECT_EQ(ScriptFilesOnDisk(), (std::vector<std::string>{"20261115023303.nrs", "20261115024003.nrs"}));
+}
+
+TEST_F(ScriptRecordingTest, AbandonedRecordingIsOverwrittenKeyByKeyAndItsStaleStepsArePassedOver) {
+  BeginScriptRecording(model.script);
+  ApplyPrefixSuffix("x", "old");
+  ApplyPrefixSuffix("y");
+  frontEnd.answers = {Answer::Yes};
+  ASSERT_FALSE(EndScriptRecording(model, clock));
+
+  BeginScriptRecording(model.script);
+  ApplyPrefixSuffix("", "z");
+  frontEnd.inputs = {"again"};
+  ASSERT_TRUE(EndScriptRecording(model, clock));
+  const std::string stored = ScriptFolderPath() + "20261115023303.nrs";
+  EXPECT_EQ(testing::ReadWholeFile(stored),
+            "[Main]\r\nSteps=1\r\nName=again\r\n\r\n[1]\r\nType=5\r\ntxtSu=z\r\n\r\n[2]\r\nType=5\r\ntxtPr=y\r\n");
+
+  ASSERT_EQ(PendingNames(), (std::vector<std::string>{"yxaoldz.txt"}));
+  model.script.runPath = stored;
+  model.script.runMode = 1;
+  PlayScript(model.script, HeadlessOpener());
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"yxaoldzz.txt"}));
+  EXPECT_EQ(openedTypes, (std::vector<int>{5}));
+}
+
+TEST_F(ScriptRecordingTest, ScriptThatCannotBeStoredStaysInTheWorkFileAndTheUserIsTold) {
+  data.WriteFile("Script", "a file where the folder should be");
+  BeginScriptRecording(model.script);
+  ApplyPrefixSuffix("x");
+  const std::string recorded = RecordingText();
+  frontEnd.inputs = {"Lost?"};
+  EXPECT_FALSE(EndScriptRecording(model, clock));
+  EXPECT_EQ(frontEnd.faults.size(), 1u);
+  EXPECT_NE(RecordingText().find("Name=Lost?"), std::string::npos);
+  EXPECT_EQ(RecordingText().substr(RecordingText().find("[1]")), recorded.substr(recorded.find("[1]")));
+}
+
+}  // namespace
+}  // namespace nomra
