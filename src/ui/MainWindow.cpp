@@ -108,9 +108,10 @@ MainWindow::MainWindow(Services services, QWidget* parent)
   ShowUnresolved(frontEnd_, interrupted);
 
   if (paths_.dataFolderUsable) ResetScriptTemp(model_.script);
-  FillScriptMenu();
   LocaliseWidget(*this, QString(), catalog_, lang::CaptionSources{});
   setLngalt();
+  // The entries are the scripts' own names, never language texts.
+  FillScriptMenu();
   RefreshPreview();
 }
 
@@ -132,6 +133,7 @@ void MainWindow::UseLanguage(const std::string& languageFile) {
   }
   LocaliseWidget(*this, QString(), catalog_, lang::CaptionSources{});
   setLngalt();
+  FillScriptMenu();
   RefreshPreview();
 }
 

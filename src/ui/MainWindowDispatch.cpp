@@ -83,6 +83,7 @@ void MainWindow::BuildCommandTables() {
   dropDownEntry("TakeChanges", "TakeChanges1");
 
   for (int stepType = 1; stepType <= kActionMenuEntries; ++stepType) {
+    if (!HasActionWindow(stepType)) continue;
     const QString number = QString("%1").arg(stepType, 2, 10, QLatin1Char('0'));
     mainTool("Rename" + number, [this, stepType] { OpenAction(stepType); });
     menu("mnuRename" + number, [this, number] { RunMainToolKey("Rename" + number); });

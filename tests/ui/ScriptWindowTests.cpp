@@ -245,7 +245,8 @@ TEST_F(ScriptWindowTest, ScriptRecordedHereGivesTheSameNamesInTheCommandLine) {
   expectedModals << "frmPrefixSuffix" << "frmPrefixSuffix";
   int opened = 0;
   modals.SetHandler([&](QWidget& modal) {
-    modal.findChild<QLineEdit*>(++opened == 1 ? "txtPr" : "txtSu")->setText(opened == 1 ? " pre " : "_suf");
+    ++opened;
+    modal.findChild<QLineEdit*>(opened == 1 ? "txtPr" : "txtSu")->setText(opened == 1 ? " pre " : "_suf");
     modal.findChild<QPushButton*>("cmdOK")->click();
   });
   window->RunMainToolKey("Rename05");
@@ -262,7 +263,7 @@ TEST_F(ScriptWindowTest, ScriptRecordedHereGivesTheSameNamesInTheCommandLine) {
   ASSERT_TRUE(cli.waitForFinished(20000));
   const QString table = QString::fromUtf8(cli.readAllStandardOutput());
 
-  for (const QString& name : {"a.txt", "b", "c.tar.gz"}) {
+  for (const QString name : {"a.txt", "b", "c.tar.gz"}) {
     const QString line = "  " + name + " -> " + NewName(name);
     EXPECT_TRUE(table.contains(line)) << line.toStdString() << "\n" << table.toStdString();
   }
