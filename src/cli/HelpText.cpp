@@ -52,7 +52,8 @@ void WriteOption(std::ostream& out, const OptionSpec& option) {
 void WriteHelp(std::ostream& out) {
   out << "Usage: nomra-cli [OPTIONS] PATH...\n";
   out << "       nomra-cli [OPTIONS] --playlist FILE [PATH...]\n";
-  out << "       nomra-cli scripts [--data-dir DIR] [--json]\n\n";
+  out << "       nomra-cli scripts [--data-dir DIR] [--json]\n";
+  out << "       nomra-cli eval STRUCTURE PATH... [--data-dir DIR] [--json]\n\n";
   WriteWrapped(out,
                "Loads each PATH into the list (a folder with everything in it, subfolders included) and the "
                "entries of each --playlist, then runs the other options in the order they are given, each one a "
@@ -68,6 +69,13 @@ void WriteHelp(std::ostream& out) {
                "tab, and the name the script was given with the date it was stored. With --json, an array of "
                "objects with file and display.");
   out << kIndent << "Example: nomra-cli scripts\n";
+  out << "  eval STRUCTURE PATH... [--data-dir DIR] [--json]\n";
+  WriteWrapped(out,
+               "Prints what the name structure STRUCTURE gives for each file of the PATHs (folders whole), one "
+               "line per file holding the result alone, and changes nothing. With --json, an array of objects "
+               "with path and result. A file whose evaluation meets a fault is printed on stderr and makes the "
+               "exit status 1.");
+  out << kIndent << "Example: nomra-cli eval '<NAME>_<NAME_M(2,5)>_<UC><EXT></UC>.<EXT>' ~/Pictures\n";
   out << "\nExit status:\n";
   out << kIndent << "0  success\n";
   out << kIndent << "1  a path, a playlist or a step met a fault, or --commit left a row\n";

@@ -5,7 +5,7 @@
 #include "cli/JsonText.h"
 #include "core/Startup.h"
 #include "platform/posix/PosixFileSystem.h"
-#include "rename/EvaluateStructure.h"
+#include "rename/ApplyStructure.h"
 #include "script/ScriptFiles.h"
 #include "script/ScriptPlayback.h"
 

@@ -7,6 +7,7 @@
 
 #include "cli/CliRun.h"
 #include "cli/CommandLineParser.h"
+#include "cli/EvalCommand.h"
 #include "cli/ExitStatus.h"
 #include "cli/HelpText.h"
 #include "cli/ScriptSteps.h"
@@ -19,6 +20,9 @@ int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
 
   const std::vector<std::string> arguments(argv + 1, argv + argc);
+  if (!arguments.empty() && arguments.front() == kEvalCommand) {
+    return RunEvalCommand({arguments.begin() + 1, arguments.end()}, std::cout, std::cerr);
+  }
   if (!arguments.empty() && arguments.front() == "scripts") {
     return RunScriptsCommand({arguments.begin() + 1, arguments.end()}, std::cout, std::cerr);
   }

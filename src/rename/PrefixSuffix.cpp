@@ -1,7 +1,7 @@
 #include "rename/PrefixSuffix.h"
 
 #include "rename/ActionScope.h"
-#include "rename/NameSplit.h"
+#include "base/NameSplit.h"
 
 namespace nomra {
 

@@ -1,4 +1,4 @@
-#include "rename/NameSplit.h"
+#include "base/NameSplit.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "rename/ReplaceText.h"
+#include "base/ReplaceText.h"
 
 #include <vector>
 
@@ -66,6 +66,41 @@ std::string ReplaceIgnoringCase(std::string_view text, std::string_view find, st
   return result;
 }
 
+bool IsAscii(std::string_view text) {
+  for (const char c : text) {
+    if (static_cast<unsigned char>(c) >= 0x80) return false;
+  }
+  return true;
+}
+
+constexpr char FoldAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+std::size_t FindFolded(std::string_view text, std::string_view find, std::size_t from) {
+  if (find.size() > text.size()) return std::string_view::npos;
+  for (std::size_t i = from; i + find.size() <= text.size(); ++i) {
+    std::size_t k = 0;
+    while (k < find.size() && FoldAscii(text[i + k]) == FoldAscii(find[k])) ++k;
+    if (k == find.size()) return i;
+  }
+  return std::string_view::npos;
+}
+
+// Both sides plain ASCII: lower-casing is folding "A" to "Z", byte by byte.
+std::string ReplaceAsciiIgnoringCase(std::string_view text, std::string_view find, std::string_view with,
+                                     std::size_t from, long count) {
+  std::string result(text.substr(0, from));
+  std::size_t pos = from;
+  for (long done = 0; done < count; ++done) {
+    const std::size_t hit = FindFolded(text, find, pos);
+    if (hit == std::string_view::npos) break;
+    result.append(text.substr(pos, hit - pos));
+    result.append(with);
+    pos = hit + find.size();
+  }
+  result.append(text.substr(pos));
+  return result;
+}
+
 }  // namespace
 
 std::string ReplaceText(std::string_view text, std::string_view find, std::string_view with, long start, long count,
@@ -73,6 +108,7 @@ std::string ReplaceText(std::string_view text, std::string_view find, std::strin
   if (find.empty() || count <= 0) return std::string(text);
   const std::size_t from = ByteOffsetOfCharacter(text, start < 1 ? 1 : start);
   if (compare == 0) return ReplaceExact(text, find, with, from, count);
+  if (IsAscii(find) && IsAscii(text)) return ReplaceAsciiIgnoringCase(text, find, with, from, count);
   return ReplaceIgnoringCase(text, find, with, from, count);
 }
 

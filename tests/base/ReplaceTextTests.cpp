@@ -1,4 +1,4 @@
-#include "rename/ReplaceText.h"
+#include "base/ReplaceText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,53 @@
+#include "structure/CaseBrackets.h"
+
+#include <array>
+#include <string_view>
+
+#include "base/Fault.h"
+#include "structure/CaseConversion.h"
+#include "structure/TextSearch.h"
+
+namespace nomra {
+
+namespace {
+
+constexpr std::string_view kIntChar = "<IntChar>";
+constexpr std::array<std::string_view, 5> kCaseCodes = {"UC", "LC", "1C", "WC", "SC"};
+
+std::string_view TrimBlanks(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+}  // namespace
+
+void ResolveIntCharPair(std::string& s) {
+  const std::size_t open = s.find(kIntChar);
+  if (open == std::string::npos) return;
+  const std::size_t innerStart = open + kIntChar.size();
+  const std::size_t close = s.find(kIntChar, innerStart);
+  if (close == std::string::npos) return;
+  const std::string_view inner = std::string_view(s).substr(innerStart, close - innerStart);
+  if (inner.empty() || TrimBlanks(inner) == "x") s.erase(open, close + kIntChar.size() - open);
+}
+
+void ResolveCaseBrackets(std::string& s) {
+  for (const std::string_view code : kCaseCodes) {
+    const std::string opening = "<" + std::string(code) + ">";
+    const std::string closing = "</" + std::string(code) + ">";
+    for (;;) {
+      const std::size_t open = FindTagNoCase(s, opening);
+      const std::size_t close = FindTagNoCase(s, closing);
+      if (open == std::string::npos || close == std::string::npos) break;
+      if (close < open) {
+        throw RuntimeFault("the case mark " + closing + " stands before its " + opening);
+      }
+      const std::size_t innerStart = open + opening.size();
+      const std::string converted = ConvertCase(code, std::string_view(s).substr(innerStart, close - innerStart));
+      s.replace(open, close + closing.size() - open, converted);
+    }
+  }
+}
+
+}  // namespace nomra

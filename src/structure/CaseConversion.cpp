@@ -1,0 +1,85 @@
+#include "structure/CaseConversion.h"
+
+#include <utf8proc.h>
+
+#include "base/CaseMap.h"
+#include "base/Utf8.h"
+
+namespace nomra {
+
+namespace {
+
+std::u32string Upper(std::u32string chars) {
+  for (char32_t& c : chars) c = text::ToUpperChar(c);
+  return chars;
+}
+
+std::u32string Lower(std::u32string chars) {
+  for (char32_t& c : chars) c = text::ToLowerChar(c);
+  return chars;
+}
+
+std::u32string FirstUpper(std::u32string chars) {
+  chars = Lower(std::move(chars));
+  if (chars.empty()) return chars;
+  chars[0] = text::ToUpperChar(chars[0]);
+  // An extension in brackets keeps its dot and gets its first letter up.
+  if (chars[0] == U'.' && chars.size() >= 2) chars[1] = text::ToUpperChar(chars[1]);
+  return chars;
+}
+
+std::u32string WordsUpper(std::u32string chars) {
+  chars = Lower(std::move(chars));
+  if (chars.empty()) return chars;
+  chars[0] = text::ToUpperChar(chars[0]);
+  for (std::size_t i = 1; i < chars.size(); ++i) {
+    if (!IsWordCharacter(chars[i - 1])) chars[i] = text::ToUpperChar(chars[i]);
+  }
+  return chars;
+}
+
+std::u32string Swapped(std::u32string chars) {
+  for (char32_t& c : chars) {
+    const char32_t lower = text::ToLowerChar(c);
+    c = lower == c ? text::ToUpperChar(c) : lower;
+  }
+  return chars;
+}
+
+}  // namespace
+
+bool IsWordCharacter(char32_t c) {
+  if (c <= 0xFF) {
+    return c == 39 || (c >= 65 && c <= 90) || (c >= 96 && c <= 122) || (c >= 192 && c <= 214) ||
+           (c >= 216 && c <= 246) || c >= 248;
+  }
+  if (text::IsRawByte(c)) return false;
+  switch (utf8proc_category(static_cast<utf8proc_int32_t>(c))) {
+    case UTF8PROC_CATEGORY_LU:
+    case UTF8PROC_CATEGORY_LL:
+    case UTF8PROC_CATEGORY_LT:
+    case UTF8PROC_CATEGORY_LM:
+    case UTF8PROC_CATEGORY_LO:
+      return true;
+    default:
+      return false;
+  }
+}
+
+std::string ConvertCase(std::string_view code, std::string_view text) {
+  std::u32string chars = text::ToChars(text);
+  if (code == "UC") {
+    chars = Upper(std::move(chars));
+  } else if (code == "LC") {
+    chars = Lower(std::move(chars));
+  } else if (code == "1C") {
+    chars = FirstUpper(std::move(chars));
+  } else if (code == "WC") {
+    chars = WordsUpper(std::move(chars));
+  } else if (code == "SC") {
+    chars = Swapped(std::move(chars));
+  }
+  return text::FromChars(chars);
+}
+
+}  // namespace nomra

@@ -1,0 +1,48 @@
+#include "structure/StructureEngine.h"
+
+#include "structure/CaseBrackets.h"
+#include "structure/PathAndNameTags.h"
+#include "structure/TextSearch.h"
+
+namespace nomra {
+
+namespace {
+
+void RemoveControlCharacters(std::string& s) {
+  std::erase_if(s, [](char c) { return c >= 1 && c <= 31; });
+}
+
+}  // namespace
+
+const MetadataSteps& NoMetadataReaders() {
+  static const MetadataSteps none;
+  return none;
+}
+
+// One fixed series of textual steps, each open to what the ones before it
+// put in; the order and what each leaves behind are the language.
+std::string EvaluateStructure(MainModel& model, int row, std::string_view structure, const MetadataSteps& metadata) {
+  const FileEntry& entry = model.list.Item(row);
+  const std::string pending = entry[kColNewName];
+  std::string s(structure.empty() ? std::string_view(pending) : structure);
+
+  if (HoldsTagNoCase(s, "<PATH")) ReplacePathTags(s, entry[kColPath]);
+  ReplaceNameTags(s, pending);
+  ReplaceExtensionTags(s, pending);
+
+  metadata.ExifTags(model, row, pending, s);
+  if (HoldsTagNoCase(s, "<SMS")) metadata.SmsTags(model, row, s);
+  metadata.DateTags(model, row, s);
+  metadata.ShortNameAndChecksumTags(model, row, s);
+  // Reading an MP3 for every row is what these tags cost; without them no file is opened.
+  if (s.find("<ID3_") != std::string::npos || s.find("<MP3_") != std::string::npos) {
+    metadata.Id3AndMpegTags(model, row, s);
+  }
+
+  ResolveIntCharPair(s);
+  ResolveCaseBrackets(s);
+  RemoveControlCharacters(s);
+  return s;
+}
+
+}  // namespace nomra

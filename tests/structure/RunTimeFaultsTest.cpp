@@ -1,0 +1,48 @@
+// The places where the language stops the action instead of writing a
+// failure text into the name.
+#include "base/Fault.h"
+#include "rename/ApplyStructure.h"
+#include "structure/StructureFixture.h"
+
+namespace nomra::testing {
+namespace {
+
+using RunTimeFaults = StructureTest;
+
+TEST_F(RunTimeFaults, SliceOfAnEmptyStemThatStartsBeforeIt) {
+  EXPECT_THROW(Evaluate("<NAME_M(0,0)>", ".profile"), RuntimeFault);
+  EXPECT_EQ(Evaluate("<NAME_M(1,1)>", ".profile"), "");
+}
+
+TEST_F(RunTimeFaults, SlicePositionBeyondThirtyTwoBits) {
+  EXPECT_THROW(Evaluate("<NAME_M(1,99999999999)>", "abc.txt"), RuntimeFault);
+  EXPECT_THROW(Evaluate("<PATH_M(99999999999,1)>", "abc.txt"), RuntimeFault);
+}
+
+TEST_F(RunTimeFaults, NamePartIndexBelowOneWhereTheDelimiterStands) {
+  EXPECT_THROW(Evaluate("<NAMEPART(\"-\",0)>", "a-b.txt"), RuntimeFault);
+  EXPECT_EQ(Evaluate("<NAMEPART(\"-\",0)>", "ab.txt"), "");
+}
+
+TEST_F(RunTimeFaults, NamePartTrimOutsideItsThreeValues) {
+  EXPECT_THROW(Evaluate("<NAMEPART(\"-\",1,2)>", "a-b.txt"), RuntimeFault);
+}
+
+TEST_F(RunTimeFaults, ClosingCaseMarkBeforeItsOpening) {
+  EXPECT_THROW(Evaluate("</UC>a<UC>", "x.txt"), RuntimeFault);
+}
+
+TEST_F(RunTimeFaults, RowsBeforeTheFaultKeepWhatTheyGot) {
+  AddFiles({"1.txt", "2.txt", "3-x.txt", "4.txt"});
+  model.statusTexts[6] = "%1/%2";
+  // The list shows the rows in the order they were added.
+  ASSERT_EQ(Column(kColOldName), (std::vector<std::string>{"1.txt", "2.txt", "3-x.txt", "4.txt"}));
+
+  EXPECT_THROW(ApplyStructure(model, "n<NAMEPART(\"-\",0)><NAME>"), RuntimeFault);
+
+  EXPECT_EQ(Column(kColNewName), (std::vector<std::string>{"n1", "n2", "3-x.txt", "4.txt"}));
+  EXPECT_EQ(model.changedCount, 2);
+}
+
+}  // namespace
+}  // namespace nomra::testing
