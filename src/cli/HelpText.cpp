@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "cli/HistoryCommandLine.h"
 #include "cli/OptionTable.h"
 
 namespace nomra::cli {
@@ -47,13 +48,32 @@ void WriteOption(std::ostream& out, const OptionSpec& option) {
   out << kIndent << "Example: nomra-cli " << option.example << '\n';
 }
 
+// The rename protocol's own command, with its options.
+void WriteHistoryCommand(std::ostream& out) {
+  out << "  history [--undo N[,N...] | --clear] [--data-dir DIR] [--json]\n";
+  WriteWrapped(out,
+               "Lists the records of the rename protocol renamed.nrp, numbered in file order, each with its "
+               "date, its state, its folder and its old and new name, then the counts. A record is black when "
+               "its new name still exists, so the rename can be undone, and red when it doesn't. A folder named "
+               "history is loaded as ./history or after --.");
+  out << kIndent << "Example: nomra-cli history\n";
+  for (const HistoryOptionSpec& option : HistoryOptionTable()) {
+    out << "    " << option.name;
+    if (!option.argument.empty()) out << ' ' << option.argument;
+    out << '\n';
+    WriteWrapped(out, option.help);
+    out << kIndent << "Example: nomra-cli " << option.example << '\n';
+  }
+}
+
 }  // namespace
 
 void WriteHelp(std::ostream& out) {
   out << "Usage: nomra-cli [OPTIONS] PATH...\n";
   out << "       nomra-cli [OPTIONS] --playlist FILE [PATH...]\n";
   out << "       nomra-cli scripts [--data-dir DIR] [--json]\n";
-  out << "       nomra-cli eval STRUCTURE PATH... [--data-dir DIR] [--json]\n\n";
+  out << "       nomra-cli eval STRUCTURE PATH... [--data-dir DIR] [--json]\n";
+  out << "       nomra-cli history [--undo N[,N...] | --clear] [--data-dir DIR] [--json]\n\n";
   WriteWrapped(out,
                "Loads each PATH into the list (a folder with everything in it, subfolders included) and the "
                "entries of each --playlist, then runs the other options in the order they are given, each one a "
@@ -76,10 +96,13 @@ void WriteHelp(std::ostream& out) {
                "with path and result. A file whose evaluation meets a fault is printed on stderr and makes the "
                "exit status 1.");
   out << kIndent << "Example: nomra-cli eval '<NAME>_<NAME_M(2,5)>_<UC><EXT></UC>.<EXT>' ~/Pictures\n";
+  WriteHistoryCommand(out);
   out << "\nExit status:\n";
   out << kIndent << "0  success\n";
   out << kIndent << "1  a path, a playlist or a step met a fault, or --commit left a row\n";
-  out << kIndent << "   not renamed (each is printed; the run goes on)\n";
+  out << kIndent << "   not renamed (each is printed; the run goes on); for history, a\n";
+  out << kIndent << "   record named to --undo stayed, or the protocol couldn't be read or\n";
+  out << kIndent << "   written\n";
   out << kIndent << "2  the command line is wrong; nothing ran\n";
 }
 

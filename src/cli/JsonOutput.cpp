@@ -16,12 +16,12 @@ void WriteRow(std::ostream& out, const FileEntry& row) {
   out << "]}";
 }
 
+}  // namespace
+
 void WriteReportRow(std::ostream& out, const ReportRow& row) {
   out << "{\"number\":" << row.number << ",\"key\":" << JsonString(row.rowKey)
       << ",\"message\":" << JsonString(row.Describe()) << ",\"textKey\":" << JsonString(row.textKey) << '}';
 }
-
-}  // namespace
 
 void WriteJson(std::ostream& out, const MainModel& model, const std::vector<ReportRow>& report) {
   out << "{\"rows\":[";

@@ -15,4 +15,7 @@ namespace nomra::cli {
 // {"number":N,"key":…,"message":…,"textKey":…}.
 void WriteJson(std::ostream& out, const MainModel& model, const std::vector<ReportRow>& report);
 
+// One rename that didn't happen: {"number":N,"key":…,"message":…,"textKey":…}.
+void WriteReportRow(std::ostream& out, const ReportRow& row);
+
 }  // namespace nomra::cli

@@ -10,6 +10,7 @@
 #include "cli/EvalCommand.h"
 #include "cli/ExitStatus.h"
 #include "cli/HelpText.h"
+#include "cli/HistoryRun.h"
 #include "cli/ScriptSteps.h"
 #include "cli/UsageError.h"
 
@@ -25,6 +26,9 @@ int main(int argc, char** argv) {
   }
   if (!arguments.empty() && arguments.front() == "scripts") {
     return RunScriptsCommand({arguments.begin() + 1, arguments.end()}, std::cout, std::cerr);
+  }
+  if (!arguments.empty() && arguments.front() == kHistoryCommand) {
+    return RunHistoryCommand({arguments.begin() + 1, arguments.end()}, std::cout, std::cerr);
   }
   Invocation invocation;
   try {

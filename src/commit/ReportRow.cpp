@@ -1,5 +1,7 @@
 #include "commit/ReportRow.h"
 
+#include <utility>
+
 namespace nomra {
 
 namespace {
@@ -22,7 +24,32 @@ std::string Names(const ReportRow& row) {
   return "the rename protocol";
 }
 
+const char* TextKeyOf(FailureKind kind) {
+  switch (kind) {
+    case FailureKind::TargetExists:
+      return kTargetExistsText;
+    case FailureKind::PathNotUsable:
+      return kPathNotUsableText;
+    case FailureKind::Other:
+      break;
+  }
+  return kOtherFailureText;
+}
+
+std::string Quoted(const std::string& path) { return "\"" + path + "\""; }
+
 }  // namespace
+
+ReportRow FailedRenameRow(const Failure& failure, int number, std::string rowKey, const std::string& from,
+                          const std::string& to) {
+  ReportRow row;
+  row.number = number;
+  row.rowKey = std::move(rowKey);
+  row.textKey = TextKeyOf(failure.kind);
+  row.arguments = {Quoted(from), Quoted(to)};
+  if (failure.kind == FailureKind::Other) row.systemText = failure.systemText;
+  return row;
+}
 
 std::string ReportRow::Describe() const { return Names(*this) + ": " + Reason(*this); }
 

@@ -2,6 +2,8 @@
 #include <string>
 #include <vector>
 
+#include "commit/RenameFailure.h"
+
 namespace nomra {
 
 // Language keys (section "Messages") of the rows of the not-renamed report.
@@ -26,5 +28,11 @@ struct ReportRow {
   // "/d/a.txt" -> "/d/b.txt": the target exists
   std::string Describe() const;
 };
+
+// The row of a rename from `from` to `to` that failed: the message chosen by
+// the failure's kind, both paths in double quotes, and the system's text of a
+// failure no number describes.
+ReportRow FailedRenameRow(const Failure& failure, int number, std::string rowKey, const std::string& from,
+                          const std::string& to);
 
 }  // namespace nomra

@@ -3,6 +3,8 @@
 #include <functional>
 #include <map>
 
+#include "rename/CaseAction.h"
+#include "rename/ExtensionAction.h"
 #include "rename/PrefixSuffix.h"
 
 namespace nomra {
@@ -12,6 +14,8 @@ namespace {
 // Adding an action dialog is one line here.
 const std::map<int, std::function<std::unique_ptr<ActionDialog>()>>& Factories() {
   static const std::map<int, std::function<std::unique_ptr<ActionDialog>()>> factories{
+      {3, [] { return std::make_unique<ExtensionDialog>(); }},
+      {4, [] { return std::make_unique<CaseDialog>(); }},
       {5, [] { return std::make_unique<PrefixSuffixDialog>(); }},
   };
   return factories;

@@ -28,6 +28,9 @@ inline constexpr char kInstructionSeparator = '|';
 
 // The rename protocol in the data folder.
 inline constexpr char kProtocolFileName[] = "renamed.nrp";
+// Where the protocol is written whole before it replaces "renamed.nrp"; it
+// exists only while the protocol is rewritten.
+inline constexpr char kProtocolTempFileName[] = "renamed.tmp";
 
 // The work file of a script recording in the data folder; one left by a
 // recording that never ended is removed at start.

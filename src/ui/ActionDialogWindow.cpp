@@ -63,6 +63,7 @@ void ActionDialogWindow::FinishBuilding() {
   ReadWidgetsIntoModel(action_->Model(), *this);
   LoadActionDialog(*action_, services_.model);
   ShowModelInWidgets(action_->Model(), *this);
+  AfterInputsShown();
 }
 
 void ActionDialogWindow::showEvent(QShowEvent* event) {
@@ -83,6 +84,7 @@ void ActionDialogWindow::OnFirstActivation() {
   ReadWidgetsIntoModel(action_->Model(), *this);
   const bool okAtOnce = ActivateActionDialog(*action_, services_.model, true);
   ShowModelInWidgets(action_->Model(), *this);
+  AfterInputsShown();
   // Once the dialog's own loop runs, so that the close ends it.
   if (okAtOnce) QTimer::singleShot(0, this, &ActionDialogWindow::cmdOK);
 }
@@ -99,6 +101,9 @@ void ActionDialogWindow::cmdApply() {
   } catch (const RuntimeFault& fault) {
     services_.model.frontEnd.ShowFault(fault.what());
   }
+  // An action may tidy its inputs while it runs; the dialog shows them so.
+  ShowModelInWidgets(action_->Model(), *this);
+  AfterInputsShown();
   if (disable) {
     apply_->setEnabled(true);
     ok_->setEnabled(true);

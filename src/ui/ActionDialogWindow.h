@@ -45,6 +45,9 @@ class ActionDialogWindow : public QDialog {
   void FinishBuilding();
   // After the language texts are in place, before the inputs are restored.
   virtual void AfterLocalised() {}
+  // Whenever the inputs were put on the widgets anew, e.g. to follow which
+  // inputs are enabled.
+  virtual void AfterInputsShown() {}
 
   void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;

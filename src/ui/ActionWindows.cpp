@@ -3,7 +3,9 @@
 #include <functional>
 #include <map>
 
+#include "ui/FrmFileExtension.h"
 #include "ui/FrmPrefixSuffix.h"
+#include "ui/FrmULCase.h"
 
 namespace nomra::ui {
 
@@ -14,6 +16,8 @@ using WindowFactory = std::function<std::unique_ptr<ActionDialogWindow>(ActionWi
 // Adding an action's window is one line here.
 const std::map<int, WindowFactory>& Factories() {
   static const std::map<int, WindowFactory> factories{
+      {3, [](ActionWindowServices services) { return std::make_unique<FrmFileExtension>(std::move(services)); }},
+      {4, [](ActionWindowServices services) { return std::make_unique<FrmULCase>(std::move(services)); }},
       {5, [](ActionWindowServices services) { return std::make_unique<FrmPrefixSuffix>(std::move(services)); }},
   };
   return factories;

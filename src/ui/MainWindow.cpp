@@ -53,7 +53,7 @@ const QStringList& ManagedMenuNames() {
 // Commands whose dialogs come with later work: visible, never enabled, never faked.
 const QStringList& CommandsNotYetBuilt() {
   static const QStringList names = {
-      "mnuTakeChanges2", "mnuHistory", "mnuCopyFiles", "mnuMoveFiles", "mnuDeleteFiles1",
+      "mnuTakeChanges2", "mnuCopyFiles", "mnuMoveFiles", "mnuDeleteFiles1",
       "mnuDeleteFiles2", "mnuRenameStructure",
       "mnuNewNamesFromFile", "mnuFileList", "mnuMP3List", "mnuEXIFList", "mnuID3Data", "mnuID3Data1", "mnuID3Data2",
       "mnuFileAttributes", "mnuFindDuplications", "mnuSyncFolders", "mnuUpdate", "mnuHelpContent",

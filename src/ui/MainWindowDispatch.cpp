@@ -13,6 +13,7 @@
 #include "open/OpenCommand.h"
 #include "ui/ActionWindows.h"
 #include "ui/FileListModel.h"
+#include "ui/FrmHistory.h"
 #include "ui/MainWindow.h"
 #include "ui/QtLocalisation.h"
 
@@ -121,6 +122,10 @@ void MainWindow::BuildCommandTables() {
   menu("mnuCopyName2", [this] { mnuCopyText(kColNewName); });
   menu("mnuCopyLink", [this] { mnuCopyText(-1); });
   menu("mnuInfo", [this] { mnuInfo(); });
+  menu("mnuHistory", [this] {
+    ShowRenameHistory(this, model_, frontEnd_, catalog_, appTitle_);
+    RefreshPreview();
+  });
   menu("mnuOptions", [this] { RunMainToolKey("Options"); });
   menu("mnuExperts", [this] { mnuExperts(); });
   menu("mnuEnd", [this] { close(); });

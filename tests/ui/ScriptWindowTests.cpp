@@ -237,6 +237,40 @@ TEST_F(ScriptWindowTest, RecordingSwitchesTheRecordButtonsAndStoresANamedScript)
   EXPECT_TRUE(ScriptMenu().actions().front()->text().startsWith("My script ["));
 }
 
+TEST_F(ScriptWindowTest, ClosingDuringARecordingAnsweredYesStoresTheScript) {
+  Open();
+  AddFiles({"a.txt"});
+  window->FrontEnd().SetInputAnswerer([](const Message&, const std::string&) { return std::string("At close"); });
+  window->RunMenuCommand("mnuStartRecordScript");
+  expectedModals << "frmPrefixSuffix";
+  modals.SetHandler([](QWidget& modal) {
+    modal.findChild<QLineEdit*>("txtPr")->setText("c_");
+    modal.findChild<QPushButton*>("cmdOK")->click();
+  });
+  window->RunMainToolKey("Rename05");
+  // Yes to storing the recording, No to taking the pending names.
+  answers = {Answer::Yes, Answer::No};
+
+  EXPECT_TRUE(window->close());
+
+  ASSERT_GE(asked.size(), 1u);
+  EXPECT_EQ(asked[0].message.textKey, "MsgText30");
+  const std::vector<std::string> stored = StoredScripts();
+  ASSERT_EQ(stored.size(), 1u);
+  EXPECT_EQ(settings::ReadIniString("Main", "Name", ScriptFolder() + stored.front()), "At close");
+}
+
+TEST_F(ScriptWindowTest, ClosingDuringARecordingAnsweredNoLosesIt) {
+  Open();
+  AddFiles({"a.txt"});
+  window->RunMenuCommand("mnuStartRecordScript");
+  answers = {Answer::No};
+
+  EXPECT_TRUE(window->close());
+
+  EXPECT_TRUE(StoredScripts().empty());
+}
+
 TEST_F(ScriptWindowTest, ScriptRecordedHereGivesTheSameNamesInTheCommandLine) {
   Open();
   const std::vector<std::string> paths = AddFiles({"a.txt", "b", "c.tar.gz"});

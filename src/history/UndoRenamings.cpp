@@ -1,0 +1,80 @@
+#include "history/UndoRenamings.h"
+
+#include <optional>
+
+#include "base/Helpers.h"
+#include "commit/DiskRename.h"
+#include "commit/RenameFailure.h"
+#include "history/WriteHistory.h"
+
+namespace nomra::history {
+
+namespace {
+
+bool Confirmed(FrontEnd& frontEnd, const char* question) {
+  const Message message{question, kAttentionCaption, MessageStyle::YesNoWarningDefaultNo, {kParagraphBreak}};
+  return frontEnd.Ask(message) == Answer::Yes;
+}
+
+// Renames the file back; nothing when that worked. An old name that no file
+// may have is refused before the disk is touched, so a damaged record can't
+// move a file into another folder.
+std::optional<Failure> RenameBack(platform::FileSystem& fileSystem, const HistoryRow& row, const std::string& from,
+                                  const std::string& to) {
+  if (std::optional<Failure> refused = RefuseName(row.oldName)) return refused;
+  const platform::RenameResult renamed = fileSystem.RenameNoReplace(from, to);
+  if (!renamed.ok) return FailureOfError(renamed.error);
+  if (!fileSystem.ConfirmRenamed(from, to)) return OtherFailure(kRenameDidNothingText);
+  return std::nullopt;
+}
+
+// One row's rename back; a failure is shown at once. Answers whether it worked.
+bool UndoRow(const HistoryRow& row, const HistoryServices& services, UndoOutcome& outcome) {
+  const std::string folder = AddBackslash(row.folder);
+  const std::string from = folder + row.newName;
+  const std::string to = folder + row.oldName;
+  const std::optional<Failure> failure = RenameBack(services.fileSystem, row, from, to);
+  if (!failure) {
+    ++outcome.undone;
+    return true;
+  }
+  outcome.failures.push_back(FailedRenameRow(*failure, static_cast<int>(outcome.failures.size()) + 1, from, from, to));
+  if (services.showFailure) {
+    services.showFailure(outcome.failures.back());
+  } else {
+    services.frontEnd.Ask(FailureMessage(outcome.failures.back()));
+  }
+  return false;
+}
+
+}  // namespace
+
+Message FailureMessage(const ReportRow& failure) {
+  return Message{failure.textKey, "", MessageStyle::OkWarning, failure.arguments};
+}
+
+UndoOutcome UndoRenamings(HistoryList& list, const HistoryServices& services) {
+  UndoOutcome outcome;
+  if (!Confirmed(services.frontEnd, kUndoQuestion)) return outcome;
+  outcome.confirmed = true;
+
+  // Rows that stay are gathered in order, so a long history costs one pass.
+  std::vector<HistoryRow> kept;
+  kept.reserve(list.rows.size());
+  for (HistoryRow& row : list.rows) {
+    if (row.selected && row.present && UndoRow(row, services, outcome)) continue;
+    kept.push_back(std::move(row));
+  }
+  list.rows = std::move(kept);
+  writeHistoryData(list, services.dataFolder);
+  return outcome;
+}
+
+bool cmdDeleteHistory(HistoryList& list, const HistoryServices& services) {
+  if (!Confirmed(services.frontEnd, kDeleteQuestion)) return false;
+  list.rows.clear();
+  writeHistoryData(list, services.dataFolder);
+  return true;
+}
+
+}  // namespace nomra::history

@@ -1,0 +1,54 @@
+#include "rename/ExtensionAction.h"
+
+#include "rename/ApplyStructure.h"
+
+namespace nomra {
+
+namespace {
+
+constexpr char kChange[] = "optFE(1)";
+constexpr char kAddOld[] = "chkAddOldFE";
+constexpr char kNewExtension[] = "txtFE";
+
+}  // namespace
+
+ExtensionDialog::ExtensionDialog() : ActionDialog("frmFileExtension") {
+  dialog::DialogModel& model = Model();
+  model.AddOption("optFE", "optFE", 1);
+  model.AddOption("optFE", "optFE", 2);
+  model.AddCheck(kAddOld);
+  model.AddText(kNewExtension);
+  for (const char* name : {"cmdApply", "cmdOK", "cmdCancel", "cmdHelp"}) model.AddNoValue(name);
+  model.SetOption(kChange, true);
+}
+
+const ActionTraits& ExtensionDialog::Traits() const {
+  static const ActionTraits traits{"frmFileExtension", "FrmFE", "FrmFE", 3, true, RestoreMoment::OnLoad};
+  return traits;
+}
+
+std::string CleanExtensionInput(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  text = text.substr(first, text.find_last_not_of(' ') - first + 1);
+  const std::size_t afterDots = text.find_first_not_of('.');
+  return afterDots == std::string_view::npos ? std::string() : std::string(text.substr(afterDots));
+}
+
+std::string ExtensionDialog::Structure() const {
+  std::string structure = "<Name>";
+  if (!Model().IsSelected(kChange)) return structure;
+  if (Model().Number(kAddOld) == 1) structure += ".<Ext>";
+  const std::string& extension = Model().Text(kNewExtension);
+  if (!extension.empty()) structure += "." + extension;
+  return structure;
+}
+
+bool ExtensionDialog::ChangeInputsEnabled() const { return Model().IsSelected(kChange); }
+
+void ExtensionDialog::Run(MainModel& model) {
+  Model().SetText(kNewExtension, CleanExtensionInput(Model().Text(kNewExtension)));
+  ApplyStructure(model, Structure());
+}
+
+}  // namespace nomra

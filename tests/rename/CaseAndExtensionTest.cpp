@@ -1,0 +1,165 @@
+// Upper and lower case, and the file extension: the structures their
+// buttons stand for, and the names that come out.
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "rename/ActionFixture.h"
+#include "rename/ActionFrame.h"
+#include "rename/BuiltInActions.h"
+#include "rename/CaseAction.h"
+#include "rename/ExtensionAction.h"
+#include "script/ScriptPlayback.h"
+#include "settings/IniFile.h"
+
+namespace nomra {
+namespace {
+
+class CaseActionTest : public testing::ActionTest {
+ protected:
+  void Choose(int conversion, int appliesTo) {
+    dialog.Model().SetOption("opt1(" + std::to_string(conversion) + ")", true);
+    dialog.Model().SetOption("opt2(" + std::to_string(appliesTo) + ")", true);
+  }
+  CaseDialog dialog;
+};
+
+TEST_F(CaseActionTest, FirstConversionOnTheNameIsChosenWhenNothingIsStored) {
+  EXPECT_TRUE(dialog.Model().IsSelected("opt1(1)"));
+  EXPECT_TRUE(dialog.Model().IsSelected("opt2(1)"));
+  EXPECT_EQ(dialog.Structure(), "<1C><NAME></1C><.EXT>");
+}
+
+TEST_F(CaseActionTest, EachButtonPairGivesItsStructure) {
+  const char* codes[] = {"1C", "WC", "UC", "LC", "SC"};
+  for (int conversion = 1; conversion <= 5; ++conversion) {
+    const std::string c = codes[conversion - 1];
+    Choose(conversion, 1);
+    EXPECT_EQ(dialog.Structure(), "<" + c + "><NAME></" + c + "><.EXT>");
+    Choose(conversion, 2);
+    EXPECT_EQ(dialog.Structure(), "<NAME><" + c + "><.EXT></" + c + ">");
+    Choose(conversion, 3);
+    EXPECT_EQ(dialog.Structure(), "<" + c + "><NAME></" + c + "><" + c + "><.EXT></" + c + ">");
+  }
+}
+
+TEST_F(CaseActionTest, FirstCapitalOnBothConvertsNameAndExtensionApart) {
+  AddFiles({"a b.TXT"});
+  Choose(1, 3);
+  dialog.Run(model);
+  EXPECT_EQ(PendingNames(), std::vector<std::string>{"A b.Txt"});
+}
+
+TEST_F(CaseActionTest, NameWithoutStemStaysAsItIs) {
+  AddFiles({".profile"});
+  Choose(3, 1);
+  dialog.Run(model);
+  EXPECT_EQ(PendingNames(), std::vector<std::string>{".profile"});
+}
+
+TEST_F(CaseActionTest, UpperCaseOfTheExtensionOnly) {
+  AddFiles({"Photo.jpg", "notes"});
+  Choose(3, 2);
+  dialog.Run(model);
+  EXPECT_EQ(PendingNames(), (std::vector<std::string>{"Photo.JPG", "notes"}));
+}
+
+TEST_F(CaseActionTest, RemembersItsInputsUnderItsOwnNameAndRecordsTypeFour) {
+  model.script.saveDialogSettings = true;
+  model.script.recording = 1;
+  settings::WriteIni("Main", "Steps", 0L, model.script.tempPath);
+  AddFiles({"a.txt"});
+  Choose(4, 3);
+  ApplyActionDialog(dialog, model);
+  EXPECT_EQ(settings::ReadIniString("frmULCase", "opt1(4)", model.script.settingsPath), "-1");
+  EXPECT_EQ(settings::ReadIniString("frmULCase", "opt2(3)", model.script.settingsPath), "-1");
+  EXPECT_EQ(settings::ReadIniString("1", "Type", model.script.tempPath), "4");
+  EXPECT_TRUE(dialog.Traits().disablesButtonsWhileRunning);
+}
+
+TEST_F(CaseActionTest, ScriptStepOfTypeFourPlaysWithoutAWindow) {
+  AddFiles({"Mixed Case.Txt"});
+  const std::string script = data.WriteFile("s.nrs", "[Main]\r\nSteps=1\r\n[1]\r\nType=4\r\nopt1(4)=-1\r\nopt2(3)=-1\r\n");
+  model.script.runPath = script;
+  model.script.runMode = 1;
+  PlayScript(model.script, [this](int type) { PlayStepWithoutWindow(model, type); });
+  EXPECT_EQ(PendingNames(), std::vector<std::string>{"mixed case.txt"});
+}
+
+class ExtensionActionTest : public testing::ActionTest {
+ protected:
+  void Choose(bool change, bool keepOld, const std::string& extension) {
+    dialog.Model().SetOption(change ? "optFE(1)" : "optFE(2)", true);
+    dialog.Model().SetNumber("chkAddOldFE", keepOld ? 1 : 0);
+    dialog.Model().SetText("txtFE", extension);
+  }
+  ExtensionDialog dialog;
+};
+
+TEST_F(ExtensionActionTest, ChangeIsChosenAndKeepingTheOldOneIsOffWhenNothingIsStored) {
+  EXPECT_TRUE(dialog.Model().IsSelected("optFE(1)"));
+  EXPECT_EQ(dialog.Model().Number("chkAddOldFE"), 0);
+  EXPECT_TRUE(dialog.ChangeInputsEnabled());
+}
+
+TEST_F(ExtensionActionTest, LeadingDotsAndBlanksAreCleanedAndWrittenBack) {
+  AddFiles({"a.doc"});
+  Choose(true, false, " ..txt ");
+  dialog.Run(model);
+  EXPECT_EQ(dialog.Model().Text("txtFE"), "txt");
+  EXPECT_EQ(PendingNames(), std::vector<std::string>{"a.txt"});
+}
+
+TEST_F(ExtensionActionTest, KeepingTheOldExtensionPutsTheNewOneBehindIt) {
+  AddFiles({"a.doc"});
+  Choose(true, true, "..txt");
+  dialog.Run(model);
+  EXPECT_EQ(PendingNames(), std::vector<std::string>{"a.doc.txt"});
+}
+
+TEST_F(ExtensionActionTest, ChangingToNothingRemovesTheExtensionAsRemovingDoes) {
+  AddFiles({"a.doc", "b.tar.gz"});
+  Choose(true, false, "");
+  dialog.Run(model);
+  const std::vector<std::string> changed = PendingNames();
+  dialog.Model().SetText("txtFE", "");
+  EXPECT_EQ(changed, (std::vector<std::string>{"a", "b.tar"}));
+  EXPECT_EQ(dialog.Structure(), "<Name>");
+}
+
+TEST_F(ExtensionActionTest, RemovingTakesTheLastExtensionOnly) {
+  AddFiles({"a.tar.gz"});
+  Choose(false, true, "txt");
+  EXPECT_FALSE(dialog.ChangeInputsEnabled());
+  dialog.Run(model);
+  EXPECT_EQ(PendingNames(), std::vector<std::string>{"a.tar"});
+}
+
+TEST_F(ExtensionActionTest, RemembersItsInputsInFrmFEAndRecordsTypeThree) {
+  model.script.saveDialogSettings = true;
+  model.script.recording = 1;
+  settings::WriteIni("Main", "Steps", 0L, model.script.tempPath);
+  AddFiles({"a.txt"});
+  Choose(true, true, "bak");
+  ApplyActionDialog(dialog, model);
+  EXPECT_EQ(settings::ReadIniString("FrmFE", "txtFE", model.script.settingsPath), "bak");
+  EXPECT_EQ(settings::ReadIniString("FrmFE", "chkAddOldFE", model.script.settingsPath), "1");
+  EXPECT_EQ(settings::ReadIniString("1", "Type", model.script.tempPath), "3");
+  EXPECT_EQ(PendingNames(), std::vector<std::string>{"a.txt.bak"});
+}
+
+TEST(CleanExtensionInput, BlanksThenDots) {
+  EXPECT_EQ(CleanExtensionInput("  ...tar.gz "), "tar.gz");
+  EXPECT_EQ(CleanExtensionInput(". txt"), " txt");
+  EXPECT_EQ(CleanExtensionInput("..."), "");
+}
+
+TEST(BuiltInActions, TheCaseExtensionAndPrefixDialogsAreRegistered) {
+  EXPECT_EQ(KnownStepTypes(), (std::vector<int>{3, 4, 5}));
+  EXPECT_EQ(CreateActionDialog(3)->Traits().dialogName, "frmFileExtension");
+  EXPECT_EQ(CreateActionDialog(4)->Traits().dialogName, "frmULCase");
+  EXPECT_EQ(CreateActionDialog(11), nullptr);
+}
+
+}  // namespace
+}  // namespace nomra
