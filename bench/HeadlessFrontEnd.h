@@ -9,6 +9,8 @@ namespace nomra::bench {
 class HeadlessFrontEnd final : public FrontEnd {
  public:
   Answer Ask(const Message&) override { return Answer::No; }
+  void ShowPlainMessage(const std::string&) override {}
+  std::string AskInput(const Message&, const std::string& preset) override { return preset; }
   void ShowFault(const std::string&) override {}
   void SetStatusText(const std::string& text) override { last = text; }
   void Pump() override {}
