@@ -63,7 +63,7 @@ TEST_F(CliScript, MissingScriptIsAFaultOfItsStepAndTheOthersRun) {
 TEST_F(CliScript, StepsOfUnknownTypesArePassedOver) {
   files.WriteFile("a.txt");
   const std::string script = files.WriteFile(
-      "s.nrs", "[Main]\r\nSteps=3\r\n[1]\r\nType=11\r\ntxtPr=no\r\n[2]\r\nType=4\r\n[3]\r\nType=5\r\ntxtPr=yes_\r\n");
+      "s.nrs", "[Main]\r\nSteps=3\r\n[1]\r\nType=11\r\ntxtPr=no\r\n[2]\r\nType=0\r\ntxtPr=no\r\n[3]\r\nType=5\r\ntxtPr=yes_\r\n");
 
   const JsonValue document = RunJson({"--script", script, files.Path() + "a.txt"});
 
