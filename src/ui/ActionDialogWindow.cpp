@@ -60,7 +60,7 @@ void ActionDialogWindow::FinishBuilding() {
   usualCaption_ = windowTitle();
   AfterLocalised();
   for (QLineEdit* edit : findChildren<QLineEdit*>()) edit->installEventFilter(this);
-  ReadWidgetsIntoModel(action_->Model(), *this);
+  // The model holds what the dialog shows when nothing is stored.
   LoadActionDialog(*action_, services_.model);
   ShowModelInWidgets(action_->Model(), *this);
   AfterInputsShown();

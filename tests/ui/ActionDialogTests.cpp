@@ -1,8 +1,11 @@
 // The action dialogs in the window: the shared frame, prefix and suffix, and
 // the remembered inputs.
+#include <QCheckBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 
 #include "settings/IniFile.h"
@@ -135,6 +138,67 @@ TEST_F(ActionDialogTest, TextBoxSelectsAllItsTextOnFocus) {
   QApplication::processEvents();
   suffix->setFocus();
   EXPECT_TRUE(WaitFor([&] { return suffix->selectedText() == "keep"; }));
+}
+
+TEST_F(ActionDialogTest, EveryInputOfCaseAndExtensionHasItsWidget) {
+  Open();
+  for (int stepType : {3, 4}) {
+    const auto dialog = CreateActionWindow(stepType, ActionWindowServices{window->Model(), window->Catalog(),
+                                                                          window.get(), "Nomra", [] {}});
+    ASSERT_NE(dialog, nullptr) << stepType;
+    EXPECT_EQ(InputsWithoutWidget(dialog->Action().Model(), *dialog), QStringList()) << stepType;
+  }
+}
+
+TEST_F(ActionDialogTest, CaseConversionsTakeTheirTextsFromTheNumberedKeys) {
+  Open();
+  const auto dialog =
+      CreateActionWindow(4, ActionWindowServices{window->Model(), window->Catalog(), window.get(), "Nomra", [] {}});
+  EXPECT_EQ(dialog->findChild<QRadioButton*>("opt1(3)")->text(), LanguageText("frmULCASE", "optOpt3"));
+  EXPECT_EQ(dialog->findChild<QGroupBox*>("frameapply")->title(), LanguageText("frmULCASE", "Frameapply"));
+  EXPECT_TRUE(dialog->findChild<QRadioButton*>("opt1(1)")->isChecked());
+  EXPECT_TRUE(dialog->findChild<QRadioButton*>("opt2(1)")->isChecked());
+}
+
+TEST_F(ActionDialogTest, UpperCaseFromTheMenuChangesTheNames) {
+  Open();
+  AddFiles({"mixed Case.txt"});
+  expectedModals << "frmULCase";
+  modals.SetHandler([](QWidget& modal) {
+    modal.findChild<QRadioButton*>("opt1(3)")->setChecked(true);
+    modal.findChild<QRadioButton*>("opt2(3)")->setChecked(true);
+    modal.findChild<QPushButton*>("cmdOK")->click();
+  });
+  window->RunMenuCommand("mnuRename04");
+  EXPECT_EQ(NewName("mixed Case.txt"), "MIXED CASE.TXT");
+}
+
+TEST_F(ActionDialogTest, RemovingTheExtensionDisablesItsInputs) {
+  Open();
+  const auto dialog =
+      CreateActionWindow(3, ActionWindowServices{window->Model(), window->Catalog(), window.get(), "Nomra", [] {}});
+  auto* keepOld = dialog->findChild<QCheckBox*>("chkAddOldFE");
+  auto* extension = dialog->findChild<QLineEdit*>("txtFE");
+  EXPECT_TRUE(keepOld->isEnabled());
+  dialog->findChild<QRadioButton*>("optFE(2)")->setChecked(true);
+  EXPECT_FALSE(keepOld->isEnabled());
+  EXPECT_FALSE(extension->isEnabled());
+  dialog->findChild<QRadioButton*>("optFE(1)")->setChecked(true);
+  EXPECT_TRUE(extension->isEnabled());
+}
+
+TEST_F(ActionDialogTest, ExtensionFieldRefusesDotsAndShowsTheCleanedText) {
+  Open();
+  AddFiles({"a.doc"});
+  const auto dialog = CreateActionWindow(
+      3, ActionWindowServices{window->Model(), window->Catalog(), window.get(), "Nomra", [this] { window->RefreshPreview(); }});
+  auto* extension = dialog->findChild<QLineEdit*>("txtFE");
+  QTest::keyClicks(extension, ".t/x.t");
+  EXPECT_EQ(extension->text(), "txt");
+  extension->setText(" ..bak");
+  dialog->cmdApply();
+  EXPECT_EQ(extension->text(), "bak");
+  EXPECT_EQ(NewName("a.doc"), "a.bak");
 }
 
 TEST_F(ActionDialogTest, ActionsWithoutTheirDialogYetStayDisabled) {
