@@ -18,6 +18,9 @@ struct CommitServices {
   // Shows the report of a commit that left rows not renamed and returns the
   // user's choice; unset, the choice is NoAction.
   std::function<NotRenamedChoice(const CommitResult&)> showNotRenamed;
+  // Shows frmSelAction for "TakeChanges2", which copies or moves the files
+  // and renames the originals, the copies or both; unset, nothing happens.
+  std::function<void()> showSelectAction;
 };
 
 }  // namespace nomra

@@ -17,6 +17,10 @@ bool UserAgrees(MainModel& model) {
 }  // namespace
 
 std::optional<CommitResult> takeChanges(MainModel& model, std::string_view tag, const CommitServices& services) {
+  if (text::EqualsNoCase(tag, "TakeChanges2")) {
+    if (services.showSelectAction) services.showSelectAction();
+    return std::nullopt;
+  }
   if (!tag.empty() && !text::EqualsNoCase(tag, "TakeChanges1")) return std::nullopt;
   if (!UserAgrees(model)) return std::nullopt;
   CommitResult result = mdlRenameFiles(model, kWholeList, services.clock);

@@ -11,8 +11,9 @@ namespace nomra {
 // The take-changes button and menu entry, by the button's Tag. "TakeChanges1"
 // (or no tag) takes every pending change to disk, after asking when the
 // second security question is on, shows what wasn't renamed and refreshes.
-// "TakeChanges2" belongs to a dialog not built yet and does nothing, as does
-// any other tag. Nothing comes back when nothing ran.
+// "TakeChanges2" hands over to frmSelAction, whose OK copies or moves and
+// renames; any other tag does nothing. Nothing comes back when no commit of
+// the whole list ran here.
 std::optional<CommitResult> takeChanges(MainModel& model, std::string_view tag, const CommitServices& services = {});
 
 }  // namespace nomra

@@ -53,13 +53,9 @@ const QStringList& ManagedMenuNames() {
 // Commands whose dialogs come with later work: visible, never enabled, never faked.
 const QStringList& CommandsNotYetBuilt() {
   static const QStringList names = {
-      "mnuTakeChanges2", "mnuCopyFiles", "mnuMoveFiles", "mnuDeleteFiles1",
-      "mnuDeleteFiles2", "mnuRenameStructure",
-      "mnuNewNamesFromFile", "mnuFileList", "mnuMP3List", "mnuEXIFList", "mnuID3Data", "mnuID3Data1", "mnuID3Data2",
-      "mnuFileAttributes", "mnuFindDuplications", "mnuSyncFolders", "mnuUpdate", "mnuHelpContent",
-      "mnuImgPreview", "mnuShowAssistant",
-      "BtnBarMain/Rename99", "BtnBarMain/ImgPreview",
-      "btnBarLeft/Properties", "BtnBarMain/TakeChanges2"};
+      "mnuNewNamesFromFile", "mnuFileList",    "mnuMP3List",          "mnuEXIFList",    "mnuID3Data",
+      "mnuID3Data1",         "mnuID3Data2",    "mnuFileAttributes",   "mnuFindDuplications", "mnuSyncFolders",
+      "mnuUpdate",           "mnuHelpContent", "mnuImgPreview",       "mnuShowAssistant", "BtnBarMain/ImgPreview"};
   return names;
 }
 

@@ -24,6 +24,7 @@
 #include "ui/InfoDialog.h"
 #include "ui/LanguageDialog.h"
 #include "ui/MainWindow.h"
+#include "ui/FileOperationCommands.h"
 #include "ui/NotRenamedDialog.h"
 #include "ui/QtLocalisation.h"
 #include "ui/ThumbnailCache.h"
@@ -86,6 +87,7 @@ void MainWindow::takeChanges() {
     dialog.exec();
     return dialog.Choice();
   };
+  services.showSelectAction = [this] { RunSelAction(this, model_, catalog_, "frmSelAction"); };
   nomra::takeChanges(model_, variants_.value("TakeChanges").toStdString(), services);
   RefreshPreview();
 }

@@ -13,6 +13,8 @@
 #include "open/OpenCommand.h"
 #include "ui/ActionWindows.h"
 #include "ui/FileListModel.h"
+#include "ui/FileOperationCommands.h"
+#include "ui/FrmNameStructure.h"
 #include "ui/FrmHistory.h"
 #include "ui/MainWindow.h"
 #include "ui/QtLocalisation.h"
@@ -82,6 +84,7 @@ void MainWindow::BuildCommandTables() {
   dropDownEntry("OpenFile", "OpenFile2");
   for (int entry = 1; entry <= 5; ++entry) dropDownEntry("DelList", QString("DelList%1").arg(entry));
   dropDownEntry("TakeChanges", "TakeChanges1");
+  dropDownEntry("TakeChanges", "TakeChanges2");
 
   for (int stepType = 1; stepType <= kActionMenuEntries; ++stepType) {
     if (!HasActionWindow(stepType)) continue;
@@ -89,6 +92,9 @@ void MainWindow::BuildCommandTables() {
     mainTool("Rename" + number, [this, stepType] { OpenAction(stepType); });
     menu("mnuRename" + number, [this, number] { RunMainToolKey("Rename" + number); });
   }
+
+  mainTool("Rename99", [this] { OpenNameStructure(ActionServices()); });
+  menu("mnuRenameStructure", [this] { RunMainToolKey("Rename99"); });
 
   tool(kScriptBar, "StartRecordScript", [this] { mnuStartRecordScript(); });
   tool(kScriptBar, "StopRecordScript", [this] { mnuStopRecordScript(); });
@@ -107,10 +113,31 @@ void MainWindow::BuildCommandTables() {
     RefreshPreview();
   });
   tool(kLeftBar, "CancelAction", [this] { CancelAction(); });
+  tool(kLeftBar, "Properties", [this] {
+    const int position = SelectedPosition();
+    if (position > 0) ShowProperties(this, frontEnd_, catalog_, model_.list.Item(position).key);
+  });
 
   menu("mnuOpenFile", [this] { RunMainToolKey("OpenFile"); });
   menu("mnuOpenFromList", [this] { OpenFilesDialog(open::OpenMode::Playlists); });
   menu("mnuTakeChanges1", [this] { RunDropDownEntry("TakeChanges", "TakeChanges1"); });
+  menu("mnuTakeChanges2", [this] { RunDropDownEntry("TakeChanges", "TakeChanges2"); });
+  menu("mnuCopyFiles", [this] {
+    RunSelAction(this, model_, catalog_, "frmCopyFiles");
+    RefreshPreview();
+  });
+  menu("mnuMoveFiles", [this] {
+    RunSelAction(this, model_, catalog_, "frmMoveFiles");
+    RefreshPreview();
+  });
+  menu("mnuDeleteFiles1", [this] {
+    DeleteListFiles(this, model_, catalog_, true);
+    RefreshPreview();
+  });
+  menu("mnuDeleteFiles2", [this] {
+    DeleteListFiles(this, model_, catalog_, false);
+    RefreshPreview();
+  });
   menu("mnuRejectChanges", [this] { RunMainToolKey("RejectChanges"); });
   menu("mnuUndo", [this] { RunMainToolKey("Undo"); });
   for (int entry = 1; entry <= 5; ++entry) {

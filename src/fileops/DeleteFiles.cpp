@@ -1,0 +1,82 @@
+#include "fileops/DeleteFiles.h"
+
+#include "fileops/MessageKeys.h"
+#include "fileops/OperationFailures.h"
+#include "fileops/Trash.h"
+
+namespace nomra::fileops {
+
+namespace {
+
+constexpr char kLineBreak[] = "\n";
+
+bool UserAgrees(const std::vector<std::string>& paths, bool toTrash, FrontEnd& frontEnd) {
+  const bool one = paths.size() == 1;
+  const char* key = toTrash ? (one ? kTrashOne : kTrashMany) : (one ? kDeleteOne : kDeleteMany);
+  const std::string what = one ? paths.front() : std::to_string(paths.size());
+  const MessageStyle style = toTrash ? MessageStyle::YesNo : MessageStyle::YesNoWarningDefaultNo;
+  return frontEnd.Ask({key, kDeleteCaption, style, {what}}) == Answer::Yes;
+}
+
+enum class Step { Next, Stop };
+
+Step Record(DeleteOutcome& outcome, int error) {
+  if (outcome.result == 0) outcome.result = error;
+  return Step::Next;
+}
+
+Step DeleteAtOnce(const std::string& path, std::size_t left, DeleteOutcome& outcome, OperationServices& services) {
+  const int error = services.system.RemoveFile(path);
+  if (error == 0) return Step::Next;
+  Record(outcome, error);
+  services.frontEnd.Ask({kDeleteFailed, kAttentionCaption, MessageStyle::OkStop, {path, SystemText(error)}});
+  return AskGoOn(services.frontEnd, static_cast<int>(left)) ? Step::Next : Step::Stop;
+}
+
+Step SendToTrash(const std::string& path, std::size_t left, DeleteOutcome& outcome, OperationServices& services) {
+  const int error = MoveToTrash(services.system, path, services.clock());
+  if (error == 0) return Step::Next;
+  // Deleting for good instead is the user's choice, never ours.
+  const Message offer{kTrashFailed, kAttentionCaption, MessageStyle::YesNoCancelDefaultNo,
+                      {path, SystemText(error), kLineBreak}};
+  switch (services.frontEnd.Ask(offer)) {
+    case Answer::Yes:
+      return DeleteAtOnce(path, left, outcome, services);
+    case Answer::Cancel:
+      Record(outcome, error);
+      return Step::Stop;
+    default:
+      return Record(outcome, error);
+  }
+}
+
+}  // namespace
+
+DeleteOutcome DeleteFiles(const std::vector<std::string>& paths, bool toTrash, bool confirm,
+                          OperationServices& services) {
+  DeleteOutcome outcome;
+  if (paths.empty()) return outcome;
+  if (confirm && !UserAgrees(paths, toTrash, services.frontEnd)) {
+    outcome.aborted = true;
+    return outcome;
+  }
+  ProgressStep step;
+  step.kind = toTrash ? OperationKind::Trash : OperationKind::Delete;
+  step.count = static_cast<int>(paths.size());
+  services.progress.Begin(step.kind, step.count, 0);
+  for (std::size_t index = 0; index < paths.size(); ++index) {
+    step.index = static_cast<int>(index) + 1;
+    step.path = paths[index];
+    const std::size_t left = paths.size() - index - 1;
+    if (!services.progress.Report(step) ||
+        (toTrash ? SendToTrash(paths[index], left, outcome, services)
+                 : DeleteAtOnce(paths[index], left, outcome, services)) == Step::Stop) {
+      outcome.aborted = true;
+      break;
+    }
+  }
+  services.progress.End();
+  return outcome;
+}
+
+}  // namespace nomra::fileops

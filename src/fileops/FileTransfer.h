@@ -1,0 +1,31 @@
+#pragma once
+#include <optional>
+#include <string>
+
+#include "fileops/OperationFailures.h"
+#include "fileops/OperationSystem.h"
+
+namespace nomra::fileops {
+
+// How one file came through.
+struct FileResult {
+  bool done = false;     // the file stands at its target
+  bool stopped = false;  // the user stopped while its bytes were copied
+  std::optional<TransferFailure> failure;
+};
+
+// Makes every missing folder of a path, from the left. A file standing
+// where a folder should be fails with ENOTDIR and is named in the failure.
+std::optional<TransferFailure> EnsureFolder(OperationSystem& system, const std::string& folder);
+
+// Puts one file at its target, copying or moving. The bytes go to a hidden
+// work file beside the target first, and take the target's name only when
+// they are complete and their size is that of the source; so a stopped or
+// failed copy, a full disk too, leaves nothing behind but the untouched
+// source. A move within one volume is a rename; across volumes it is such
+// a copy, and the source goes only after it. With `replace` the file there
+// is replaced, which the caller may do only on the user's word.
+FileResult PutFile(OperationSystem& system, const std::string& from, const std::string& to, const EntryInfo& source,
+                   bool move, bool replace, const CopyTick& tick);
+
+}  // namespace nomra::fileops

@@ -1,0 +1,168 @@
+#include "fileops/FrmSelAction.h"
+
+#include <stdexcept>
+#include <unordered_set>
+#include <vector>
+
+#include "base/Fault.h"
+#include "base/Helpers.h"
+#include "core/BusyPointer.h"
+#include "core/RefreshPreview.h"
+#include "dialog/DialogState.h"
+#include "fileops/FilePaths.h"
+#include "fileops/FileListOperations.h"
+#include "fileops/PathList.h"
+#include "fileops/ShellOperation.h"
+
+namespace nomra::fileops {
+
+namespace {
+
+constexpr char kRenOriginal[] = "optRenOriginal";
+constexpr char kRenCopy[] = "optRenCopy";
+constexpr char kRenBoth[] = "optRenBoth";
+constexpr char kTargetPath[] = "txtTargetPath";
+constexpr char kUpdateList[] = "chkUpdateList";
+constexpr char kRenGroup[] = "frameCopy";
+
+SelActionMode ModeOf(const std::string& tag) {
+  if (tag == kSelActionTag) return SelActionMode::TakeChanges2;
+  if (tag == kCopyFilesTag) return SelActionMode::CopyFiles;
+  if (tag == kMoveFilesTag) return SelActionMode::MoveFiles;
+  throw std::invalid_argument("frmSelAction has no mode " + tag);
+}
+
+std::string SourceOf(const FileEntry& row) { return AddBackslash(row[kColPath]) + row[kColOldName]; }
+
+// Whether a picked row has a later row, picked or not, with the same name
+// in `column`. The copies of the two would land on one name.
+template <typename Picked>
+bool NamesCollide(MainModel& model, int column, Picked&& picked) {
+  std::unordered_set<std::string> later;
+  for (int position = model.list.Count(); position >= 1; --position) {
+    const FileEntry& row = model.list.Item(position);
+    if (picked(row) && later.contains(row[column])) return true;
+    later.insert(row[column]);
+  }
+  return false;
+}
+
+void ShowNamesCollide(MainModel& model) {
+  model.frontEnd.Ask({"MsgText26", "msgCapAttention", MessageStyle::OkStop, {}});
+}
+
+// The row stands for its file at its new place. A name given beside a file
+// already there is taken by the pending name too, where none was pending.
+void FollowFile(MainModel& model, FileEntry& row, const std::string& placed) {
+  const std::string name = NameOf(placed);
+  if (row[kColNewName] == row[kColOldName]) row[kColNewName] = name;
+  row[kColPath] = FolderOf(placed);
+  row[kColOldName] = name;
+  model.list.ChangeKey(row, placed);  // a key held by another row stays with it
+}
+
+}  // namespace
+
+FrmSelAction::FrmSelAction(std::string tag) : tag_(std::move(tag)), mode_(ModeOf(tag_)), model_(tag_) {
+  model_.AddOption(kRenOriginal, kRenGroup);
+  model_.AddOption(kRenCopy, kRenGroup).selected = true;
+  model_.AddOption(kRenBoth, kRenGroup);
+  model_.AddText(kTargetPath);
+  model_.AddNoValue("cmdSelPath");
+  model_.AddCheck(kUpdateList);
+  for (const char* name : {"frameCopy", "lblTargetDir", "cmdOK", "cmdCancel"}) model_.AddNoValue(name);
+}
+
+void FrmSelAction::Activate(MainModel& model) {
+  dialog::RestoreDialogState(model_, tag_, dialog::kSettingsMode, model.script, model.frontEnd);
+  if (mode_ == SelActionMode::MoveFiles) model_.SetNumber(kUpdateList, 1);
+  txtTargetPath_Change(model.fileSystem);
+}
+
+void FrmSelAction::txtTargetPath_Change(platform::FileSystem& fileSystem) {
+  const std::string& path = model_.Text(kTargetPath);
+  okEnabled_ = !path.empty() && fileSystem.Status(path).kind == platform::EntryKind::Folder;
+}
+
+void FrmSelAction::cmdSelPath(const std::string& chosenFolder, platform::FileSystem& fileSystem) {
+  if (chosenFolder.empty()) return;
+  model_.SetText(kTargetPath, chosenFolder);
+  txtTargetPath_Change(fileSystem);
+}
+
+bool FrmSelAction::cmdOK(MainModel& model, OperationServices& services) {
+  BusyPointer busy(model.frontEnd);
+  const bool done = mode_ == SelActionMode::TakeChanges2 ? CopyForTakeChanges(model, services)
+                                                         : CopyOrMoveSelected(model, services);
+  if (!done) return false;
+  refreshPreview(model);
+  dialog::StoreDialogState(model_, tag_, dialog::kSettingsMode, model.script);
+  return true;
+}
+
+bool FrmSelAction::CopyOrMoveSelected(MainModel& model, OperationServices& services) {
+  if (NamesCollide(model, kColOldName, [](const FileEntry& row) { return row.selected; })) {
+    ShowNamesCollide(model);
+    return false;
+  }
+  const std::string target = AddBackslash(model_.Text(kTargetPath));
+  std::vector<std::string> sources;
+  std::vector<std::string> targets;
+  std::vector<FileEntry*> rows;
+  model.list.ForEach([&](FileEntry& row) {
+    if (!row.selected) return;
+    sources.push_back(SourceOf(row));
+    targets.push_back(target + row[kColOldName]);
+    rows.push_back(&row);
+  });
+  const std::uint32_t function = mode_ == SelActionMode::MoveFiles ? FO_MOVE : FO_COPY;
+  ShellOperation record = TransferRecord(function, JoinPathList(sources), JoinPathList(targets), false);
+  RunShellOperation(record, services);
+  if (model_.Number(kUpdateList) == 0) return true;
+  // A row follows its file only where the file was put; a skipped file's
+  // row stays with the file it stands for.
+  for (std::size_t i = 0; i < rows.size() && i < record.placed.size(); ++i) {
+    if (!record.placed[i].empty()) FollowFile(model, *rows[i], record.placed[i]);
+  }
+  return true;
+}
+
+bool FrmSelAction::CopyForTakeChanges(MainModel& model, OperationServices& services) {
+  const bool renameOriginal = model_.IsSelected(kRenOriginal);
+  const bool renameBoth = model_.IsSelected(kRenBoth);
+  const int copyName = renameOriginal ? kColOldName : kColNewName;
+  if (NamesCollide(model, copyName, [](const FileEntry&) { return true; })) {
+    ShowNamesCollide(model);
+    return false;
+  }
+  const std::string target = AddBackslash(model_.Text(kTargetPath));
+  std::vector<std::string> sources;
+  std::vector<std::string> targets;
+  model.list.ForEach([&](const FileEntry& row) {
+    sources.push_back(SourceOf(row));
+    targets.push_back(target + row[copyName]);
+  });
+  int aborted = 0;
+  CopyFileList(JoinPathList(sources), JoinPathList(targets), false, aborted, services);
+  // A copy the user stopped is taken like a finished one on purpose: the
+  // rename and the list follow all the same, as they always have.
+  if ((renameOriginal || renameBoth) && model.list.Count() > 0) {
+    if (model.committer == nullptr) throw RuntimeFault("The new names can't be taken here");
+    model.committer->CommitAll();
+  }
+  model.list.ForEach([&](FileEntry& row) {
+    if (renameOriginal) {
+      // The originals have their new names; a row that failed loses its pending name.
+      row[kColNewName] = row[kColOldName];
+    } else {
+      // The row now stands for the copy.
+      row[kColPath] = target;
+      row[kColOldName] = row[kColNewName];
+    }
+    model.list.ChangeKey(row, row[kColPath] + row[kColOldName]);
+    for (int column = kColHistory0; column <= kColHistoryLast; ++column) row[column].clear();
+  });
+  return true;
+}
+
+}  // namespace nomra::fileops

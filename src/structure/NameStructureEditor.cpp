@@ -1,0 +1,178 @@
+#include "structure/NameStructureEditor.h"
+
+#include <algorithm>
+
+#include "base/Fault.h"
+#include "lang/LanguageKeys.h"
+#include "rename/ApplyStructure.h"
+#include "settings/IniLines.h"
+#include "structure/PreviewRow.h"
+#include "structure/StructureEngine.h"
+
+namespace nomra {
+
+namespace {
+
+constexpr char kNameInput[] = "txtName";
+constexpr char kStructureInput[] = "txtStructure";
+constexpr char kFileNameInput[] = "txtFileName";
+constexpr char kResultInput[] = "txtResult";
+constexpr char kNewStructureName[] = "Structure ";
+constexpr char kCheckInputKey[] = "msgCheckInput";
+constexpr char kCorrectSyntaxKey[] = "msgCorrectSyntax";
+constexpr char kRemoveQuestionKey[] = "msgRemoveStructure";
+constexpr char kRemoveCaptionKey[] = "msgCapRemoveStructure";
+
+bool HoldsText(const std::string& text) { return !settings::TrimBlanks(text).empty(); }
+
+}  // namespace
+
+NameStructureEditor::NameStructureEditor(MainModel& model, const lang::MessageCatalog& catalog)
+    : model_(model), catalog_(catalog), dialog_("frmNameStructure") {
+  for (const char* name : {"frameMain", "lstStructures", "cmdStructureAdd", "cmdStructureEdit", "cmdStructureDel",
+                           "frameEdit", "lblName"}) {
+    dialog_.AddNoValue(name);
+  }
+  dialog_.AddText(kNameInput);
+  dialog_.AddNoValue("lblStructure");
+  dialog_.AddText(kStructureInput);
+  for (const char* name : {"lblAvailableElements", "lstElements", "lblAvailableFunctions", "lstFunctions",
+                           "cmdStructureOK", "cmdStructureCancel", "lblExample"}) {
+    dialog_.AddNoValue(name);
+  }
+  dialog_.AddText(kFileNameInput);
+  AddPreviewScrollBar(dialog_);
+  dialog_.AddNoValue("lblPreview");
+  dialog_.AddText(kResultInput);
+  for (const char* name : {"cmdApply", "cmdOK", "cmdCancel", "cmdHelp"}) dialog_.AddNoValue(name);
+}
+
+std::string NameStructureEditor::StructuresFile() const { return StructuresFilePath(model_.dataFolder); }
+
+void NameStructureEditor::Load() {
+  loading_ = true;
+  structures_ = LoadStoredStructures(StructuresFile());
+  elements_ = ElementChoices(catalog_);
+  functions_ = FunctionChoices(catalog_);
+  FitPreviewScrollBar(dialog_, model_);
+  mode_ = StructureEditMode::None;
+  Choose(structures_.empty() ? -1 : 0);
+  loading_ = false;
+  RefreshPreview();
+}
+
+void NameStructureEditor::Choose(int row) {
+  chosen_ = row >= 0 && row < static_cast<int>(structures_.size()) ? row : -1;
+  ShowChosen();
+}
+
+void NameStructureEditor::ShowChosen() {
+  const bool any = chosen_ >= 0;
+  dialog_.SetText(kNameInput, any ? structures_[chosen_].name : std::string());
+  SetStructure(any ? structures_[chosen_].structure : std::string());
+}
+
+bool NameStructureEditor::StructureOkEnabled() const {
+  return HoldsText(dialog_.Text(kNameInput)) && HoldsText(dialog_.Text(kStructureInput));
+}
+
+void NameStructureEditor::SetName(std::string name) { dialog_.SetText(kNameInput, std::move(name)); }
+
+void NameStructureEditor::SetStructure(std::string structure) {
+  dialog_.SetText(kStructureInput, std::move(structure));
+  RefreshPreview();
+}
+
+void NameStructureEditor::SetPreviewRow(int row) {
+  if (dialog_.SetNumber(kPreviewScrollBar, row)) RefreshPreview();
+}
+
+void NameStructureEditor::RefreshPreview() {
+  if (loading_) return;
+  const FileEntry* entry = PreviewEntry(dialog_, model_);
+  if (entry == nullptr) {
+    dialog_.SetText(kFileNameInput, {});
+    dialog_.SetText(kResultInput, {});
+    return;
+  }
+  dialog_.SetText(kFileNameInput, (*entry)[kColNewName]);
+  // A structure that faults shows why in the result: a message box on each
+  // key typed would be in the way of mending it.
+  std::string result;
+  try {
+    result = EvaluateStructure(model_, dialog_.Number(kPreviewScrollBar), dialog_.Text(kStructureInput));
+  } catch (const RuntimeFault& fault) {
+    result = fault.what();
+  }
+  dialog_.SetText(kResultInput, std::move(result));
+}
+
+void NameStructureEditor::Add() {
+  SetName(kNewStructureName + std::to_string(structures_.size() + 1));
+  mode_ = StructureEditMode::Add;
+  SetStructure({});
+}
+
+void NameStructureEditor::Edit() {
+  if (chosen_ < 0) return;
+  mode_ = StructureEditMode::Edit;
+}
+
+void NameStructureEditor::Delete() {
+  if (chosen_ < 0) return;
+  const Answer answer = model_.frontEnd.Ask(
+      {kRemoveQuestionKey, kRemoveCaptionKey, MessageStyle::YesNoDefaultNo, {structures_[chosen_].name}});
+  if (answer != Answer::Yes) return;
+  structures_.erase(structures_.begin() + chosen_);
+  Choose(std::min(chosen_, static_cast<int>(structures_.size()) - 1));
+}
+
+bool NameStructureEditor::AcceptEdit() {
+  if (!Editing() || !StructureOkEnabled() || !CheckStructure()) return false;
+  StoredStructure edited{dialog_.Text(kNameInput), dialog_.Text(kStructureInput)};
+  if (mode_ == StructureEditMode::Edit && chosen_ >= 0) {
+    structures_[chosen_] = std::move(edited);
+  } else {
+    structures_.push_back(std::move(edited));
+    chosen_ = static_cast<int>(structures_.size()) - 1;
+  }
+  mode_ = StructureEditMode::None;
+  RefreshPreview();
+  return true;
+}
+
+void NameStructureEditor::CancelEdit() {
+  mode_ = StructureEditMode::None;
+  ShowChosen();
+}
+
+bool NameStructureEditor::Apply() {
+  SaveStoredStructures(StructuresFile(), structures_);
+  if (!CheckStructure()) {
+    if (!Editing()) mode_ = chosen_ >= 0 ? StructureEditMode::Edit : StructureEditMode::Add;
+    return false;
+  }
+  if (chosen_ >= 0) ApplyStructure(model_, structures_[chosen_].structure);
+  return true;
+}
+
+bool NameStructureEditor::Ok() { return Apply() && !Editing(); }
+
+bool NameStructureEditor::CheckStructure() {
+  const SyntaxTexts texts{catalog_.GetText(lang::kMessagesSection, kCheckInputKey),
+                          catalog_.GetText(lang::kMessagesSection, kCorrectSyntaxKey)};
+  try {
+    lastFailure_ = CheckStructureSyntax(model_, dialog_.Text(kStructureInput), texts);
+  } catch (const RuntimeFault& fault) {
+    // The test evaluation met one of the language's faults: the structure
+    // can't be used as it stands.
+    lastFailure_ = SyntaxFailure{};
+    model_.frontEnd.ShowFault(fault.what());
+    return false;
+  }
+  if (!lastFailure_) return true;
+  model_.frontEnd.Ask(lastFailure_->message);
+  return false;
+}
+
+}  // namespace nomra

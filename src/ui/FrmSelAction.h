@@ -1,0 +1,42 @@
+#pragma once
+#include <QDialog>
+#include <QString>
+
+#include "core/MainModel.h"
+#include "fileops/FrmSelAction.h"
+#include "fileops/OperationSystem.h"
+#include "lang/MessageCatalog.h"
+
+class QCheckBox;
+class QGroupBox;
+class QLineEdit;
+class QPushButton;
+
+namespace nomra::ui {
+
+// The window of frmSelAction: the engine's dialog shown by widgets named as
+// its inputs. The Tag picks the use, the language section and the section of
+// the remembered inputs, so it is also the window's object name.
+class FrmSelAction final : public QDialog {
+  Q_OBJECT
+ public:
+  FrmSelAction(const QString& tag, MainModel& model, const lang::MessageCatalog& catalog,
+               fileops::OperationSystem& system, QWidget* parent = nullptr);
+
+  fileops::FrmSelAction& Engine() { return engine_; }
+
+  void cmdOK();
+  void cmdSelPath();
+
+ private:
+  void OnTargetPathEdited(const QString& text);
+
+  fileops::FrmSelAction engine_;
+  MainModel& model_;
+  const lang::MessageCatalog& catalog_;
+  fileops::OperationSystem& system_;
+  QLineEdit* targetPath_ = nullptr;
+  QPushButton* ok_ = nullptr;
+};
+
+}  // namespace nomra::ui

@@ -1,0 +1,24 @@
+#pragma once
+#include <QDialog>
+#include <QString>
+
+#include "fileops/FileProperties.h"
+#include "lang/MessageCatalog.h"
+
+class QLabel;
+
+namespace nomra::ui {
+
+// Nomra's own properties window of one file: path, type, size, the three
+// times, owner and permissions, the same on every desktop.
+class PropertiesDialog final : public QDialog {
+  Q_OBJECT
+ public:
+  PropertiesDialog(const fileops::FileProperties& properties, const lang::MessageCatalog& catalog,
+                   QWidget* parent = nullptr);
+
+  // The value shown beside a label ("lblSize"), for tests.
+  QString Value(const QString& labelName) const;
+};
+
+}  // namespace nomra::ui

@@ -1,0 +1,42 @@
+#pragma once
+#include <QString>
+#include <string>
+
+#include "dialog/DialogModel.h"
+
+class QBoxLayout;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QScrollBar;
+class QWidget;
+
+namespace nomra::ui {
+
+// A row of a dialog's grid: the label (its buddy the widget) and the widget.
+QLabel* AddLabelledWidget(QGridLayout& grid, int row, const char* labelName, const char* label, QWidget& widget);
+// The same with a new text box as the widget.
+QLineEdit* AddLabelledText(QGridLayout& grid, QWidget& parent, int row, const char* labelName, const char* label,
+                           const char* textName);
+
+// The preview both structure dialogs show: the pending name of a row of the
+// file list (txtFileName), VScroll1 beside it to pick the row, and what the
+// dialog makes of it (txtResult).
+struct StructurePreview {
+  QLineEdit* fileName = nullptr;
+  QScrollBar* row = nullptr;
+  QLineEdit* result = nullptr;
+};
+
+StructurePreview AddStructurePreview(QWidget& dialog, QBoxLayout& layout);
+
+// The engine's texts and VScroll1 into the widgets, without signals. A text
+// box is only set when its text differs, so the cursor of the person typing
+// in it stays where it is.
+void ShowTextsAndPreviewRow(const dialog::DialogModel& model, QWidget& dialog);
+
+// The UTF-16 position in `text` of the character with that number from 0:
+// the engine counts characters, Qt counts UTF-16 units.
+int Utf16Position(const QString& text, int characters);
+
+}  // namespace nomra::ui

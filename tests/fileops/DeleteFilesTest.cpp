@@ -1,0 +1,156 @@
+// Deleting files at once, and the list's delete commands.
+#include <cerrno>
+
+#include "fileops/DeleteListFiles.h"
+#include "fileops/FileListOperations.h"
+#include "fileops/PathList.h"
+#include "fileops/ListOperationsFixture.h"
+#include "settings/ScopedEnvironment.h"
+
+namespace nomra::fileops::testing {
+namespace {
+
+using nomra::testing::Exists;
+
+class DeleteFilesTest : public OperationsTest {};
+
+TEST_F(DeleteFilesTest, AtOnceWithoutQuestionRemovesEveryFile) {
+  const std::string a = temp.WriteFile("a.txt");
+  const std::string b = temp.WriteFile("b.txt");
+
+  EXPECT_EQ(DeleteFileList(JoinPathList({a, b}), false, false, services), 0);
+
+  EXPECT_TRUE(frontEnd.asked.empty());
+  EXPECT_FALSE(Exists(a));
+  EXPECT_FALSE(Exists(b));
+  EXPECT_FALSE(Exists(temp.Path() + "data"));
+}
+
+TEST_F(DeleteFilesTest, AtOnceAsksWithAWarningAndNoKeepsTheFiles) {
+  const std::string a = temp.WriteFile("a.txt");
+  frontEnd.answers = {Answer::No};
+
+  DeleteFileList(JoinPathList({a}), false, true, services);
+
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kDeleteOne});
+  EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::YesNoWarningDefaultNo);
+  EXPECT_TRUE(Exists(a));
+}
+
+TEST_F(DeleteFilesTest, EmptyListAsksNothingAndDoesNothing) {
+  EXPECT_EQ(DeleteFileList(JoinPathList({}), true, true, services), 0);
+
+  EXPECT_TRUE(frontEnd.asked.empty());
+  EXPECT_TRUE(progress.begun.empty());
+}
+
+TEST_F(DeleteFilesTest, StopBetweenFilesKeepsTheRest) {
+  const std::string a = temp.WriteFile("a.txt");
+  const std::string b = temp.WriteFile("b.txt");
+  progress.stopAtFile = 2;
+
+  DeleteFileList(JoinPathList({a, b}), false, false, services);
+
+  EXPECT_FALSE(Exists(a));
+  EXPECT_TRUE(Exists(b));
+}
+
+TEST_F(DeleteFilesTest, FailureIsToldAndTheOthersGoOnWhenAsked) {
+  const std::string a = temp.WriteFile("a.txt");
+  const std::string folder = temp.MakeFolder("folder");
+  const std::string c = temp.WriteFile("c.txt");
+  frontEnd.answers = {Answer::Ok, Answer::Yes};
+
+  EXPECT_NE(DeleteFileList(JoinPathList({a, folder, c}), false, false, services), 0);
+
+  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{kDeleteFailed, kGoOn}));
+  EXPECT_TRUE(Exists(folder));
+  EXPECT_FALSE(Exists(c));
+}
+
+TEST_F(DeleteFilesTest, FailureOfTheCallComesBackAsZero) {
+  struct Throwing final : ForwardingOperationSystem {
+    int RemoveFile(const std::string&) override { throw std::runtime_error("gone wrong"); }
+  } throwing;
+  OperationServices with{throwing, frontEnd, progress, services.clock};
+
+  EXPECT_EQ(DeleteFileList(JoinPathList({temp.WriteFile("a.txt")}), false, false, with), 0);
+}
+
+class DeleteListFilesTest : public ListOperationsTest {
+ protected:
+  DeleteListFilesTest() { model.expertMode = true; }
+  nomra::testing::ScopedEnvironment dataHome{"XDG_DATA_HOME", temp.Path() + "data"};
+};
+
+TEST_F(DeleteListFilesTest, WithoutExpertModeNothingHappens) {
+  AddFiles({"a.txt"});
+  model.expertMode = false;
+  frontEnd.answers = {Answer::Yes};
+
+  EXPECT_FALSE(DeleteListFiles(model, false, services));
+
+  EXPECT_TRUE(Exists(temp.Path() + "a.txt"));
+  EXPECT_EQ(model.list.Count(), 1);
+}
+
+TEST_F(DeleteListFilesTest, DeletedFilesLeaveTheListAfterTheQuestion) {
+  AddFiles({"a.txt", "b.txt"});
+  frontEnd.answers = {Answer::Yes};
+
+  EXPECT_TRUE(DeleteListFiles(model, true, services));
+
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kTrashMany});
+  EXPECT_EQ(model.list.Count(), 0);
+  EXPECT_TRUE(Exists(temp.Path() + "data/Trash/files/a.txt"));
+}
+
+TEST_F(DeleteListFilesTest, NoToTheQuestionKeepsFilesAndRows) {
+  AddFiles({"a.txt", "b.txt"});
+  frontEnd.answers = {Answer::No};
+
+  DeleteListFiles(model, false, services);
+
+  EXPECT_EQ(model.list.Count(), 2);
+  EXPECT_TRUE(Exists(temp.Path() + "a.txt"));
+}
+
+TEST_F(DeleteListFilesTest, OnlyTheRowsOfTheApplyScopeAreDeleted) {
+  AddFiles({"a.txt", "b.txt", "c.txt"});
+  model.list.Item(2).selected = true;
+  model.applyScope = 1;
+  frontEnd.answers = {Answer::Yes};
+
+  DeleteListFiles(model, false, services);
+
+  EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"a.txt", "c.txt"}));
+  EXPECT_FALSE(Exists(temp.Path() + "b.txt"));
+}
+
+TEST_F(DeleteListFilesTest, EmptySelectionDeletesNothingAndNoRowGoes) {
+  AddFiles({"a.txt", "b.txt"});
+  model.applyScope = 1;
+
+  DeleteListFiles(model, false, services);
+
+  EXPECT_TRUE(frontEnd.asked.empty());
+  EXPECT_EQ(model.list.Count(), 2);
+}
+
+TEST_F(DeleteListFilesTest, RowOfAFileThatCouldNotBeDeletedStays) {
+  AddFiles({"a.txt", "b.txt", "c.txt"});
+  struct RefusingB final : ForwardingOperationSystem {
+    int RemoveFile(const std::string& path) override {
+      return path.ends_with("/b.txt") ? EACCES : real.RemoveFile(path);
+    }
+  } refusing;
+  OperationServices with{refusing, frontEnd, progress};
+  frontEnd.answers = {Answer::Yes, Answer::Ok, Answer::Yes};
+
+  DeleteListFiles(model, false, with);
+
+  EXPECT_EQ(Column(kColOldName), std::vector<std::string>{"b.txt"});
+}
+
+}  // namespace
+}  // namespace nomra::fileops::testing

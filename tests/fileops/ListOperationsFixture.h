@@ -1,0 +1,29 @@
+#pragma once
+#include <string>
+#include <vector>
+
+#include "fileops/OperationsFixture.h"
+#include "support/ListFixture.h"
+
+namespace nomra::fileops::testing {
+
+// A list over real files, with the file operations at hand.
+class ListOperationsTest : public nomra::testing::ListTest {
+ protected:
+  std::vector<std::string> AskedKeys() const {
+    std::vector<std::string> keys;
+    for (const Message& message : frontEnd.asked) keys.push_back(message.textKey);
+    return keys;
+  }
+  std::vector<std::string> Keys() {
+    std::vector<std::string> keys;
+    model.list.ForEach([&](const FileEntry& row) { keys.push_back(row.key); });
+    return keys;
+  }
+
+  ForwardingOperationSystem os;
+  ScriptedProgress progress;
+  OperationServices services{os, frontEnd, progress};
+};
+
+}  // namespace nomra::fileops::testing

@@ -1,0 +1,116 @@
+#pragma once
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "fileops/MessageKeys.h"
+#include "fileops/OperationServices.h"
+#include "fileops/posix/PosixOperationSystem.h"
+#include "support/ScriptedFrontEnd.h"
+#include "support/TempFolder.h"
+
+namespace nomra::fileops::testing {
+
+using nomra::testing::ReadWholeFile;
+using nomra::testing::ScriptedFrontEnd;
+using nomra::testing::TempFolder;
+
+// The real system calls; a test overrides the one it wants to bend.
+class ForwardingOperationSystem : public OperationSystem {
+ public:
+  EntryInfo Inspect(const std::string& path) override { return real.Inspect(path); }
+  int CopyFile(const std::string& from, const std::string& to, const CopyTick& tick, bool durable) override {
+    return real.CopyFile(from, to, tick, durable);
+  }
+  int Rename(const std::string& from, const std::string& to, bool replace) override {
+    return real.Rename(from, to, replace);
+  }
+  int RemoveFile(const std::string& path) override { return real.RemoveFile(path); }
+  int MakeFolder(const std::string& path, unsigned mode) override { return real.MakeFolder(path, mode); }
+  int WriteNewFile(const std::string& path, std::string_view content) override {
+    return real.WriteNewFile(path, content);
+  }
+  bool ListFolder(const std::string& folder, const std::function<void(std::string_view)>& visit) override {
+    return real.ListFolder(folder, visit);
+  }
+  std::string DataHome() override { return real.DataHome(); }
+  unsigned UserId() override { return real.UserId(); }
+
+ protected:
+  PosixOperationSystem real;
+};
+
+// Each rename but that of a finished work file answers as if it crossed
+// from one volume to another.
+class CrossVolumeSystem : public ForwardingOperationSystem {
+ public:
+  int Rename(const std::string& from, const std::string& to, bool replace) override {
+    if (from.find("/.nomra-part-") != std::string::npos) return real.Rename(from, to, replace);
+    ++crossings;
+    return EXDEV;
+  }
+  int crossings = 0;
+};
+
+// The names in a folder, sorted.
+inline std::vector<std::string> NamesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  PosixOperationSystem().ListFolder(folder, [&](std::string_view name) { names.emplace_back(name); });
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+// Remembers every step it was told of, and says stop at the step asked for.
+class ScriptedProgress final : public OperationProgress {
+ public:
+  void Begin(OperationKind kind, int count, std::uint64_t bytesTotal) override {
+    begun.push_back({kind, 0, count, "", 0, bytesTotal});
+  }
+  bool Report(const ProgressStep& step) override {
+    steps.push_back(step);
+    return stopAtFile == 0 || step.index < stopAtFile;
+  }
+  void End() override { ++ended; }
+
+  std::vector<ProgressStep> begun;
+  std::vector<ProgressStep> steps;
+  int ended = 0;
+  int stopAtFile = 0;  // the file before which the user stops; 0 never
+};
+
+// Files in temporary folders, with scripted answers and progress.
+class OperationsTest : public ::testing::Test {
+ protected:
+  // The keys of the messages asked, in order.
+  std::vector<std::string> AskedKeys() const {
+    std::vector<std::string> keys;
+    for (const Message& message : frontEnd.asked) keys.push_back(message.textKey);
+    return keys;
+  }
+  bool WasAsked(const std::string& key) const {
+    for (const Message& message : frontEnd.asked)
+      if (message.textKey == key) return true;
+    return false;
+  }
+
+  TempFolder temp;
+  ForwardingOperationSystem os;
+  ScriptedFrontEnd frontEnd;
+  ScriptedProgress progress;
+  OperationServices services{os, frontEnd, progress, [] {
+                               std::tm fixed{};
+                               fixed.tm_year = 2024 - 1900;
+                               fixed.tm_mon = 2;
+                               fixed.tm_mday = 5;
+                               fixed.tm_hour = 14;
+                               fixed.tm_min = 7;
+                               fixed.tm_sec = 9;
+                               return fixed;
+                             }};
+};
+
+}  // namespace nomra::fileops::testing
