@@ -12,7 +12,16 @@ namespace nomra {
 namespace {
 
 constexpr std::string_view kIntChar = "<IntChar>";
-constexpr std::array<std::string_view, 5> kCaseCodes = {"UC", "LC", "1C", "WC", "SC"};
+struct CaseMarks {
+  std::string_view code;
+  std::string_view opening;
+  std::string_view closing;
+};
+constexpr std::array<CaseMarks, 5> kCaseMarks = {{{"UC", "<UC>", "</UC>"},
+                                                  {"LC", "<LC>", "</LC>"},
+                                                  {"1C", "<1C>", "</1C>"},
+                                                  {"WC", "<WC>", "</WC>"},
+                                                  {"SC", "<SC>", "</SC>"}}};
 
 std::string_view TrimBlanks(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
@@ -33,15 +42,13 @@ void ResolveIntCharPair(std::string& s) {
 }
 
 void ResolveCaseBrackets(std::string& s) {
-  for (const std::string_view code : kCaseCodes) {
-    const std::string opening = "<" + std::string(code) + ">";
-    const std::string closing = "</" + std::string(code) + ">";
+  for (const auto& [code, opening, closing] : kCaseMarks) {
     for (;;) {
       const std::size_t open = FindTagNoCase(s, opening);
       const std::size_t close = FindTagNoCase(s, closing);
       if (open == std::string::npos || close == std::string::npos) break;
       if (close < open) {
-        throw RuntimeFault("the case mark " + closing + " stands before its " + opening);
+        throw RuntimeFault("the case mark " + std::string(closing) + " stands before its " + std::string(opening));
       }
       const std::size_t innerStart = open + opening.size();
       const std::string converted = ConvertCase(code, std::string_view(s).substr(innerStart, close - innerStart));

@@ -9,6 +9,7 @@
 #include "structure/BracketLoop.h"
 #include "structure/CharacterSlices.h"
 #include "structure/LanguageNumber.h"
+#include "structure/TextSearch.h"
 
 namespace nomra {
 
@@ -53,11 +54,17 @@ std::string WithoutQuotes(std::string_view text) {
   return result;
 }
 
+// Most structures hold few of the plain tags: a tag that isn't there costs
+// a look, not a new text.
+void ReplaceTag(std::string& s, std::string_view tag, std::string_view value) {
+  if (HoldsTagNoCase(s, tag)) s = ReplaceText(s, tag, value, 1, kReplaceAll, kIgnoreCase);
+}
+
 }  // namespace
 
 void ReplacePathTags(std::string& s, std::string_view folderColumn) {
   std::string value = FolderName(folderColumn);
-  s = ReplaceText(s, "<PATH>", value, 1, kReplaceAll, kIgnoreCase);
+  ReplaceTag(s, "<PATH>", value);
   RunBracketLoop(s, "<PATH_L(", 1, 1, [&value](const TagArguments& args) {
     const std::optional<double> n = NumericArgument(args[0], value);
     if (!n) return value = kNoNumber;
@@ -81,7 +88,7 @@ void ReplacePathTags(std::string& s, std::string_view folderColumn) {
 
 void ReplaceNameTags(std::string& s, std::string_view pending) {
   const std::string stem = NameOnly(pending);
-  s = ReplaceText(s, "<NAME>", stem, 1, kReplaceAll, kIgnoreCase);
+  ReplaceTag(s, "<NAME>", stem);
   RunBracketLoop(s, "<NAME_L(", 1, 1, [&](const TagArguments& args) -> std::string {
     const std::optional<double> n = NumericArgument(args[0], pending);
     if (!n) return kNoNumber;
@@ -108,9 +115,11 @@ void ReplaceNameTags(std::string& s, std::string_view pending) {
 }
 
 void ReplaceExtensionTags(std::string& s, std::string_view pending) {
-  s = ReplaceText(s, "<EXT>", ExtensionOnly(pending, false), 1, kReplaceAll, kIgnoreCase);
-  s = ReplaceText(s, "<.EXT>", ExtensionOnly(pending, true), 1, kReplaceAll, kIgnoreCase);
-  s = ReplaceText(s, "<BLANK>", " ", 1, kReplaceAll, kIgnoreCase);
+  if (!HoldsTagNoCase(s, "EXT>") && !HoldsTagNoCase(s, "<BLANK>")) return;
+  const std::string extension = ExtensionOnly(pending, true);
+  ReplaceTag(s, "<EXT>", std::string_view(extension).substr(extension.empty() ? 0 : 1));
+  ReplaceTag(s, "<.EXT>", extension);
+  ReplaceTag(s, "<BLANK>", " ");
 }
 
 }  // namespace nomra
