@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "base/AsciiSearch.h"
 #include "base/CaseMap.h"
 #include "base/Utf8.h"
 
@@ -9,26 +10,18 @@ namespace nomra {
 
 namespace {
 
-// The byte offset of 1-based character `position`; the end when beyond it.
-std::size_t ByteOffsetOfCharacter(std::string_view text, long position) {
-  std::size_t offset = 0;
-  for (long i = 1; i < position && offset < text.size(); ++i) {
-    char32_t c;
-    offset += text::DecodeAt(text, offset, c);
-  }
-  return offset;
-}
-
-std::string ReplaceExact(std::string_view text, std::string_view find, std::string_view with, std::size_t from,
-                         long count) {
+// Each hit that `findFrom` gives, behind the last replacement, is replaced.
+template <typename Finder>
+std::string ReplaceHits(std::string_view text, std::size_t findLength, std::string_view with, std::size_t from,
+                        long count, Finder findFrom) {
   std::string result(text.substr(0, from));
   std::size_t pos = from;
   for (long done = 0; done < count; ++done) {
-    const std::size_t hit = text.find(find, pos);
+    const std::size_t hit = findFrom(pos);
     if (hit == std::string_view::npos) break;
     result.append(text.substr(pos, hit - pos));
     result.append(with);
-    pos = hit + find.size();
+    pos = hit + findLength;
   }
   result.append(text.substr(pos));
   return result;
@@ -66,49 +59,20 @@ std::string ReplaceIgnoringCase(std::string_view text, std::string_view find, st
   return result;
 }
 
-bool IsAscii(std::string_view text) {
-  for (const char c : text) {
-    if (static_cast<unsigned char>(c) >= 0x80) return false;
-  }
-  return true;
-}
-
-constexpr char FoldAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-std::size_t FindFolded(std::string_view text, std::string_view find, std::size_t from) {
-  if (find.size() > text.size()) return std::string_view::npos;
-  for (std::size_t i = from; i + find.size() <= text.size(); ++i) {
-    std::size_t k = 0;
-    while (k < find.size() && FoldAscii(text[i + k]) == FoldAscii(find[k])) ++k;
-    if (k == find.size()) return i;
-  }
-  return std::string_view::npos;
-}
-
-// Both sides plain ASCII: lower-casing is folding "A" to "Z", byte by byte.
-std::string ReplaceAsciiIgnoringCase(std::string_view text, std::string_view find, std::string_view with,
-                                     std::size_t from, long count) {
-  std::string result(text.substr(0, from));
-  std::size_t pos = from;
-  for (long done = 0; done < count; ++done) {
-    const std::size_t hit = FindFolded(text, find, pos);
-    if (hit == std::string_view::npos) break;
-    result.append(text.substr(pos, hit - pos));
-    result.append(with);
-    pos = hit + find.size();
-  }
-  result.append(text.substr(pos));
-  return result;
-}
-
 }  // namespace
 
 std::string ReplaceText(std::string_view text, std::string_view find, std::string_view with, long start, long count,
                         int compare) {
   if (find.empty() || count <= 0) return std::string(text);
-  const std::size_t from = ByteOffsetOfCharacter(text, start < 1 ? 1 : start);
-  if (compare == 0) return ReplaceExact(text, find, with, from, count);
-  if (IsAscii(find) && IsAscii(text)) return ReplaceAsciiIgnoringCase(text, find, with, from, count);
+  const std::size_t from = text::OffsetOfCharacter(text, static_cast<std::size_t>(start < 1 ? 1 : start) - 1);
+  if (compare == 0) {
+    return ReplaceHits(text, find.size(), with, from, count, [&](std::size_t pos) { return text.find(find, pos); });
+  }
+  // Both sides plain ASCII: lower-casing is folding "A" to "Z", byte by byte.
+  if (text::IsAscii(find) && text::IsAscii(text)) {
+    return ReplaceHits(text, find.size(), with, from, count,
+                       [&](std::size_t pos) { return text::FindAsciiNoCase(text, find, pos); });
+  }
   return ReplaceIgnoringCase(text, find, with, from, count);
 }
 

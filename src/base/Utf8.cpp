@@ -101,4 +101,13 @@ std::string FromChars(std::u32string_view chars) {
   return out;
 }
 
+std::size_t OffsetOfCharacter(std::string_view s, std::size_t index) {
+  std::size_t offset = 0;
+  for (std::size_t i = 0; i < index && offset < s.size(); ++i) {
+    char32_t c;
+    offset += DecodeAt(s, offset, c);
+  }
+  return offset;
+}
+
 }  // namespace nomra::text

@@ -22,6 +22,10 @@ void AppendChar(std::string& out, char32_t character);
 
 bool IsValidUtf8(std::string_view s);
 
+// The byte offset where character `index` (from 0) begins; the end when the
+// text is shorter.
+std::size_t OffsetOfCharacter(std::string_view s, std::size_t index);
+
 // Number of characters, counting each stray byte as one.
 std::size_t CharCount(std::string_view s);
 

@@ -7,38 +7,23 @@
 
 namespace nomra {
 
-namespace {
-
-// The byte offset where character `index` (from 0) begins; the end when the
-// text is shorter.
-std::size_t OffsetOfCharacter(std::string_view text, long index) {
-  std::size_t offset = 0;
-  for (long i = 0; i < index && offset < text.size(); ++i) {
-    char32_t c;
-    offset += text::DecodeAt(text, offset, c);
-  }
-  return offset;
-}
-
-}  // namespace
-
 std::string LeftCharacters(std::string_view text, long count) {
   if (count <= 0) return {};
-  return std::string(text.substr(0, OffsetOfCharacter(text, count)));
+  return std::string(text.substr(0, text::OffsetOfCharacter(text, static_cast<std::size_t>(count))));
 }
 
 std::string RightCharacters(std::string_view text, long count) {
   if (count <= 0) return {};
   const long length = static_cast<long>(text::CharCount(text));
   if (count >= length) return std::string(text);
-  return std::string(text.substr(OffsetOfCharacter(text, length - count)));
+  return std::string(text.substr(text::OffsetOfCharacter(text, static_cast<std::size_t>(length - count))));
 }
 
 std::string MiddleCharacters(std::string_view text, long start, long count) {
   if (start < 1 || count <= 0) return {};
-  const std::size_t from = OffsetOfCharacter(text, start - 1);
+  const std::size_t from = text::OffsetOfCharacter(text, static_cast<std::size_t>(start - 1));
   const std::string_view rest = text.substr(from);
-  return std::string(rest.substr(0, OffsetOfCharacter(rest, count)));
+  return std::string(rest.substr(0, text::OffsetOfCharacter(rest, static_cast<std::size_t>(count))));
 }
 
 std::string SliceCharacters(std::string_view text, long a, long b) {

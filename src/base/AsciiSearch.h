@@ -1,0 +1,15 @@
+#pragma once
+#include <cstddef>
+#include <string_view>
+
+namespace nomra::text {
+
+// Where `needle` first stands in `text` at or behind `from`, with the case of
+// ASCII letters ignored and every other byte compared as it is; npos when
+// absent. For ASCII needles such as tags, and for text that is all ASCII,
+// this is the same as comparing lower-cased characters.
+std::size_t FindAsciiNoCase(std::string_view text, std::string_view needle, std::size_t from = 0);
+
+bool IsAscii(std::string_view text);
+
+}  // namespace nomra::text
