@@ -119,6 +119,47 @@ TEST_F(CliScript, StructureWithoutTagsBecomesTheNameAsItStands) {
   EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[kColNewName].text, "Report 2024.txt");
 }
 
+TEST_F(CliScript, StructureFaultSaysWhichRowStoppedAndWhy) {
+  files.WriteFile("a.txt");
+  const CliResult result = Run({"--structure", "</UC>x<UC>", "--json", files.Path() + "a.txt"});
+  EXPECT_EQ(result.exitStatus, 1);
+  EXPECT_NE(result.err.find("--structure: Row 1 of 1, a.txt: the case mark </UC> stands before its <UC>"),
+            std::string::npos)
+      << result.err;
+  EXPECT_EQ(RowNamed(ParseJson(result.out), "a.txt")["columns"][kColNewName].text, "a.txt");
+}
+
+TEST_F(CliScript, EvalPrintsEachResultAloneAndChangesNothing) {
+  const std::string path = files.WriteFile("Music/Rock/01 - Intro.mp3");
+  const CliResult result = Run({"eval", "<PATH>: <UC><NAMEPART(\" - \",2)></UC><.EXT>", path});
+  EXPECT_EQ(result.exitStatus, 0) << result.err;
+  EXPECT_EQ(result.out, "Rock: INTRO.mp3\n");
+  EXPECT_TRUE(std::filesystem::exists(path));
+}
+
+TEST_F(CliScript, EvalAsJsonGivesPathAndResult) {
+  const std::string path = files.WriteFile("a b.txt");
+  const JsonValue document = ParseJson(Run({"eval", "<WC><NAME></WC>", "--json", path}).out);
+  ASSERT_EQ(document.items.size(), 1u);
+  EXPECT_EQ(document.items[0]["path"].text, path);
+  EXPECT_EQ(document.items[0]["result"].text, "A B");
+}
+
+TEST_F(CliScript, EvalFaultOfOneFileLeavesTheOthersPrinted) {
+  const std::string good = files.WriteFile("ab.txt");
+  const std::string bad = files.WriteFile("a-b.txt");
+  const CliResult result = Run({"eval", "<NAMEPART(\"-\",0)>|<NAME>", good, bad});
+  EXPECT_EQ(result.exitStatus, 1);
+  EXPECT_EQ(result.out, "|ab\n");
+  EXPECT_NE(result.err.find(bad), std::string::npos) << result.err;
+}
+
+TEST_F(CliScript, EvalWithoutPathIsAUsageFault) {
+  const CliResult result = Run({"eval", "<NAME>"});
+  EXPECT_EQ(result.exitStatus, 2);
+  EXPECT_NE(result.err.find("no PATH given"), std::string::npos) << result.err;
+}
+
 TEST_F(CliScript, ScriptsCommandListsFileNamesAndDisplayTexts) {
   data.WriteFile("Script/20261115023303.nrs", HolidayScript());
   data.WriteFile("Script/notes.txt", "not a script");
