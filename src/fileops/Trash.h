@@ -31,7 +31,7 @@ std::string EscapeTrashPath(std::string_view path);
 std::string TrashInfoText(std::string_view originalPath, const std::tm& deletedAt);
 
 // Moves a file (or folder) to its trash under a name not in use there, with
-// its record written first, as the specification asks, and removed again
+// its record written first, as the freedesktop.org trash format asks, and removed again
 // when the move fails. 0, or the errno that stopped it.
 int MoveToTrash(OperationSystem& system, const std::string& path, const std::tm& deletedAt);
 

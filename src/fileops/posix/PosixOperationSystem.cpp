@@ -104,7 +104,7 @@ bool PosixOperationSystem::ListFolder(const std::string& folder,
 }
 
 std::string PosixOperationSystem::DataHome() {
-  // The specification counts only an absolute $XDG_DATA_HOME.
+  // The XDG base directory rules count only an absolute $XDG_DATA_HOME.
   std::string data = Environment("XDG_DATA_HOME");
   if (data.empty() || data.front() != '/') data = HomeFolder() + "/.local/share";
   while (data.size() > 1 && data.back() == '/') data.pop_back();
