@@ -34,6 +34,18 @@ std::string CleanFileName(std::string_view name) {
   return out;
 }
 
+std::string WithoutDoubleQuotes(std::string_view text) {
+  std::string out(text);
+  std::erase(out, '"');
+  return out;
+}
+
+std::string_view TrimSpaces(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
 bool ToBoolean(long value, bool defaultValue) {
   if (value < 0) return defaultValue;
   return value != 0;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Helpers.h"
 #include "core/AddFile.h"
 
 namespace nomra {
@@ -21,12 +22,6 @@ bool HasSwitch(std::string_view argument, std::string_view name) {
   if (argument.size() <= name.size()) return false;
   return std::equal(name.begin(), name.end(), argument.begin(),
                     [](char expected, char actual) { return expected == AsciiLower(actual); });
-}
-
-std::string WithoutQuotes(std::string_view text) {
-  std::string result(text);
-  std::erase(result, kQuote);
-  return result;
 }
 
 bool IsFileOrFolder(MainModel& model, const std::string& path) {
@@ -85,9 +80,9 @@ void RunCommandLine(const std::vector<std::string>& arguments, MainModel& model,
       std::string path = argument;
       AddFile(model, path);
     } else if (HasSwitch(argument, kOpenFromFileSwitch)) {
-      if (switches.openFromFile) switches.openFromFile(WithoutQuotes(argument.substr(kOpenFromFileSwitch.size())));
+      if (switches.openFromFile) switches.openFromFile(WithoutDoubleQuotes(argument.substr(kOpenFromFileSwitch.size())));
     } else if (HasSwitch(argument, kRunScriptSwitch)) {
-      if (switches.runScript) switches.runScript(WithoutQuotes(argument.substr(kRunScriptSwitch.size())));
+      if (switches.runScript) switches.runScript(WithoutDoubleQuotes(argument.substr(kRunScriptSwitch.size())));
     }
   }
 }

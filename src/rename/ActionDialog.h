@@ -21,6 +21,11 @@ struct ActionTraits {
   RestoreMoment restoreMoment = RestoreMoment::OnLoad;
 };
 
+// The four buttons every action dialog has, as inputs without a value.
+inline void AddFrameButtons(dialog::DialogModel& model) {
+  for (const char* name : {"cmdApply", "cmdOK", "cmdCancel", "cmdHelp"}) model.AddNoValue(name);
+}
+
 // A renaming action as a dialog without a window: its inputs and what its
 // OK does. The Qt dialog shows the same model; scripts store and replay it.
 class ActionDialog {

@@ -27,7 +27,7 @@ CaseDialog::CaseDialog() : ActionDialog("frmULCase") {
   for (int index = 1; index <= static_cast<int>(kCodes.size()); ++index) model.AddOption("opt1", "opt1", index);
   model.AddNoValue("frameapply");
   for (int index = 1; index <= kApplyChoices; ++index) model.AddOption("opt2", "opt2", index);
-  for (const char* name : {"cmdApply", "cmdOK", "cmdCancel", "cmdHelp"}) model.AddNoValue(name);
+  AddFrameButtons(model);
   // With nothing stored: the first conversion, on the name.
   model.SetOption("opt1(1)", true);
   model.SetOption("opt2(1)", true);

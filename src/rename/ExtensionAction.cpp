@@ -1,5 +1,6 @@
 #include "rename/ExtensionAction.h"
 
+#include "base/Helpers.h"
 #include "rename/ApplyStructure.h"
 
 namespace nomra {
@@ -18,7 +19,7 @@ ExtensionDialog::ExtensionDialog() : ActionDialog("frmFileExtension") {
   model.AddOption("optFE", "optFE", 2);
   model.AddCheck(kAddOld);
   model.AddText(kNewExtension);
-  for (const char* name : {"cmdApply", "cmdOK", "cmdCancel", "cmdHelp"}) model.AddNoValue(name);
+  AddFrameButtons(model);
   model.SetOption(kChange, true);
 }
 
@@ -28,9 +29,7 @@ const ActionTraits& ExtensionDialog::Traits() const {
 }
 
 std::string CleanExtensionInput(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  text = text.substr(first, text.find_last_not_of(' ') - first + 1);
+  text = TrimSpaces(text);
   const std::size_t afterDots = text.find_first_not_of('.');
   return afterDots == std::string_view::npos ? std::string() : std::string(text.substr(afterDots));
 }

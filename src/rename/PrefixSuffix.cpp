@@ -16,9 +16,9 @@ PrefixSuffixDialog::PrefixSuffixDialog() : ActionDialog("frmPrefixSuffix") {
   dialog::DialogModel& model = Model();
   model.AddText(kPrefixInput);
   model.AddText(kSuffixInput);
-  for (const char* name : {"lblPrefix", "lblSuffix", "cmdApply", "cmdOK", "cmdCancel", "cmdHelp"}) {
-    model.AddNoValue(name);
-  }
+  model.AddNoValue("lblPrefix");
+  model.AddNoValue("lblSuffix");
+  AddFrameButtons(model);
 }
 
 const ActionTraits& PrefixSuffixDialog::Traits() const {

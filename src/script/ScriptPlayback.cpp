@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "base/Fault.h"
+#include "base/Helpers.h"
 #include "rename/ActionFrame.h"
 #include "rename/BuiltInActions.h"
 #include "script/ScriptFiles.h"
@@ -78,10 +79,7 @@ bool RunSelectedScript(MainModel& model, std::string_view fileName, const StepOp
 
 bool RunScriptArgument(MainModel& model, std::string_view text, const StepOpener& openStep) {
   ScriptSession& session = model.script;
-  std::string name;
-  for (char c : text) {
-    if (c != '"') name += c;
-  }
+  const std::string name = WithoutDoubleQuotes(text);
   session.runPath = name;
   if (!FileExists(session.runPath)) session.runPath = ScriptFolder(session.dataFolder) + name;
   if (!FileExists(session.runPath)) return false;

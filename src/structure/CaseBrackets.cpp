@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/Fault.h"
+#include "base/Helpers.h"
 #include "structure/CaseConversion.h"
 #include "structure/TextSearch.h"
 
@@ -23,12 +24,6 @@ constexpr std::array<CaseMarks, 5> kCaseMarks = {{{"UC", "<UC>", "</UC>"},
                                                   {"WC", "<WC>", "</WC>"},
                                                   {"SC", "<SC>", "</SC>"}}};
 
-std::string_view TrimBlanks(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 }  // namespace
 
 void ResolveIntCharPair(std::string& s) {
@@ -38,7 +33,7 @@ void ResolveIntCharPair(std::string& s) {
   const std::size_t close = s.find(kIntChar, innerStart);
   if (close == std::string::npos) return;
   const std::string_view inner = std::string_view(s).substr(innerStart, close - innerStart);
-  if (inner.empty() || TrimBlanks(inner) == "x") s.erase(open, close + kIntChar.size() - open);
+  if (inner.empty() || TrimSpaces(inner) == "x") s.erase(open, close + kIntChar.size() - open);
 }
 
 void ResolveCaseBrackets(std::string& s) {

@@ -4,6 +4,7 @@
 
 #include "base/Fault.h"
 #include "lang/LanguageKeys.h"
+#include "rename/ActionDialog.h"
 #include "rename/ApplyStructure.h"
 #include "settings/IniLines.h"
 #include "structure/PreviewRow.h"
@@ -44,7 +45,7 @@ NameStructureEditor::NameStructureEditor(MainModel& model, const lang::MessageCa
   AddPreviewScrollBar(dialog_);
   dialog_.AddNoValue("lblPreview");
   dialog_.AddText(kResultInput);
-  for (const char* name : {"cmdApply", "cmdOK", "cmdCancel", "cmdHelp"}) dialog_.AddNoValue(name);
+  AddFrameButtons(dialog_);
 }
 
 std::string NameStructureEditor::StructuresFile() const { return StructuresFilePath(model_.dataFolder); }

@@ -46,14 +46,6 @@ std::string FolderName(std::string_view folderColumn) {
   return std::string(folderColumn.substr(separator + 1));
 }
 
-std::string WithoutQuotes(std::string_view text) {
-  std::string result;
-  for (const char c : text) {
-    if (c != '"') result += c;
-  }
-  return result;
-}
-
 // Most structures hold few of the plain tags: a tag that isn't there costs
 // a look, not a new text.
 void ReplaceTag(std::string& s, std::string_view tag, std::string_view value) {
@@ -110,7 +102,7 @@ void ReplaceNameTags(std::string& s, std::string_view pending) {
   RunBracketLoop(s, "<NAMEPART(", 1, static_cast<std::size_t>(-1), [&](const TagArguments& args) {
     const long index = args.size() >= 2 ? WholeNumberOr(args[1], 1) : 1;
     const long trim = args.size() >= 3 ? WholeNumberOr(args[2], 1) : 1;
-    return NamePart(stem, WithoutQuotes(args[0]), index, trim);
+    return NamePart(stem, WithoutDoubleQuotes(args[0]), index, trim);
   });
 }
 

@@ -1,6 +1,7 @@
 #include "structure/TagArguments.h"
 
 #include "base/Fault.h"
+#include "base/Helpers.h"
 #include "base/Utf8.h"
 #include "structure/LanguageNumber.h"
 #include "structure/TextSearch.h"
@@ -12,13 +13,6 @@ namespace {
 constexpr std::string_view kArgumentsEnd = ")>";
 constexpr std::string_view kFindWord = "find(";
 constexpr char kError[] = "<ERROR>";
-
-std::string TrimBlanks(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  const std::size_t last = text.find_last_not_of(' ');
-  return std::string(text.substr(first, last - first + 1));
-}
 
 // The character position (from 1) of a byte offset.
 long CharacterPosition(std::string_view text, std::size_t byteOffset) {
@@ -84,13 +78,13 @@ TagArguments SplitArguments(std::string_view text) {
     } else if (!inQuotes && c == ')') {
       --depth;
     } else if (!inQuotes && depth == 0 && c == ',') {
-      args.back() = TrimBlanks(args.back());
+      args.back() = std::string(TrimSpaces(args.back()));
       due = true;
       continue;
     }
     args.back() += c;
   }
-  if (!args.empty() && !due) args.back() = TrimBlanks(args.back());
+  if (!args.empty() && !due) args.back() = std::string(TrimSpaces(args.back()));
   return args;
 }
 
@@ -134,7 +128,7 @@ std::string NamePart(std::string_view stem, std::string_view delimiter, long ind
     const std::size_t end = next == std::string_view::npos ? stem.size() : next;
     if (field == index) {
       const std::string_view part = stem.substr(start, end - start);
-      if (trim == 1) return TrimBlanks(part);
+      if (trim == 1) return std::string(TrimSpaces(part));
       if (trim == 0 || trim == -1) return std::string(part);
       throw RuntimeFault("<NAMEPART(: the third argument must be 0, 1 or -1, not " + std::to_string(trim));
     }

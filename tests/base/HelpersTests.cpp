@@ -87,5 +87,16 @@ TEST(BaseHelpers, FromBooleanWritesOneOrZero) {
   EXPECT_FALSE(ToBoolean(FromBoolean(false), true));
 }
 
+TEST(Helpers, WithoutDoubleQuotesTakesOutEveryQuote) {
+  EXPECT_EQ(WithoutDoubleQuotes("\"a\"b\"\""), "ab");
+  EXPECT_EQ(WithoutDoubleQuotes("plain"), "plain");
+}
+
+TEST(Helpers, TrimSpacesLeavesTabsAndInnerBlanks) {
+  EXPECT_EQ(TrimSpaces("  a b  "), "a b");
+  EXPECT_EQ(TrimSpaces("\ta "), "\ta");
+  EXPECT_EQ(TrimSpaces("   "), "");
+}
+
 }  // namespace
 }  // namespace nomra
