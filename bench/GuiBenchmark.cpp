@@ -29,7 +29,7 @@
 #include "core/ExifDateReader.h"
 #include "core/FileEntry.h"
 #include "core/Startup.h"
-#include "platform/posix/PosixFileSystem.h"
+#include "platform/Platform.h"
 #include "ui/MainWindow.h"
 
 namespace {
@@ -110,7 +110,7 @@ struct StartTimes {
 };
 
 struct Services {
-  nomra::platform::PosixFileSystem fileSystem;
+  std::unique_ptr<nomra::platform::Platform> system = nomra::platform::MakeSystemPlatform();
   nomra::NoExifDates exifDates;
 };
 
@@ -129,13 +129,14 @@ struct OpenWindow {
 StartTimes TimeStart(Services& services, const std::string& root, OpenWindow& open) {
   open.Close();
   open.data = std::make_unique<DataFolder>();
-  const nomra::StartupPaths paths = nomra::PrepareStartup(open.data->Path());
+  const nomra::StartupPaths paths =
+      nomra::PrepareStartup(services.system->Files(), services.system->Locations(), open.data->Path());
   const std::string language = LanguageFile(paths);
   StartTimes times;
 
   const auto start = Clock::now();
   auto window = std::make_unique<nomra::ui::MainWindow>(nomra::ui::MainWindow::Services{
-      services.fileSystem, services.exifDates, paths, language, QStringLiteral("Nomra"), QString()});
+      *services.system, services.exifDates, paths, language, QStringLiteral("Nomra"), QString()});
   const auto built = Clock::now();
   std::vector<std::string> arguments;
   if (!root.empty()) arguments.push_back(root);

@@ -2,12 +2,14 @@
 // main window, carries out the command line, and shows the window.
 #include <QApplication>
 #include <QMessageBox>
+#include <memory>
 
 #include "core/CommandLine.h"
 #include "core/ExifDateReader.h"
 #include "core/Startup.h"
 #include "lang/ChooseLanguage.h"
-#include "platform/posix/PosixFileSystem.h"
+#include "formats/IniFile.h"
+#include "platform/Platform.h"
 #include "ui/LanguageDialog.h"
 #include "ui/MainWindow.h"
 
@@ -16,9 +18,10 @@ namespace {
 constexpr char kAppTitle[] = "Nomra";
 
 // The language file to use, "" when the program has to end.
-std::string PickLanguage(const nomra::StartupPaths& paths) {
+std::string PickLanguage(nomra::platform::FileSystem& fileSystem, const nomra::StartupPaths& paths) {
   using namespace nomra::lang;
-  const LanguageChoice choice = ChooseLanguage(paths.appFolder, paths.settingsPath);
+  const nomra::formats::IniFile settingsFile(fileSystem, paths.settingsPath);
+  const LanguageChoice choice = ChooseLanguage(paths.appFolder, settingsFile);
   switch (choice.outcome) {
     case LanguageOutcome::Chosen:
       return choice.file;
@@ -26,7 +29,7 @@ std::string PickLanguage(const nomra::StartupPaths& paths) {
       QMessageBox::critical(nullptr, kNoLanguageFilesCaption, QString::fromStdString(NoLanguageFilesText(kAppTitle)));
       return {};
     case LanguageOutcome::UserMustChoose: {
-      nomra::ui::LanguageDialog dialog(paths.appFolder, paths.settingsPath, MessageCatalog(), QString());
+      nomra::ui::LanguageDialog dialog(paths.appFolder, settingsFile, MessageCatalog(), QString());
       dialog.exec();
       // Closing the choice without one still starts, in the first language found.
       return dialog.ChosenFile().empty() ? choice.candidates.front().path : dialog.ChosenFile();
@@ -43,13 +46,14 @@ int main(int argc, char** argv) {
   QApplication::setOrganizationName("NR-Software");
   QApplication::setApplicationVersion(NOMRA_VERSION);
 
-  nomra::platform::PosixFileSystem fileSystem;
+  // The one place the window's program picks the system it runs on.
+  const std::unique_ptr<nomra::platform::Platform> system = nomra::platform::MakeSystemPlatform();
   nomra::NoExifDates exifDates;
-  const nomra::StartupPaths paths = nomra::PrepareStartup(std::string());
-  const std::string languageFile = PickLanguage(paths);
+  const nomra::StartupPaths paths = nomra::PrepareStartup(system->Files(), system->Locations(), std::string());
+  const std::string languageFile = PickLanguage(system->Files(), paths);
   if (languageFile.empty()) return 1;
 
-  nomra::ui::MainWindow window({fileSystem, exifDates, paths, languageFile, kAppTitle, NOMRA_VERSION});
+  nomra::ui::MainWindow window({*system, exifDates, paths, languageFile, kAppTitle, NOMRA_VERSION});
   // Qt has taken its own options out of argv; the rest is ours.
   window.RunCommandLine(nomra::ArgumentsFromArgv(argc, argv));
   window.ShowAtStart();

@@ -30,4 +30,15 @@ std::string FormatListDate(std::time_t t) {
   return std::string(out, sizeof out);
 }
 
+std::string FormatTimeStamp(const std::tm& when) {
+  char out[14];
+  PutDigits(out, when.tm_year + 1900, 4);
+  PutDigits(out + 4, when.tm_mon + 1, 2);
+  PutDigits(out + 6, when.tm_mday, 2);
+  PutDigits(out + 8, when.tm_hour, 2);
+  PutDigits(out + 10, when.tm_min, 2);
+  PutDigits(out + 12, when.tm_sec, 2);
+  return std::string(out, sizeof out);
+}
+
 }  // namespace nomra::text

@@ -2,12 +2,6 @@
 
 namespace nomra {
 
-std::string AddBackslash(std::string_view path) {
-  std::string out(path);
-  if (out.empty() || out.back() != kPathSeparator) out.push_back(kPathSeparator);
-  return out;
-}
-
 std::string FormatMessage(std::string_view text, const std::vector<std::string>& values) {
   std::string out(text);
   for (std::size_t i = 0; i < values.size(); ++i) {

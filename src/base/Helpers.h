@@ -3,13 +3,9 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Paths.h"
+
 namespace nomra {
-
-// The platform's path separator; folder texts end with it.
-inline constexpr char kPathSeparator = '/';
-
-// Appends the separator when the last character isn't one.
-std::string AddBackslash(std::string_view path);
 
 // Replaces "%1", "%2", ... one after the other with the values, in order;
 // an empty list leaves the text alone.

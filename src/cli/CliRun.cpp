@@ -13,7 +13,6 @@
 #include "cli/TableOutput.h"
 #include "core/ExifDateReader.h"
 #include "core/Startup.h"
-#include "platform/posix/PosixFileSystem.h"
 
 namespace nomra::cli {
 
@@ -32,13 +31,13 @@ void RunSteps(MainModel& model, const std::vector<Step>& steps, std::ostream& no
 
 }  // namespace
 
-int RunInvocation(const Invocation& invocation, std::ostream& out, std::ostream& messages) {
+int RunInvocation(platform::Platform& system, const Invocation& invocation, std::ostream& out,
+                  std::ostream& messages) {
   CliFrontEnd frontEnd(messages, invocation.answerYes);
-  platform::PosixFileSystem fileSystem;
   NoExifDates exifDates;
 
-  const StartupPaths paths = PrepareStartup(invocation.dataFolder);
-  MainModel model(fileSystem, frontEnd, exifDates);
+  const StartupPaths paths = PrepareStartup(system.Files(), system.Locations(), invocation.dataFolder);
+  MainModel model(system.Files(), frontEnd, exifDates);
   LoadStartupSettings(model, paths);
   if (invocation.protocolRenames) model.protocolRenames = *invocation.protocolRenames;
   RecoverAtStart(model, messages);

@@ -7,7 +7,6 @@
 #include "cli/LoadSources.h"
 #include "core/ExifDateReader.h"
 #include "core/Startup.h"
-#include "platform/posix/PosixFileSystem.h"
 #include "structure/StructureEngine.h"
 
 namespace nomra::cli {
@@ -28,7 +27,8 @@ int UsageFault(std::ostream& messages, const std::string& text) {
 
 }  // namespace
 
-int RunEvalCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& messages) {
+int RunEvalCommand(platform::Platform& system, const std::vector<std::string>& arguments, std::ostream& out,
+                   std::ostream& messages) {
   EvalRequest request;
   bool haveStructure = false;
   bool optionsEnded = false;
@@ -54,10 +54,9 @@ int RunEvalCommand(const std::vector<std::string>& arguments, std::ostream& out,
   if (request.sources.empty()) return UsageFault(messages, "no PATH given");
 
   CliFrontEnd frontEnd(messages, false);
-  platform::PosixFileSystem fileSystem;
   NoExifDates exifDates;
-  const StartupPaths paths = PrepareStartup(request.dataFolder);
-  MainModel model(fileSystem, frontEnd, exifDates);
+  const StartupPaths paths = PrepareStartup(system.Files(), system.Locations(), request.dataFolder);
+  MainModel model(system.Files(), frontEnd, exifDates);
   LoadStartupSettings(model, paths);
   LoadSources(model, request.sources);
 

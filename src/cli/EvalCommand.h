@@ -2,6 +2,7 @@
 #include <ostream>
 #include <string>
 #include <vector>
+#include "platform/Platform.h"
 
 namespace nomra::cli {
 
@@ -11,6 +12,7 @@ inline constexpr char kEvalCommand[] = "eval";
 // structure gives for each file, one line each, changing nothing. A row
 // whose evaluation meets a fault is printed on `messages` and makes the
 // exit status 1; the others are still printed. Returns the exit status.
-int RunEvalCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& messages);
+int RunEvalCommand(platform::Platform& system, const std::vector<std::string>& arguments, std::ostream& out,
+                   std::ostream& messages);
 
 }  // namespace nomra::cli

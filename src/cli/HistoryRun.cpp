@@ -13,7 +13,6 @@
 #include "history/LoadHistory.h"
 #include "history/UndoRenamings.h"
 #include "platform/DataLocations.h"
-#include "platform/posix/PosixFileSystem.h"
 
 namespace nomra::cli {
 
@@ -44,12 +43,13 @@ std::string FirstNumberBeyond(const std::vector<int>& numbers, std::size_t count
 
 }  // namespace
 
-int RunHistoryCommand(const HistoryInvocation& invocation, std::ostream& out, std::ostream& messages) {
+int RunHistoryCommand(platform::Platform& system, const HistoryInvocation& invocation, std::ostream& out,
+                      std::ostream& messages) {
   // Naming the records, or --clear, is the user's answer to the window's question.
   CliFrontEnd frontEnd(messages, true);
-  platform::PosixFileSystem fileSystem;
+  platform::FileSystem& fileSystem = system.Files();
   const std::string dataFolder =
-      invocation.dataFolder.empty() ? platform::DefaultDataFolder() : AddBackslash(invocation.dataFolder);
+      invocation.dataFolder.empty() ? system.Locations().DataFolder() : AddBackslash(invocation.dataFolder);
   const history::HistoryServices services{fileSystem, frontEnd, dataFolder, [&messages](const ReportRow& failure) {
                                              messages << "nomra-cli: " << failure.Describe() << '\n';
                                            }};
@@ -87,7 +87,8 @@ int RunHistoryCommand(const HistoryInvocation& invocation, std::ostream& out, st
   return complete && !frontEnd.FaultShown() ? kExitSuccess : kExitFault;
 }
 
-int RunHistoryCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& messages) {
+int RunHistoryCommand(platform::Platform& system, const std::vector<std::string>& arguments, std::ostream& out,
+                      std::ostream& messages) {
   HistoryInvocation invocation;
   try {
     invocation = ParseHistoryCommandLine(arguments);
@@ -99,7 +100,7 @@ int RunHistoryCommand(const std::vector<std::string>& arguments, std::ostream& o
     WriteHelp(out);
     return kExitSuccess;
   }
-  return RunHistoryCommand(invocation, out, messages);
+  return RunHistoryCommand(system, invocation, out, messages);
 }
 
 }  // namespace nomra::cli

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "cli/HistoryCommandLine.h"
+#include "platform/Platform.h"
 
 namespace nomra::cli {
 
@@ -13,10 +14,12 @@ namespace nomra::cli {
 // `messages`. Returns the exit status: 1 when a named record was not undone
 // or the protocol couldn't be read or written, 2 for a record number beyond
 // the protocol (nothing is done then).
-int RunHistoryCommand(const HistoryInvocation& invocation, std::ostream& out, std::ostream& messages);
+int RunHistoryCommand(platform::Platform& system, const HistoryInvocation& invocation, std::ostream& out,
+                      std::ostream& messages);
 
 // The same from the arguments after "history": a command line it can't
 // understand is printed and gives 2, --help prints the help.
-int RunHistoryCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& messages);
+int RunHistoryCommand(platform::Platform& system, const std::vector<std::string>& arguments, std::ostream& out,
+                      std::ostream& messages);
 
 }  // namespace nomra::cli

@@ -1,6 +1,5 @@
 #include "cli/LoadSources.h"
 
-#include <fstream>
 #include <string>
 
 #include "base/Fault.h"
@@ -28,7 +27,7 @@ void LoadPlaylist(MainModel& model, const std::string& playlist) {
     model.frontEnd.ShowFault("playlist not found: " + playlist);
     return;
   }
-  if (!std::ifstream(playlist, std::ios::binary).is_open()) {
+  if (!model.fileSystem.ReadFile(playlist)) {
     model.frontEnd.ShowFault("playlist not readable: " + playlist);
     return;
   }

@@ -4,7 +4,6 @@
 #include "cli/ExitStatus.h"
 #include "cli/JsonText.h"
 #include "core/Startup.h"
-#include "platform/posix/PosixFileSystem.h"
 #include "rename/ApplyStructure.h"
 #include "script/ScriptFiles.h"
 #include "script/ScriptPlayback.h"
@@ -20,7 +19,8 @@ void PlayScriptFile(MainModel& model, const std::string& file, std::ostream&) {
 
 void ApplyStructureStep(MainModel& model, const std::string& structure) { ApplyStructure(model, structure); }
 
-int RunScriptsCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& messages) {
+int RunScriptsCommand(platform::Platform& system, const std::vector<std::string>& arguments, std::ostream& out,
+                      std::ostream& messages) {
   std::string dataFolder;
   bool json = false;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
@@ -36,9 +36,8 @@ int RunScriptsCommand(const std::vector<std::string>& arguments, std::ostream& o
       return kExitUsage;
     }
   }
-  platform::PosixFileSystem fileSystem;
-  const StartupPaths paths = PrepareStartup(dataFolder);
-  const std::vector<StoredScript> scripts = ListStoredScripts(fileSystem, paths.dataFolder);
+  const StartupPaths paths = PrepareStartup(system.Files(), system.Locations(), dataFolder);
+  const std::vector<StoredScript> scripts = ListStoredScripts(system.Files(), paths.dataFolder);
   if (json) {
     out << '[';
     for (std::size_t i = 0; i < scripts.size(); ++i) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/MainModel.h"
+#include "platform/Platform.h"
 
 namespace nomra::cli {
 
@@ -18,6 +19,7 @@ void ApplyStructureStep(MainModel& model, const std::string& structure);
 // "nomra-cli scripts [--data-dir DIR] [--json]": the stored scripts, one
 // line each, the file name and the display text separated by a tab. Returns
 // the exit status.
-int RunScriptsCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& messages);
+int RunScriptsCommand(platform::Platform& system, const std::vector<std::string>& arguments, std::ostream& out,
+                      std::ostream& messages);
 
 }  // namespace nomra::cli

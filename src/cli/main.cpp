@@ -2,6 +2,7 @@
 #include <clocale>
 #include <exception>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,7 @@
 #include "cli/HistoryRun.h"
 #include "cli/ScriptSteps.h"
 #include "cli/UsageError.h"
+#include "platform/Platform.h"
 
 int main(int argc, char** argv) {
   using namespace nomra::cli;
@@ -20,15 +22,16 @@ int main(int argc, char** argv) {
   std::setlocale(LC_ALL, "");
   std::ios::sync_with_stdio(false);
 
+  const std::unique_ptr<nomra::platform::Platform> system = nomra::platform::MakeSystemPlatform();
   const std::vector<std::string> arguments(argv + 1, argv + argc);
   if (!arguments.empty() && arguments.front() == kEvalCommand) {
-    return RunEvalCommand({arguments.begin() + 1, arguments.end()}, std::cout, std::cerr);
+    return RunEvalCommand(*system, {arguments.begin() + 1, arguments.end()}, std::cout, std::cerr);
   }
   if (!arguments.empty() && arguments.front() == "scripts") {
-    return RunScriptsCommand({arguments.begin() + 1, arguments.end()}, std::cout, std::cerr);
+    return RunScriptsCommand(*system, {arguments.begin() + 1, arguments.end()}, std::cout, std::cerr);
   }
   if (!arguments.empty() && arguments.front() == kHistoryCommand) {
-    return RunHistoryCommand({arguments.begin() + 1, arguments.end()}, std::cout, std::cerr);
+    return RunHistoryCommand(*system, {arguments.begin() + 1, arguments.end()}, std::cout, std::cerr);
   }
   Invocation invocation;
   try {
@@ -46,7 +49,7 @@ int main(int argc, char** argv) {
     return kExitSuccess;
   }
   try {
-    return RunInvocation(invocation, std::cout, std::cerr);
+    return RunInvocation(*system, invocation, std::cout, std::cerr);
   } catch (const std::exception& error) {
     // Whatever the engine didn't expect still ends with a message, not an abort.
     std::cerr << "nomra-cli: " << error.what() << '\n';

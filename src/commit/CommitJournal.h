@@ -1,9 +1,11 @@
 #pragma once
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "commit/JournalFormat.h"
+#include "platform/FileSystem.h"
 
 namespace nomra {
 
@@ -14,12 +16,12 @@ inline constexpr char kJournalFileName[] = "commit.journal";
 // disk before the first rename, so that a start after a crash or a power
 // loss can bring files left under a temporary name to their final names.
 //
-// While it is open the file is locked (flock), so that a start of another
+// While it is open the file is locked, so that a start of another
 // Nomra during this commit leaves it alone; the lock goes with the process,
 // so a killed commit's journal is free for the next start.
 class CommitJournal {
  public:
-  CommitJournal() = default;
+  explicit CommitJournal(platform::FileSystem& fileSystem) : fileSystem_(fileSystem) {}
   // Closes without removing: a batch that ends by an exception leaves its
   // journal behind for the next start, as a crash would.
   ~CommitJournal();
@@ -35,7 +37,7 @@ class CommitJournal {
   // of the failure; then nothing is journaled and no file is left.
   int Begin(const std::string& dataFolder, const std::vector<JournalPlanEntry>& plan,
             const std::vector<JournalTemporaryEntry>& temporaries);
-  bool IsOpen() const { return fd_ >= 0; }
+  bool IsOpen() const { return file_ != nullptr; }
 
   // Appends a "T" record and flushes it before a move to a temporary name
   // that Begin didn't foresee happens (the disk changed since the plan). Returns 0 or the errno of the failure; after a failure the
@@ -52,7 +54,8 @@ class CommitJournal {
  private:
   void Close();
 
-  int fd_ = -1;
+  platform::FileSystem& fileSystem_;
+  std::unique_ptr<platform::OpenFile> file_;
   std::string path_;
 };
 

@@ -1,10 +1,5 @@
 #include "commit/CommitRecovery.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -19,9 +14,7 @@
 #include "commit/CommitExecution.h"
 #include "commit/CommitJournal.h"
 #include "commit/JournalFormat.h"
-#include "commit/ProtocolWriter.h"
-#include "platform/posix/NoReplaceRename.h"
-#include "settings/FileBytes.h"
+#include "base/DateText.h"
 
 namespace nomra {
 
@@ -32,43 +25,6 @@ std::string Quoted(const std::string& path) { return "\"" + path + "\""; }
 bool IsThere(platform::FileSystem& fileSystem, const std::string& path) {
   return fileSystem.Status(path).kind != platform::EntryKind::Missing;
 }
-
-// The journal, opened and locked; nothing when there is none or a commit
-// of another Nomra holds it.
-class LockedJournal {
- public:
-  explicit LockedJournal(const std::string& path) {
-    fd_ = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd_ < 0) {
-      error_ = errno == ENOENT ? 0 : errno;
-      return;
-    }
-    if (flock(fd_, LOCK_EX | LOCK_NB) != 0) {
-      busy_ = true;
-      return;
-    }
-    // The commit that wrote it may have ended and removed it meanwhile.
-    struct stat opened {};
-    struct stat named {};
-    stale_ = fstat(fd_, &opened) != 0 || stat(path.c_str(), &named) != 0 || opened.st_ino != named.st_ino ||
-             opened.st_dev != named.st_dev;
-  }
-  ~LockedJournal() {
-    if (fd_ >= 0) close(fd_);
-  }
-  LockedJournal(const LockedJournal&) = delete;
-  LockedJournal& operator=(const LockedJournal&) = delete;
-
-  bool Usable() const { return fd_ >= 0 && !busy_ && !stale_; }
-  bool Busy() const { return busy_; }
-  int OpenError() const { return error_; }
-
- private:
-  int fd_ = -1;
-  int error_ = 0;
-  bool busy_ = false;
-  bool stale_ = false;
-};
 
 // Moves a file the journal put under a temporary name; nothing when the
 // move worked, else the reason.
@@ -172,14 +128,12 @@ void ReadJournal(platform::FileSystem& fileSystem, const std::string& text, Inte
 
 // Kept beside the journal under a name that says when; never replaces one
 // kept before.
-std::optional<std::string> KeepJournal(const std::string& path) {
-  const std::time_t now = std::time(nullptr);
-  std::tm local{};
-  localtime_r(&now, &local);
-  const std::string stem = path + "." + ProtocolTime(local);
+std::optional<std::string> KeepJournal(platform::FileSystem& fileSystem, const std::string& path,
+                                       const LocalClock& clock) {
+  const std::string stem = path + "." + text::FormatTimeStamp(clock());
   for (int attempt = 0; attempt < 100; ++attempt) {
     const std::string kept = stem + (attempt == 0 ? "" : "-" + std::to_string(attempt)) + ".left";
-    const platform::RenameResult renamed = platform::RenameWithoutReplacing(path, kept);
+    const platform::RenameResult renamed = fileSystem.RenameNoReplace(path, kept);
     if (renamed.ok) return kept;
     if (renamed.error != EEXIST) return std::nullopt;
   }
@@ -188,22 +142,22 @@ std::optional<std::string> KeepJournal(const std::string& path) {
 
 }  // namespace
 
-InterruptedCommit RecoverInterruptedCommit(platform::FileSystem& fileSystem, const std::string& dataFolder) {
+InterruptedCommit RecoverInterruptedCommit(platform::FileSystem& fileSystem, const std::string& dataFolder,
+                                           const LocalClock& clock) {
   InterruptedCommit commit;
   if (dataFolder.empty()) return commit;
   const std::string path = AddBackslash(dataFolder) + kJournalFileName;
-  const LockedJournal journal(path);
-  if (journal.OpenError() != 0) {
+  const platform::ExistingLock journal = fileSystem.LockExisting(path);
+  if (journal.state == platform::ExistingLock::State::Failed) {
     commit.found = true;
-    commit.unresolved.push_back("the journal " + Quoted(path) + " can't be read: " +
-                                std::strerror(journal.OpenError()));
+    commit.unresolved.push_back("the journal " + Quoted(path) + " can't be read: " + std::strerror(journal.error));
     return commit;
   }
   // A commit of another Nomra is running, or there is nothing to do.
-  if (!journal.Usable()) return commit;
+  if (journal.state != platform::ExistingLock::State::Locked) return commit;
   commit.found = true;
 
-  const std::optional<std::string> text = settings::ReadFileBytes(path);
+  const std::optional<std::string> text = fileSystem.ReadFile(path);
   if (!text) {
     commit.unresolved.push_back("the journal " + Quoted(path) + " can't be read");
   } else {
@@ -211,8 +165,8 @@ InterruptedCommit RecoverInterruptedCommit(platform::FileSystem& fileSystem, con
   }
 
   if (commit.unresolved.empty()) {
-    unlink(path.c_str());
-  } else if (const std::optional<std::string> kept = KeepJournal(path)) {
+    fileSystem.RemoveFile(path);
+  } else if (const std::optional<std::string> kept = KeepJournal(fileSystem, path, clock)) {
     commit.unresolved.push_back("the journal is kept as " + Quoted(*kept) + " and will not be read again");
   } else {
     commit.unresolved.push_back("the journal " + Quoted(path) + " could not be set aside and will be read again");

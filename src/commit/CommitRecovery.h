@@ -2,6 +2,7 @@
 #include <string>
 #include <vector>
 
+#include "base/LocalClock.h"
 #include "core/FrontEnd.h"
 #include "platform/FileSystem.h"
 
@@ -26,7 +27,8 @@ struct InterruptedCommit {
 // unresolved, renamed to "commit.journal.<yyyymmddhhnnss>.left" so that it
 // is kept for the user and not read again. A journal locked by a commit
 // running in another Nomra is left alone.
-InterruptedCommit RecoverInterruptedCommit(platform::FileSystem& fileSystem, const std::string& dataFolder);
+InterruptedCommit RecoverInterruptedCommit(platform::FileSystem& fileSystem, const std::string& dataFolder,
+                                           const LocalClock& clock = LocalTimeNow);
 
 // Shows each unresolved line as a fault, "interrupted commit: " first.
 void ShowUnresolved(FrontEnd& frontEnd, const InterruptedCommit& commit);

@@ -1,12 +1,12 @@
 #pragma once
 #include <ctime>
+#include <memory>
 #include <string>
 #include <string_view>
 
-namespace nomra {
+#include "platform/FileSystem.h"
 
-// "yyyymmddhhnnss" of a local time.
-std::string ProtocolTime(const std::tm& when);
+namespace nomra {
 
 // One line of the rename protocol: time, folder (ending with the separator),
 // old name and new name joined by double quotes, without quoting or
@@ -17,24 +17,24 @@ std::string ProtocolRecord(const std::tm& when, std::string_view folder, std::st
 // The rename protocol ("renamed.nrp" in the data folder), open for one commit.
 class ProtocolWriter {
  public:
-  ProtocolWriter() = default;
-  ~ProtocolWriter();
+  explicit ProtocolWriter(platform::FileSystem& fileSystem) : fileSystem_(fileSystem) {}
   ProtocolWriter(const ProtocolWriter&) = delete;
   ProtocolWriter& operator=(const ProtocolWriter&) = delete;
 
   // Opens for appending, creating the file when missing. Returns 0, or the
   // errno of the failure; then nothing is written.
   int Open(const std::string& path);
-  bool IsOpen() const { return fd_ >= 0; }
+  bool IsOpen() const { return file_ != nullptr; }
 
   // Appends one record in a single write, so it is in the file at once, even
   // if the program dies before the next rename.
   void Write(const std::tm& when, std::string_view folder, std::string_view oldName, std::string_view newName);
 
-  void Close();
+  void Close() { file_.reset(); }
 
  private:
-  int fd_ = -1;
+  platform::FileSystem& fileSystem_;
+  std::unique_ptr<platform::OpenFile> file_;
 };
 
 }  // namespace nomra

@@ -40,8 +40,8 @@ std::string ProtocolPath(const MainModel& model) {
 
 CommitResult mdlRenameFiles(MainModel& model, int position, const LocalClock& clock) {
   CommitResult result;
-  ProtocolWriter protocol;
-  CommitJournal journal;
+  ProtocolWriter protocol(model.fileSystem);
+  CommitJournal journal(model.fileSystem);
   const CommitScope scope(model, protocol);
   CommitBatch batch(model, result, protocol, journal, clock);
 

@@ -41,7 +41,7 @@ CloseDecision AskBeforeClose(MainModel& model, bool recordingRuns, const std::fu
   return PendingNamesAllowClose(model) ? CloseDecision::Close : CloseDecision::Refuse;
 }
 
-CloseDecision RunCloseSequence(const MainWindowSettings& settings, MainModel& model, const std::string& settingsFile,
+CloseDecision RunCloseSequence(const MainWindowSettings& settings, MainModel& model, const formats::IniFile& settingsFile,
                                bool recordingRuns, const std::function<void()>& stopRecording) {
   WriteLayoutOnClose(settings, settingsFile);
   if (!RecordingAllowsClose(model, recordingRuns, stopRecording)) return CloseDecision::Refuse;

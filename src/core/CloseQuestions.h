@@ -22,7 +22,7 @@ CloseDecision AskBeforeClose(MainModel& model, bool recordingRuns, const std::fu
 // Only a Cancel on the recording question ends the sequence before the
 // remaining settings are written. The caller releases its services when the
 // result is Close.
-CloseDecision RunCloseSequence(const MainWindowSettings& settings, MainModel& model, const std::string& settingsFile,
+CloseDecision RunCloseSequence(const MainWindowSettings& settings, MainModel& model, const formats::IniFile& settingsFile,
                                bool recordingRuns, const std::function<void()>& stopRecording);
 
 }  // namespace nomra

@@ -2,7 +2,7 @@
 
 #include "base/Fault.h"
 #include "base/Helpers.h"
-#include "settings/IniFile.h"
+#include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"
 
 namespace nomra {
@@ -17,11 +17,11 @@ std::string ColumnWidthKey(int head) { return kColumnWidthKeyPrefix + std::to_st
 // caller's default stands.
 class SettingsReader {
  public:
-  SettingsReader(const std::string& file, FrontEnd& frontEnd) : file_(file), frontEnd_(frontEnd) {}
+  SettingsReader(const formats::IniFile& file, FrontEnd& frontEnd) : file_(file), frontEnd_(frontEnd) {}
 
   long Number(const char* section, const std::string& key) {
     try {
-      return ReadIniInt(section, key, file_);
+      return file_.ReadInt(section, key);
     } catch (const RuntimeFault& fault) {
       frontEnd_.ShowFault(fault.what());
       return -1;
@@ -30,7 +30,7 @@ class SettingsReader {
 
   long NumberOrSilence(const char* section, const char* key) {
     try {
-      return ReadIniInt(section, key, file_);
+      return file_.ReadInt(section, key);
     } catch (const RuntimeFault&) {
       return -1;
     }
@@ -43,10 +43,10 @@ class SettingsReader {
     return value == -1 ? fallback : value;
   }
 
-  std::string Text(const char* section, const char* key) { return ReadIniString(section, key, file_); }
+  std::string Text(const char* section, const char* key) { return file_.ReadString(section, key); }
 
  private:
-  const std::string& file_;
+  const formats::IniFile& file_;
   FrontEnd& frontEnd_;
 };
 
@@ -63,7 +63,7 @@ std::string LastCharacter(const std::string& tag) {
 
 }  // namespace
 
-MainWindowSettings ReadMainWindowSettings(const std::string& settingsFile, FrontEnd& frontEnd) {
+MainWindowSettings ReadMainWindowSettings(const formats::IniFile& settingsFile, FrontEnd& frontEnd) {
   SettingsReader read(settingsFile, frontEnd);
   MainWindowSettings s;
   // In the order the window's load takes them, so faults come in that order.
@@ -97,38 +97,38 @@ MainWindowSettings ReadMainWindowSettings(const std::string& settingsFile, Front
   return s;
 }
 
-void WriteLayoutOnClose(const MainWindowSettings& s, const std::string& file) {
+void WriteLayoutOnClose(const MainWindowSettings& s, const formats::IniFile& file) {
   for (int head = 1; head <= kColumnHeadCount; ++head) {
-    WriteIni(kMainSection, ColumnWidthKey(head), s.columnWidths[static_cast<std::size_t>(head - 1)], file);
+    file.Write(kMainSection, ColumnWidthKey(head), s.columnWidths[static_cast<std::size_t>(head - 1)]);
   }
-  WriteIni(kSettingsSection, kPreviewStyleKey, s.previewStyle, file);
-  WriteIni(kSettingsSection, kPreviewGridLinesKey, FromBoolean(s.previewGridLines), file);
-  WriteIni(kMainSection, kWindowStateKey, s.ws, file);
+  file.Write(kSettingsSection, kPreviewStyleKey, s.previewStyle);
+  file.Write(kSettingsSection, kPreviewGridLinesKey, FromBoolean(s.previewGridLines));
+  file.Write(kMainSection, kWindowStateKey, s.ws);
   // A maximised or minimised window's size isn't the one to come back to.
   if (s.ws != 0) return;
-  WriteIni(kMainSection, kWindowLeftKey, s.x, file);
-  WriteIni(kMainSection, kWindowTopKey, s.y, file);
-  WriteIni(kMainSection, kWindowWidthKey, s.w, file);
-  WriteIni(kMainSection, kWindowHeightKey, s.h, file);
+  file.Write(kMainSection, kWindowLeftKey, s.x);
+  file.Write(kMainSection, kWindowTopKey, s.y);
+  file.Write(kMainSection, kWindowWidthKey, s.w);
+  file.Write(kMainSection, kWindowHeightKey, s.h);
 }
 
-void WriteSettingsOnClose(const MainWindowSettings& s, const MainModel& model, const std::string& file) {
-  WriteIni(kSettingsSection, kSplashKey, s.splash, file);
-  WriteIni(kSettingsSection, kButtonBarMainKey, s.btnbarMain, file);
-  WriteIni(kSettingsSection, kButtonBarScriptKey, s.btnbarScript, file);
-  WriteIni(kSettingsSection, kPreviewSortKeyKey, s.previewSortKey, file);
-  WriteIni(kSettingsSection, kPreviewSortOrderKey, s.previewSortOrder, file);
-  WriteIni(kAssistantSection, kAssistantVisibleKey, FromBoolean(s.assistantVisible), file);
-  WriteIni(kDialogsSection, kBackColorKey, s.backColor, file);
-  WriteIni(kDialogsSection, kForeColorKey, s.foreColor, file);
-  WriteIni(kFrmOpenSection, kCheckAllKey, s.chkAll, file);
-  WriteIni(kFrmOpenSection, kCheckSubKey, s.chkSub, file);
-  WriteIni(kFrmOpenSection, kDialogueStyleKey, LastCharacter(s.openFileTag), file);
-  WriteIni(kSettingsSection, kRenameStyleKey, LastCharacter(s.takeChangesTag), file);
-  WriteIni(kSettingsSection, kExpertModeKey, FromBoolean(model.expertMode), file);
-  WriteIni(kSettingsSection, kLoadExifDatesKey, FromBoolean(model.loadExifDates), file);
-  WriteIni(kSettingsSection, kCheckExistenceKey, FromBoolean(model.checkExistence), file);
-  WriteIni(kFrmOpenSection, kShowHiddenFilesKey, FromBoolean(s.showHiddenFiles), file);
+void WriteSettingsOnClose(const MainWindowSettings& s, const MainModel& model, const formats::IniFile& file) {
+  file.Write(kSettingsSection, kSplashKey, s.splash);
+  file.Write(kSettingsSection, kButtonBarMainKey, s.btnbarMain);
+  file.Write(kSettingsSection, kButtonBarScriptKey, s.btnbarScript);
+  file.Write(kSettingsSection, kPreviewSortKeyKey, s.previewSortKey);
+  file.Write(kSettingsSection, kPreviewSortOrderKey, s.previewSortOrder);
+  file.Write(kAssistantSection, kAssistantVisibleKey, FromBoolean(s.assistantVisible));
+  file.Write(kDialogsSection, kBackColorKey, s.backColor);
+  file.Write(kDialogsSection, kForeColorKey, s.foreColor);
+  file.Write(kFrmOpenSection, kCheckAllKey, s.chkAll);
+  file.Write(kFrmOpenSection, kCheckSubKey, s.chkSub);
+  file.Write(kFrmOpenSection, kDialogueStyleKey, LastCharacter(s.openFileTag));
+  file.Write(kSettingsSection, kRenameStyleKey, LastCharacter(s.takeChangesTag));
+  file.Write(kSettingsSection, kExpertModeKey, FromBoolean(model.expertMode));
+  file.Write(kSettingsSection, kLoadExifDatesKey, FromBoolean(model.loadExifDates));
+  file.Write(kSettingsSection, kCheckExistenceKey, FromBoolean(model.checkExistence));
+  file.Write(kFrmOpenSection, kShowHiddenFilesKey, FromBoolean(s.showHiddenFiles));
 }
 
 int DefaultColumnWidth(int head) {

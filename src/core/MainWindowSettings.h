@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/FrontEnd.h"
+#include "formats/IniFile.h"
 #include "core/MainModel.h"
 
 namespace nomra {
@@ -63,18 +64,18 @@ struct MainWindowSettings {
 // back, or "&H" and hexadecimal digits, as a hand-edited file may hold them.
 // The sort key and sort order are read with failures ignored: a damaged one
 // is passed over in silence.
-MainWindowSettings ReadMainWindowSettings(const std::string& settingsFile, FrontEnd& frontEnd);
+MainWindowSettings ReadMainWindowSettings(const formats::IniFile& settingsFile, FrontEnd& frontEnd);
 
 // The layout part of the close, written before any question is asked: Col1 to
 // Col8, PreviewStyle, PreviewGridLines and ws, then x, y, w and h only for a
 // normal window, so a maximised window keeps the place it had before.
-void WriteLayoutOnClose(const MainWindowSettings& settings, const std::string& settingsFile);
+void WriteLayoutOnClose(const MainWindowSettings& settings, const formats::IniFile& settingsFile);
 
 // The rest of the close: splash, btnbarMain, btnbarScript, PreviewSortKey,
 // PreviewSortOrder, the assistant's Visible, BackColor, ForeColor, chkAll,
 // chkSub, DialogueStyle, RenameStyle, ExpertMode, LoadEXIFDates,
 // CheckExistence and ShowHiddenFiles, in this order.
-void WriteSettingsOnClose(const MainWindowSettings& settings, const MainModel& model, const std::string& settingsFile);
+void WriteSettingsOnClose(const MainWindowSettings& settings, const MainModel& model, const formats::IniFile& settingsFile);
 
 // The width of a column head (1 to 8) whose width is missing: 3000 for the
 // names and the folder, 1800 for the three before the size, 1400 for the

@@ -1,13 +1,9 @@
 #include "core/Startup.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include "base/Fault.h"
 #include "base/Helpers.h"
-#include "platform/DataLocations.h"
+#include "formats/IniFile.h"
 #include "settings/DataFolder.h"
-#include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
 
 namespace nomra {
@@ -16,40 +12,41 @@ namespace {
 
 // A flag of the settings; a value that isn't a number is shown and the
 // default stands, so one bad line can't stop the program.
-bool ReadFlag(MainModel& model, const std::string& file, const char* section, const char* key, bool fallback) {
+bool ReadFlag(MainModel& model, const formats::IniFile& file, const char* section, const char* key, bool fallback) {
   try {
-    return ToBoolean(settings::ReadIniInt(section, key, file), fallback);
+    return ToBoolean(file.ReadInt(section, key), fallback);
   } catch (const RuntimeFault& fault) {
     model.frontEnd.ShowFault(fault.what());
     return fallback;
   }
 }
 
-void CreateProtocolIfMissing(const std::string& dataFolder) {
-  const std::string path = dataFolder + settings::kProtocolFileName;
-  const int fd = open(path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
-  if (fd >= 0) close(fd);  // a read-only data folder keeps no protocol
+void CreateProtocolIfMissing(platform::FileSystem& fileSystem, const std::string& dataFolder) {
+  int error = 0;
+  // A read-only data folder keeps no protocol.
+  fileSystem.OpenForAppend(dataFolder + settings::kProtocolFileName, error);
 }
 
 }  // namespace
 
-StartupPaths PrepareStartup(const std::string& dataFolderOverride) {
+StartupPaths PrepareStartup(platform::FileSystem& fileSystem, platform::DataLocations& locations,
+                            const std::string& dataFolderOverride) {
   StartupPaths paths;
-  paths.appFolder = settings::FindAppFolder();
+  paths.appFolder = settings::FindAppFolder(fileSystem, locations);
   if (dataFolderOverride.empty()) {
-    paths.dataFolder = settings::FindDataFolder();
+    paths.dataFolder = settings::FindDataFolder(fileSystem, locations);
   } else {
     paths.dataFolder = AddBackslash(dataFolderOverride);
-    platform::CreateFolderPath(paths.dataFolder);
+    fileSystem.MakeFolderPath(paths.dataFolder);
   }
   paths.settingsPath = paths.dataFolder + settings::kSettingsFileName;
-  paths.dataFolderUsable = settings::PrepareDataFolder(paths.appFolder, paths.dataFolder);
+  paths.dataFolderUsable = settings::PrepareDataFolder(fileSystem, paths.appFolder, paths.dataFolder);
   return paths;
 }
 
 void LoadStartupSettings(MainModel& model, const StartupPaths& paths) {
   using namespace settings;
-  const std::string& file = paths.settingsPath;
+  const formats::IniFile file(model.fileSystem, paths.settingsPath);
   model.securityQuestions[0] = ReadFlag(model, file, kSettingsSection, kSecurityQuestion1Key, false);
   model.securityQuestions[1] = ReadFlag(model, file, kSettingsSection, kSecurityQuestion2Key, false);
   model.securityQuestions[2] = ReadFlag(model, file, kSettingsSection, kSecurityQuestion3Key, false);
@@ -59,10 +56,10 @@ void LoadStartupSettings(MainModel& model, const StartupPaths& paths) {
   model.protocolRenames = ReadFlag(model, file, kSettingsSection, kProtocolRenamesKey, false);
   model.dataFolder = paths.dataFolder;
   model.script.dataFolder = paths.dataFolder;
-  model.script.settingsPath = file;
+  model.script.settingsPath = paths.settingsPath;
   model.script.saveDialogSettings = ReadFlag(model, file, kSettingsSection, kSaveDialogSettingsKey, false);
   model.script.tempPath = paths.dataFolder + kScriptTempFileName;
-  if (paths.dataFolderUsable) CreateProtocolIfMissing(paths.dataFolder);
+  if (paths.dataFolderUsable) CreateProtocolIfMissing(model.fileSystem, paths.dataFolder);
 }
 
 }  // namespace nomra

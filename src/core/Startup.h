@@ -2,6 +2,8 @@
 #include <string>
 
 #include "core/MainModel.h"
+#include "platform/DataLocations.h"
+#include "platform/FileSystem.h"
 
 namespace nomra {
 
@@ -14,7 +16,8 @@ struct StartupPaths {
 
 // Finds the data folder (the override when not empty), creates it, copies the
 // first-run files, merges update instructions and compacts the settings.
-StartupPaths PrepareStartup(const std::string& dataFolderOverride);
+StartupPaths PrepareStartup(platform::FileSystem& fileSystem, platform::DataLocations& locations,
+                            const std::string& dataFolderOverride);
 
 // Reads the flags the list needs from the settings into the model and creates
 // the rename protocol when it is missing. A value that isn't a number is

@@ -4,8 +4,8 @@
 
 #include "base/Fault.h"
 #include "settings/CompactIniFile.h"
-#include "settings/IniFile.h"
-#include "settings/IniNumber.h"
+#include "formats/IniFile.h"
+#include "formats/IniNumber.h"
 #include "settings/SettingsKeys.h"
 
 namespace nomra::dialog {
@@ -30,19 +30,19 @@ std::string JoinSelectedRows(const DialogInput& input) {
 }
 
 // Counts the new step in before any of its values are written.
-std::string OpenScriptStep(std::string_view type, const std::string& file) {
-  const long steps = settings::ReadIniInt(kScriptMainSection, kStepsKey, file);
+std::string OpenScriptStep(std::string_view type, const formats::IniFile& file) {
+  const long steps = file.ReadInt(kScriptMainSection, kStepsKey);
   if (steps < std::numeric_limits<std::int16_t>::min() || steps >= std::numeric_limits<std::int16_t>::max()) {
     throw RuntimeFault("Overflow: a script holds at most 32767 steps");
   }
   const std::string section = std::to_string(steps + 1);
-  settings::WriteIni(section, kTypeKey, type, file);
-  settings::WriteIni(kScriptMainSection, kStepsKey, steps + 1, file);
+  file.Write(section, kTypeKey, type);
+  file.Write(kScriptMainSection, kStepsKey, steps + 1);
   return section;
 }
 
 std::optional<int> NumberOf(std::string_view value) {
-  const std::optional<long> number = settings::ParseIniNumber(value);
+  const std::optional<long> number = formats::ParseIniNumber(value);
   if (!number || *number < std::numeric_limits<int>::min() || *number > std::numeric_limits<int>::max()) {
     return std::nullopt;
   }
@@ -138,23 +138,23 @@ std::string StoredValueOf(const DialogInput& input) {
   return "";
 }
 
-void StoreDialogState(const DialogModel& dialog, std::string_view name, int mode, const ScriptSession& session) {
-  const std::string& file = mode == kScriptMode ? session.tempPath : session.settingsPath;
+void StoreDialogState(const DialogModel& dialog, std::string_view name, int mode, const ScriptSession& session,
+                      platform::FileSystem& fileSystem) {
+  const formats::IniFile file(fileSystem, mode == kScriptMode ? session.tempPath : session.settingsPath);
   std::string section(name);
   if (mode == kScriptMode) section = OpenScriptStep(name, file);
   for (const DialogInput& input : dialog.Inputs()) {
     const std::string value = StoredValueOf(input);
-    settings::WriteIni(section, input.Key(), value.empty() ? settings::kDeleteMarker : EncodeStoredValue(value),
-                       file);
+    file.Write(section, input.Key(), value.empty() ? settings::kDeleteMarker : EncodeStoredValue(value));
   }
-  settings::CompactIniFile(file, session.dataFolder);
+  settings::CompactIniFile(fileSystem, file.Path(), session.dataFolder);
 }
 
 void RestoreDialogState(DialogModel& dialog, std::string_view section, int mode, const ScriptSession& session,
-                        FrontEnd& frontEnd) {
-  const std::string& file = mode == kScriptMode ? session.runPath : session.settingsPath;
+                        platform::FileSystem& fileSystem, FrontEnd& frontEnd) {
+  const formats::IniFile file(fileSystem, mode == kScriptMode ? session.runPath : session.settingsPath);
   for (DialogInput& input : dialog.Inputs()) {
-    const std::string value = settings::ReadIniString(section, input.Key(), file);
+    const std::string value = file.ReadString(section, input.Key());
     if (value.empty()) continue;
     RestoreInput(dialog, input, value, frontEnd);
   }

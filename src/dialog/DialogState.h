@@ -3,6 +3,7 @@
 
 #include "core/FrontEnd.h"
 #include "core/ScriptSession.h"
+#include "platform/FileSystem.h"
 #include "dialog/DialogModel.h"
 
 namespace nomra::dialog {
@@ -26,7 +27,8 @@ std::string StoredValueOf(const DialogInput& input);
 // the delete marker and the file compacted, so the key of an input that has
 // become empty goes away. Throws nomra::RuntimeFault when the step counter
 // would pass 32767 or Main/Steps is no number.
-void StoreDialogState(const DialogModel& dialog, std::string_view name, int mode, const ScriptSession& session);
+void StoreDialogState(const DialogModel& dialog, std::string_view name, int mode, const ScriptSession& session,
+                      platform::FileSystem& fileSystem);
 
 // Sets the inputs from the section of the settings file (mode 1) or from
 // step `section` of the script being played (mode 2). A missing key leaves
@@ -34,6 +36,6 @@ void StoreDialogState(const DialogModel& dialog, std::string_view name, int mode
 // multi-selection list shows plain message boxes through `frontEnd`, as the
 // program always has.
 void RestoreDialogState(DialogModel& dialog, std::string_view section, int mode, const ScriptSession& session,
-                        FrontEnd& frontEnd);
+                        platform::FileSystem& fileSystem, FrontEnd& frontEnd);
 
 }  // namespace nomra::dialog

@@ -16,15 +16,15 @@ Message FileExistsQuestion(const Collision& collision) {
           kReplaceCaption,
           MessageStyle::YesNoCancelDefaultNo,
           {NameOf(collision.target), FolderOf(collision.target), FolderOf(collision.source),
-           text::FormatGrouped(collision.targetInfo.size), text::FormatListDate(collision.targetInfo.modified),
-           text::FormatGrouped(collision.sourceInfo.size), text::FormatListDate(collision.sourceInfo.modified),
+           text::FormatGrouped(collision.targetInfo.size), text::FormatListDate(collision.targetInfo.modified.value_or(0)),
+           text::FormatGrouped(collision.sourceInfo.size), text::FormatListDate(collision.sourceInfo.modified.value_or(0)),
            kLineBreak}};
 }
 
 }  // namespace
 
 CollisionChoice CollisionQuestions::Ask(const Collision& collision, bool moreFollow) {
-  const bool replaceable = collision.targetInfo.type != EntryType::Folder;
+  const bool replaceable = collision.targetInfo.kind != platform::EntryKind::Folder;
   if (forAll_ && (*forAll_ != CollisionChoice::Replace || replaceable)) return *forAll_;
   const CollisionChoice choice = AskOnce(collision, replaceable);
   if (choice == CollisionChoice::Stop || !moreFollow) return choice;

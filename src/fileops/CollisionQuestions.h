@@ -3,7 +3,7 @@
 #include <string>
 
 #include "core/FrontEnd.h"
-#include "fileops/OperationSystem.h"
+#include "platform/FileSystem.h"
 
 namespace nomra::fileops {
 
@@ -13,8 +13,8 @@ enum class CollisionChoice { Replace, KeepBoth, Skip, Stop };
 struct Collision {
   std::string source;
   std::string target;
-  EntryInfo sourceInfo;
-  EntryInfo targetInfo;
+  platform::FileStatus sourceInfo;
+  platform::FileStatus targetInfo;
   std::string keepBothTarget;  // the name the file gets beside the other
 };
 

@@ -2,7 +2,6 @@
 
 #include "fileops/MessageKeys.h"
 #include "fileops/OperationFailures.h"
-#include "fileops/Trash.h"
 
 namespace nomra::fileops {
 
@@ -26,7 +25,7 @@ Step Record(DeleteOutcome& outcome, int error) {
 }
 
 Step DeleteAtOnce(const std::string& path, std::size_t left, DeleteOutcome& outcome, OperationServices& services) {
-  const int error = services.system.RemoveFile(path);
+  const int error = services.fileSystem.RemoveFile(path);
   if (error == 0) return Step::Next;
   Record(outcome, error);
   services.frontEnd.Ask({kDeleteFailed, kAttentionCaption, MessageStyle::OkStop, {path, SystemText(error)}});
@@ -34,7 +33,7 @@ Step DeleteAtOnce(const std::string& path, std::size_t left, DeleteOutcome& outc
 }
 
 Step SendToTrash(const std::string& path, std::size_t left, DeleteOutcome& outcome, OperationServices& services) {
-  const int error = MoveToTrash(services.system, path, services.clock());
+  const int error = services.trash.MoveToTrash(path, services.clock());
   if (error == 0) return Step::Next;
   // Deleting for good instead is the user's choice, never ours.
   const Message offer{kTrashFailed, kAttentionCaption, MessageStyle::YesNoCancelDefaultNo,

@@ -4,16 +4,6 @@
 
 namespace nomra::fileops {
 
-std::string FolderOf(std::string_view path) {
-  const std::size_t separator = path.rfind(kPathSeparator);
-  return separator == std::string_view::npos ? std::string() : std::string(path.substr(0, separator + 1));
-}
-
-std::string NameOf(std::string_view path) {
-  const std::size_t separator = path.rfind(kPathSeparator);
-  return std::string(separator == std::string_view::npos ? path : path.substr(separator + 1));
-}
-
 std::string NumberedName(std::string_view target, int number) {
   const std::string folder = FolderOf(target);
   const std::string name = NameOf(target);

@@ -2,12 +2,10 @@
 #include <string>
 #include <string_view>
 
+#include "base/Paths.h"
+
 namespace nomra::fileops {
 
-// The folder of a path, ending with the separator; "" for a bare name.
-std::string FolderOf(std::string_view path);
-// The last part of a path.
-std::string NameOf(std::string_view path);
 // The first free name of the form "name (2).ext", "name (3).ext", ... in
 // the target's folder, as a file manager names a copy kept beside another.
 // `taken` says whether a path is in use.

@@ -2,7 +2,7 @@
 
 #include <cerrno>
 
-#include "fileops/FilePaths.h"
+#include "base/Paths.h"
 
 namespace nomra::fileops {
 
@@ -24,71 +24,78 @@ FileResult Failed(int error, const std::string& from, const std::string& to) {
 }
 
 // Copies into the first work-file name not in use; "" when stopped or failed.
-std::string CopyToWorkFile(OperationSystem& system, const std::string& from, const std::string& folder,
-                           const CopyTick& tick, bool durable, int& error) {
+std::string CopyToWorkFile(platform::FileSystem& fileSystem, const std::string& from, const std::string& folder,
+                           const platform::CopyTick& tick, bool durable, int& error) {
   for (int number = 1; number <= kMostWorkFiles; ++number) {
     const std::string work = folder + kWorkFilePrefix + std::to_string(number);
-    error = system.CopyFile(from, work, tick, durable);
+    error = fileSystem.CopyFile(from, work, tick, durable);
     if (error == 0) return work;
     if (error != EEXIST) {
       // The name was ours; whatever of the copy is left there goes.
-      system.RemoveFile(work);
+      fileSystem.RemoveFile(work);
       return {};
     }
   }
   return {};
 }
 
+// Without `replace`, a taken `to` fails with EEXIST.
+int Rename(platform::FileSystem& fileSystem, const std::string& from, const std::string& to, bool replace) {
+  if (replace) return fileSystem.RenameReplacing(from, to);
+  const platform::RenameResult renamed = fileSystem.RenameNoReplace(from, to);
+  return renamed.ok ? 0 : renamed.error;
+}
+
 }  // namespace
 
-std::optional<TransferFailure> EnsureFolder(OperationSystem& system, const std::string& folder) {
+std::optional<TransferFailure> EnsureFolder(platform::FileSystem& fileSystem, const std::string& folder) {
   std::string path = folder;
   while (path.size() > 1 && path.back() == '/') path.pop_back();
   // A relative path's first folder is the working folder, which exists.
   if (path.empty()) return std::nullopt;
-  const EntryInfo info = system.Inspect(path);
-  if (info.type == EntryType::Folder) return std::nullopt;
+  const platform::FileStatus info = fileSystem.Inspect(path);
+  if (info.kind == platform::EntryKind::Folder) return std::nullopt;
   TransferFailure failure;
   failure.target = folder;
-  if (info.type != EntryType::Missing) {
+  if (info.kind != platform::EntryKind::Missing) {
     failure.error = ENOTDIR;
     failure.notAFolder = path;
     return failure;
   }
-  if (auto above = EnsureFolder(system, FolderOf(path))) return above;
-  failure.error = system.MakeFolder(path, kFolderMode);
+  if (auto above = EnsureFolder(fileSystem, FolderOf(path))) return above;
+  failure.error = fileSystem.MakeFolder(path, kFolderMode);
   if (failure.error == 0 || failure.error == EEXIST) return std::nullopt;
   return failure;
 }
 
-FileResult PutFile(OperationSystem& system, const std::string& from, const std::string& to, const EntryInfo& source,
-                   bool move, bool replace, const CopyTick& tick) {
+FileResult PutFile(platform::FileSystem& fileSystem, const std::string& from, const std::string& to, const platform::FileStatus& source,
+                   bool move, bool replace, const platform::CopyTick& tick) {
   const std::string folder = FolderOf(to);
-  if (auto failure = EnsureFolder(system, folder)) {
+  if (auto failure = EnsureFolder(fileSystem, folder)) {
     failure->source = from;
     failure->target = to;
     return Failed(std::move(*failure));
   }
   if (move) {
-    const int error = system.Rename(from, to, replace);
+    const int error = Rename(fileSystem, from, to, replace);
     if (error == 0) return {true, false, std::nullopt};
     if (error != EXDEV) return Failed(error, from, to);
   }
   int error = 0;
-  const std::string work = CopyToWorkFile(system, from, folder, tick, move, error);
+  const std::string work = CopyToWorkFile(fileSystem, from, folder, tick, move, error);
   if (error == ECANCELED) return {false, true, std::nullopt};
   if (work.empty()) return Failed(error == 0 ? EEXIST : error, from, to);
-  if (system.Inspect(work).size != source.size) {
-    system.RemoveFile(work);
+  if (fileSystem.Inspect(work).size != source.size) {
+    fileSystem.RemoveFile(work);
     return Failed(EIO, from, to);
   }
-  error = system.Rename(work, to, replace);
+  error = Rename(fileSystem, work, to, replace);
   if (error != 0) {
-    system.RemoveFile(work);
+    fileSystem.RemoveFile(work);
     return Failed(error, from, to);
   }
   if (!move) return {true, false, std::nullopt};
-  error = system.RemoveFile(from);
+  error = fileSystem.RemoveFile(from);
   if (error == 0) return {true, false, std::nullopt};
   FileResult kept = Failed(error, from, to);
   kept.done = true;

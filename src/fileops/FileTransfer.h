@@ -3,7 +3,7 @@
 #include <string>
 
 #include "fileops/OperationFailures.h"
-#include "fileops/OperationSystem.h"
+#include "platform/FileSystem.h"
 
 namespace nomra::fileops {
 
@@ -16,7 +16,7 @@ struct FileResult {
 
 // Makes every missing folder of a path, from the left. A file standing
 // where a folder should be fails with ENOTDIR and is named in the failure.
-std::optional<TransferFailure> EnsureFolder(OperationSystem& system, const std::string& folder);
+std::optional<TransferFailure> EnsureFolder(platform::FileSystem& fileSystem, const std::string& folder);
 
 // Puts one file at its target, copying or moving. The bytes go to a hidden
 // work file beside the target first, and take the target's name only when
@@ -25,7 +25,7 @@ std::optional<TransferFailure> EnsureFolder(OperationSystem& system, const std::
 // source. A move within one volume is a rename; across volumes it is such
 // a copy, and the source goes only after it. With `replace` the file there
 // is replaced, which the caller may do only on the user's word.
-FileResult PutFile(OperationSystem& system, const std::string& from, const std::string& to, const EntryInfo& source,
-                   bool move, bool replace, const CopyTick& tick);
+FileResult PutFile(platform::FileSystem& fileSystem, const std::string& from, const std::string& to, const platform::FileStatus& source,
+                   bool move, bool replace, const platform::CopyTick& tick);
 
 }  // namespace nomra::fileops

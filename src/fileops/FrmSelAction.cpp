@@ -74,7 +74,7 @@ FrmSelAction::FrmSelAction(std::string tag) : tag_(std::move(tag)), mode_(ModeOf
 }
 
 void FrmSelAction::Activate(MainModel& model) {
-  dialog::RestoreDialogState(model_, tag_, dialog::kSettingsMode, model.script, model.frontEnd);
+  dialog::RestoreDialogState(model_, tag_, dialog::kSettingsMode, model.script, model.fileSystem, model.frontEnd);
   if (mode_ == SelActionMode::MoveFiles) model_.SetNumber(kUpdateList, 1);
   txtTargetPath_Change(model.fileSystem);
 }
@@ -96,7 +96,7 @@ bool FrmSelAction::cmdOK(MainModel& model, OperationServices& services) {
                                                          : CopyOrMoveSelected(model, services);
   if (!done) return false;
   refreshPreview(model);
-  dialog::StoreDialogState(model_, tag_, dialog::kSettingsMode, model.script);
+  dialog::StoreDialogState(model_, tag_, dialog::kSettingsMode, model.script, model.fileSystem);
   return true;
 }
 

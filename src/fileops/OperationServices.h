@@ -2,15 +2,17 @@
 #include "base/LocalClock.h"
 #include "core/FrontEnd.h"
 #include "fileops/OperationProgress.h"
-#include "fileops/OperationSystem.h"
+#include "platform/FileSystem.h"
+#include "platform/Trash.h"
 
 namespace nomra::fileops {
 
-// What a copy, move or deletion needs from outside: the system calls, the
-// user for questions and messages, the progress, and the clock that dates
-// what goes to the trash.
+// What a copy, move or deletion needs from outside: the file system and the
+// desktop's trash, the user for questions and messages, the progress, and
+// the clock that dates what goes to the trash.
 struct OperationServices {
-  OperationSystem& system;
+  platform::FileSystem& fileSystem;
+  platform::Trash& trash;
   FrontEnd& frontEnd;
   OperationProgress& progress;
   LocalClock clock = LocalTimeNow;

@@ -15,16 +15,16 @@ namespace {
 
 bool HoldsWildcard(std::string_view path) { return NameOf(path).find_first_of("*?") != std::string::npos; }
 
-void AddMatches(const std::string& pattern, OperationSystem& system, std::vector<std::string>& sources) {
+void AddMatches(const std::string& pattern, platform::FileSystem& fileSystem, std::vector<std::string>& sources) {
   const std::string folder = FolderOf(pattern);
   const std::string name = NameOf(pattern);
   std::vector<std::string> matches;
-  system.ListFolder(folder, [&](std::string_view entry) {
+  fileSystem.ListFolder(folder, [&](std::string_view entry, platform::EntryKind) {
     if (text::MatchesWildcard(entry, name)) matches.push_back(folder + std::string(entry));
   });
   std::sort(matches.begin(), matches.end());
   for (std::string& match : matches) {
-    if (system.Inspect(match).type == EntryType::File) sources.push_back(std::move(match));
+    if (fileSystem.Inspect(match).kind == platform::EntryKind::File) sources.push_back(std::move(match));
   }
 }
 
@@ -38,9 +38,9 @@ std::string JoinLines(const std::vector<TransferPair>& pairs, std::string Transf
 }
 
 int RunTransfer(ShellOperation& record, OperationServices& services) {
-  const std::vector<std::string> sources = ExpandSources(record.pFrom, services.system);
+  const std::vector<std::string> sources = ExpandSources(record.pFrom, services.fileSystem);
   const bool multiple = (record.fFlags & FOF_MULTIDESTFILES) != 0;
-  const auto pairs = PairTargets(sources, record.pTo, multiple, services.system);
+  const auto pairs = PairTargets(sources, record.pTo, multiple, services.fileSystem);
   const OperationKind kind = record.wFunc == FO_MOVE ? OperationKind::Move : OperationKind::Copy;
   const bool renameOnCollision = (record.fFlags & FOF_RENAMEONCOLLISION) != 0;
   TransferOutcome outcome = TransferFiles(kind, pairs, renameOnCollision, services);
@@ -69,11 +69,11 @@ std::uint16_t DeleteFlags(bool toRecycleBin, bool confirm) {
   return flags;
 }
 
-std::vector<std::string> ExpandSources(std::string_view list, OperationSystem& system) {
+std::vector<std::string> ExpandSources(std::string_view list, platform::FileSystem& fileSystem) {
   std::vector<std::string> sources;
   for (std::string& path : SplitPathList(list)) {
     if (HoldsWildcard(path)) {
-      AddMatches(path, system, sources);
+      AddMatches(path, fileSystem, sources);
     } else {
       sources.push_back(std::move(path));
     }
@@ -82,7 +82,7 @@ std::vector<std::string> ExpandSources(std::string_view list, OperationSystem& s
 }
 
 std::vector<TransferPair> PairTargets(const std::vector<std::string>& sources, std::string_view targets,
-                                      bool multipleTargets, OperationSystem& system) {
+                                      bool multipleTargets, platform::FileSystem& fileSystem) {
   const std::vector<std::string> targetPaths = SplitPathList(targets);
   std::vector<TransferPair> pairs;
   if (targetPaths.empty()) return pairs;
@@ -92,7 +92,7 @@ std::vector<TransferPair> PairTargets(const std::vector<std::string>& sources, s
     return pairs;
   }
   const std::string& target = targetPaths.front();
-  const bool intoFolder = sources.size() > 1 || system.Inspect(target).type == EntryType::Folder;
+  const bool intoFolder = sources.size() > 1 || fileSystem.Inspect(target).kind == platform::EntryKind::Folder;
   for (const std::string& source : sources) {
     pairs.push_back({source, intoFolder ? AddBackslash(target) + NameOf(source) : target});
   }
@@ -118,7 +118,7 @@ int RunShellOperation(ShellOperation& record, OperationServices& services) {
     case FO_DELETE: {
       const bool toTrash = (record.fFlags & FOF_ALLOWUNDO) != 0;
       const bool confirm = (record.fFlags & FOF_NOCONFIRMATION) == 0;
-      const DeleteOutcome outcome = DeleteFiles(ExpandSources(record.pFrom, services.system), toTrash, confirm,
+      const DeleteOutcome outcome = DeleteFiles(ExpandSources(record.pFrom, services.fileSystem), toTrash, confirm,
                                                 services);
       record.fAnyOperationsAborted = outcome.aborted;
       return outcome.result;

@@ -46,14 +46,14 @@ std::uint16_t DeleteFlags(bool toRecycleBin, bool confirm);
 
 // The sources of a list, each wildcard ("*", "?" in the last part) replaced
 // by the files of its folder that it matches, in name order.
-std::vector<std::string> ExpandSources(std::string_view list, OperationSystem& system);
+std::vector<std::string> ExpandSources(std::string_view list, platform::FileSystem& fileSystem);
 
 // Pairs each source with its target: with FOF_MULTIDESTFILES the targets in
 // order; otherwise the one target is a folder that takes all sources under
 // their names, unless it isn't an existing folder and there is one source,
 // which then takes it as its new path.
 std::vector<TransferPair> PairTargets(const std::vector<std::string>& sources, std::string_view targets,
-                                      bool multipleTargets, OperationSystem& system);
+                                      bool multipleTargets, platform::FileSystem& fileSystem);
 
 // The record of a copy (FO_COPY) or move (FO_MOVE) between two path lists.
 ShellOperation TransferRecord(std::uint32_t function, std::string sources, std::string targets,

@@ -10,7 +10,7 @@ namespace nomra::fileops {
 
 namespace {
 
-bool SameFile(const EntryInfo& a, const EntryInfo& b) { return a.device == b.device && a.inode == b.inode; }
+bool SameFile(const platform::FileStatus& a, const platform::FileStatus& b) { return a.device == b.device && a.inode == b.inode; }
 
 // One run over the pairs, with what it needs to know across files.
 class TransferRun {
@@ -30,7 +30,7 @@ class TransferRun {
   bool Fail(std::size_t index, TransferFailure failure);
   std::string KeepBothTarget(const std::string& target) {
     return KeepBothName(target, [this](const std::string& path) {
-      return services_.system.Inspect(path).type != EntryType::Missing;
+      return services_.fileSystem.Inspect(path).kind != platform::EntryKind::Missing;
     });
   }
 
@@ -39,7 +39,7 @@ class TransferRun {
   bool renameOnCollision_;
   OperationServices& services_;
   CollisionQuestions questions_;
-  std::vector<EntryInfo> sources_;
+  std::vector<platform::FileStatus> sources_;
   std::vector<bool> takenAtStart_;
   int collisionsLeft_ = 0;
   ProgressStep step_;
@@ -52,10 +52,10 @@ TransferOutcome TransferRun::Run() {
   step_.kind = kind_;
   step_.count = static_cast<int>(count);
   for (const TransferPair& pair : pairs_) {
-    sources_.push_back(services_.system.Inspect(pair.from));
+    sources_.push_back(services_.fileSystem.Inspect(pair.from));
     step_.bytesTotal += sources_.back().size;
     // Counted ahead, so that "the same for all" is asked only where more follow.
-    takenAtStart_.push_back(services_.system.Inspect(pair.to).type != EntryType::Missing);
+    takenAtStart_.push_back(services_.fileSystem.Inspect(pair.to).kind != platform::EntryKind::Missing);
     if (takenAtStart_.back()) ++collisionsLeft_;
   }
   services_.progress.Begin(kind_, step_.count, step_.bytesTotal);
@@ -75,11 +75,11 @@ TransferOutcome TransferRun::Run() {
 
 bool TransferRun::Handle(std::size_t index) {
   const TransferPair& pair = pairs_[index];
-  const EntryInfo& source = sources_[index];
-  if (source.type != EntryType::File) {
+  const platform::FileStatus& source = sources_[index];
+  if (source.kind != platform::EntryKind::File) {
     TransferFailure failure;
-    failure.error = source.type == EntryType::Missing ? ENOENT : EISDIR;
-    failure.sourceMissing = source.type == EntryType::Missing;
+    failure.error = source.kind == platform::EntryKind::Missing ? ENOENT : EISDIR;
+    failure.sourceMissing = source.kind == platform::EntryKind::Missing;
     failure.source = pair.from;
     failure.target = pair.to;
     return Fail(index, std::move(failure));
@@ -89,11 +89,11 @@ bool TransferRun::Handle(std::size_t index) {
   if (!ChooseTarget(index, target, replace)) return false;
   if (target.empty()) return true;
   const std::uint64_t before = step_.bytesDone;
-  const CopyTick tick = [this, before](std::uint64_t copied) {
+  const platform::CopyTick tick = [this, before](std::uint64_t copied) {
     step_.bytesDone = before + copied;
     return services_.progress.Report(step_);
   };
-  FileResult result = PutFile(services_.system, pair.from, target, source, kind_ == OperationKind::Move, replace, tick);
+  FileResult result = PutFile(services_.fileSystem, pair.from, target, source, kind_ == OperationKind::Move, replace, tick);
   step_.bytesDone = before;
   if (result.stopped) return false;
   if (result.done) {
@@ -105,9 +105,9 @@ bool TransferRun::Handle(std::size_t index) {
 }
 
 bool TransferRun::ChooseTarget(std::size_t index, std::string& target, bool& replace) {
-  const EntryInfo& source = sources_[index];
-  const EntryInfo there = services_.system.Inspect(target);
-  if (there.type == EntryType::Missing) return true;
+  const platform::FileStatus& source = sources_[index];
+  const platform::FileStatus there = services_.fileSystem.Inspect(target);
+  if (there.kind == platform::EntryKind::Missing) return true;
   if (SameFile(source, there)) {
     // A file can't be replaced by itself; a copy of it goes beside it.
     if (kind_ == OperationKind::Move) {

@@ -8,7 +8,6 @@
 #include "base/Helpers.h"
 #include "base/Utf8.h"
 #include "commit/RenameFailure.h"
-#include "settings/FileBytes.h"
 #include "settings/SettingsKeys.h"
 
 namespace nomra::history {
@@ -57,11 +56,11 @@ std::optional<HistoryRow> ReadHistoryLine(std::string_view line, platform::FileS
 void LoadHistory(HistoryList& list, const std::string& dataFolder, platform::FileSystem& fileSystem) {
   list.rows.clear();
   const std::string path = HistoryFilePath(dataFolder);
-  if (!settings::PathExists(path)) return;
-  errno = 0;
-  const std::optional<std::string> content = settings::ReadFileBytes(path);
+  if (fileSystem.Inspect(path).kind == platform::EntryKind::Missing) return;
+  int error = 0;
+  const std::optional<std::string> content = fileSystem.ReadFile(path, error);
   if (!content) {
-    const std::string reason = errno != 0 ? std::strerror(errno) : "not a readable file";
+    const std::string reason = error != 0 ? std::strerror(error) : "not a readable file";
     throw RuntimeFault("the rename history " + path + " could not be read: " + reason);
   }
   std::string_view text = *content;

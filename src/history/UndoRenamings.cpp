@@ -66,14 +66,14 @@ UndoOutcome UndoRenamings(HistoryList& list, const HistoryServices& services) {
     kept.push_back(std::move(row));
   }
   list.rows = std::move(kept);
-  writeHistoryData(list, services.dataFolder);
+  writeHistoryData(list, services.dataFolder, services.fileSystem);
   return outcome;
 }
 
 bool cmdDeleteHistory(HistoryList& list, const HistoryServices& services) {
   if (!Confirmed(services.frontEnd, kDeleteQuestion)) return false;
   list.rows.clear();
-  writeHistoryData(list, services.dataFolder);
+  writeHistoryData(list, services.dataFolder, services.fileSystem);
   return true;
 }
 

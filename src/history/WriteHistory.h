@@ -2,6 +2,7 @@
 #include <string>
 
 #include "history/HistoryList.h"
+#include "platform/FileSystem.h"
 
 namespace nomra::history {
 
@@ -11,6 +12,6 @@ namespace nomra::history {
 // which then takes the place of the protocol in one step: a full disk or a
 // folder that can't be written leaves the old protocol as it was, and no
 // "renamed.tmp" behind. That failure throws RuntimeFault.
-void writeHistoryData(const HistoryList& list, const std::string& dataFolder);
+void writeHistoryData(const HistoryList& list, const std::string& dataFolder, platform::FileSystem& fileSystem);
 
 }  // namespace nomra::history

@@ -1,67 +1,56 @@
 #include "lang/ChooseLanguage.h"
 
-#include <filesystem>
-#include <system_error>
-
 #include "base/CaseMap.h"
 #include "base/Helpers.h"
 #include "lang/MessageCatalog.h"
-#include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
 
 namespace nomra::lang {
 
 namespace {
 
-namespace fs = std::filesystem;
-
-bool HasLanguageEnding(const std::string& name) {
+bool HasLanguageEnding(std::string_view name) {
   const std::string_view ending = settings::kLanguageFileEnding;
   // A file named only ".lng" still matches "*.lng", as on Windows.
   return name.size() >= ending.size() &&
-         text::EqualsNoCase(std::string_view(name).substr(name.size() - ending.size()), ending);
+         text::EqualsNoCase(name.substr(name.size() - ending.size()), ending);
 }
 
-void Take(LanguageChoice& choice, const std::string& path) {
+void Take(platform::FileSystem& fileSystem, LanguageChoice& choice, const std::string& path) {
   choice.outcome = LanguageOutcome::Chosen;
   choice.file = path;
-  choice.charset = MessageCatalog(path).Charset();
+  choice.charset = MessageCatalog(fileSystem, path).Charset();
 }
 
 }  // namespace
 
-std::vector<LanguageFile> ListLanguageFiles(const std::string& appFolder) {
+std::vector<LanguageFile> ListLanguageFiles(platform::FileSystem& fileSystem, const std::string& appFolder) {
   std::vector<LanguageFile> files;
-  std::error_code error;
-  fs::directory_iterator it(appFolder, error);
-  if (error) return files;
-  for (; it != fs::directory_iterator(); it.increment(error)) {
-    if (error) break;
-    const std::string name = it->path().filename().string();
-    std::error_code typeError;
-    if (!HasLanguageEnding(name) || !it->is_regular_file(typeError)) continue;
-    const std::string path = AddBackslash(appFolder) + name;
-    files.push_back(LanguageFile{path, MessageCatalog(path).LanguageName()});
-  }
+  fileSystem.ListFolder(appFolder, [&](std::string_view name, platform::EntryKind kind) {
+    if (!HasLanguageEnding(name) || kind != platform::EntryKind::File) return;
+    const std::string path = AddBackslash(appFolder) + std::string(name);
+    files.push_back(LanguageFile{path, MessageCatalog(fileSystem, path).LanguageName()});
+  });
   return files;
 }
 
-LanguageChoice ChooseLanguage(const std::string& appFolder, const std::string& settingsFile) {
+LanguageChoice ChooseLanguage(const std::string& appFolder, const formats::IniFile& settingsFile) {
+  platform::FileSystem& fileSystem = settingsFile.Files();
   LanguageChoice choice;
-  choice.candidates = ListLanguageFiles(appFolder);
+  choice.candidates = ListLanguageFiles(fileSystem, appFolder);
   if (choice.candidates.empty()) return choice;
   if (choice.candidates.size() == 1) {
-    Take(choice, choice.candidates.front().path);
+    Take(fileSystem, choice, choice.candidates.front().path);
     return choice;
   }
 
-  const std::string wanted = settings::ReadIniString(settings::kSettingsSection, settings::kLanguageKey, settingsFile);
+  const std::string wanted = settingsFile.ReadString(settings::kSettingsSection, settings::kLanguageKey);
   // Without a setting (a first start) the user chooses, even when a file
   // lacks a language name and would "equal" the empty text.
   if (!wanted.empty()) {
     for (const auto& candidate : choice.candidates) {
       if (text::EqualsNoCase(candidate.languageName, wanted)) {
-        Take(choice, candidate.path);
+        Take(fileSystem, choice, candidate.path);
         return choice;
       }
     }

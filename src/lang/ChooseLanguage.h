@@ -3,6 +3,9 @@
 #include <string_view>
 #include <vector>
 
+#include "formats/IniFile.h"
+#include "platform/FileSystem.h"
+
 namespace nomra::lang {
 
 enum class LanguageOutcome {
@@ -26,11 +29,11 @@ struct LanguageChoice {
 // Picks the language file at start: the only one there is, or the one whose
 // language name equals the setting "lng" (section "Settings"), ignoring
 // case. With one file the setting isn't read at all.
-LanguageChoice ChooseLanguage(const std::string& appFolder, const std::string& settingsFile);
+LanguageChoice ChooseLanguage(const std::string& appFolder, const formats::IniFile& settingsFile);
 
 // Every "*.lng" file of the folder (the ending compared without case), in
 // the order the folder lists them, with its language name.
-std::vector<LanguageFile> ListLanguageFiles(const std::string& appFolder);
+std::vector<LanguageFile> ListLanguageFiles(platform::FileSystem& fileSystem, const std::string& appFolder);
 
 // The one text the program holds of its own, in German and English.
 inline constexpr char kNoLanguageFilesCaption[] = "Fehler/Error";

@@ -3,6 +3,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/FileSystem.h"
+
 namespace nomra::lang {
 
 // The texts of one language file, read once: a language file doesn't change
@@ -16,7 +18,7 @@ class MessageCatalog {
   MessageCatalog() = default;
   // A file that can't be read gives a catalog in which every text is "".
   // A file that is not valid UTF-8 is read as Windows-1252.
-  explicit MessageCatalog(const std::string& languageFile);
+  MessageCatalog(platform::FileSystem& fileSystem, const std::string& languageFile);
 
   // The text, with "%1", "%2", ... filled from `arguments` in order; an empty
   // list fills nothing, so "%1" then stays as it is.

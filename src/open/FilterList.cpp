@@ -1,16 +1,16 @@
 #include "open/FilterList.h"
 
 #include "base/Wildcard.h"
-#include "settings/IniFile.h"
+#include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"
 
 namespace nomra::open {
 
-std::vector<FilterRow> BuildFilterList(const std::string& settingsFile, std::string_view allFilesText) {
+std::vector<FilterRow> BuildFilterList(const formats::IniFile& settingsFile, std::string_view allFilesText) {
   std::vector<FilterRow> rows{{std::string(allFilesText), "*.*"}};
   for (int number = 1;; ++number) {
     const std::string key = settings::kFilterKeyPrefix + std::to_string(number);
-    const std::string value = settings::ReadIniString(settings::kFilterSection, key, settingsFile);
+    const std::string value = settingsFile.ReadString(settings::kFilterSection, key);
     const std::size_t bar = value.find('|');
     if (bar == std::string::npos) break;  // an empty key holds no "|" either
 

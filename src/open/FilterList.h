@@ -3,6 +3,8 @@
 #include <string_view>
 #include <vector>
 
+#include "formats/IniFile.h"
+
 namespace nomra::open {
 
 // A row of the filter list of the system open dialog.
@@ -18,7 +20,7 @@ struct FilterRow {
 // text is the value with every "|" replaced by " (" and ")" appended, and
 // whose pattern is what follows the first "|". The list ends at the first
 // key that is empty or holds no "|".
-std::vector<FilterRow> BuildFilterList(const std::string& settingsFile, std::string_view allFilesText);
+std::vector<FilterRow> BuildFilterList(const formats::IniFile& settingsFile, std::string_view allFilesText);
 
 // The filter string of the system dialog: text, "|", pattern of each row,
 // rows joined by "|".

@@ -1,16 +1,12 @@
 #include "open/OpenCommand.h"
 
-#include <cstdlib>
-#include <filesystem>
-#include <system_error>
-
 #include "base/Fault.h"
 #include "base/Helpers.h"
 #include "core/AddFile.h"
 #include "core/RefreshPreview.h"
 #include "core/BusyPointer.h"
 #include "open/FolderWalk.h"
-#include "settings/IniFile.h"
+#include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"
 
 namespace nomra::open {
@@ -81,7 +77,7 @@ bool AddAllFiles(MainModel& model, const std::string& folder, const OpenChoice& 
 }  // namespace
 
 LoadOutcome RunOpenChoice(MainModel& model, const OpenChoice& choice, const std::vector<FilterRow>& filters,
-                          const std::string& settingsFile, bool showHiddenFiles) {
+                          const formats::IniFile& settingsFile, bool showHiddenFiles) {
   if (choice.paths.empty()) return LoadOutcome::Finished;  // nothing chosen is a dialog cancelled
   BusyPointer busy(model.frontEnd);
 
@@ -102,17 +98,15 @@ LoadOutcome RunOpenChoice(MainModel& model, const OpenChoice& choice, const std:
   }
 
   refreshPreview(model);
-  settings::WriteIni(settings::kSettingsSection, settings::kLastPathKey, lastPath, settingsFile);
-  settings::WriteIni(settings::kSettingsSection, settings::kLastFilterKey, choice.filterIndex, settingsFile);
+  settingsFile.Write(settings::kSettingsSection, settings::kLastPathKey, lastPath);
+  settingsFile.Write(settings::kSettingsSection, settings::kLastFilterKey, choice.filterIndex);
   return LoadOutcome::Finished;
 }
 
-std::string InitialFolder(const std::string& settingsFile) {
-  const std::string lastPath = settings::ReadIniString(settings::kSettingsSection, settings::kLastPathKey, settingsFile);
-  std::error_code error;
-  if (!lastPath.empty() && std::filesystem::is_directory(lastPath, error)) return lastPath;
-  const char* home = std::getenv("HOME");
-  return AddBackslash(home != nullptr && *home != '\0' ? home : "/");
+std::string InitialFolder(const formats::IniFile& settingsFile, const std::string& homeFolder) {
+  const std::string lastPath = settingsFile.ReadString(settings::kSettingsSection, settings::kLastPathKey);
+  if (!lastPath.empty() && settingsFile.Files().Status(lastPath).kind == platform::EntryKind::Folder) return lastPath;
+  return AddBackslash(homeFolder.empty() ? "/" : homeFolder);
 }
 
 }  // namespace nomra::open

@@ -2,6 +2,8 @@
 #include <string>
 #include <vector>
 
+#include "formats/IniFile.h"
+
 #include "core/MainModel.h"
 #include "open/FilterList.h"
 #include "open/Playlist.h"
@@ -40,10 +42,10 @@ struct OpenChoice {
 // neither file nor folder while CheckExistence is off ends the command with
 // AddFile's RuntimeFault, after the refresh. No path at all changes nothing.
 LoadOutcome RunOpenChoice(MainModel& model, const OpenChoice& choice, const std::vector<FilterRow>& filters,
-                          const std::string& settingsFile, bool showHiddenFiles);
+                          const formats::IniFile& settingsFile, bool showHiddenFiles);
 
 // Where the dialogs open next: "lastpath", or the home folder when it is
-// missing or gone.
-std::string InitialFolder(const std::string& settingsFile);
+// missing or gone (the root when there is no home folder).
+std::string InitialFolder(const formats::IniFile& settingsFile, const std::string& homeFolder);
 
 }  // namespace nomra::open

@@ -9,8 +9,7 @@
 #include "base/Utf8.h"
 #include "core/AddFile.h"
 #include "core/RefreshPreview.h"
-#include "settings/FileBytes.h"
-#include "settings/IniLines.h"
+#include "formats/IniLines.h"
 
 namespace nomra::open {
 
@@ -59,7 +58,7 @@ std::string EntryOf(const std::string& line, PlaylistKind kind) {
 std::optional<std::vector<std::string>> ReadEntries(const std::string& playlistPath,
                                                     platform::FileSystem& fileSystem) {
   if (fileSystem.Status(playlistPath).kind != platform::EntryKind::File) return std::nullopt;
-  const auto bytes = settings::ReadFileBytes(playlistPath);
+  const auto bytes = fileSystem.ReadFile(playlistPath);
   if (!bytes) return std::nullopt;
 
   const PlaylistKind kind = KindOf(playlistPath);
@@ -67,7 +66,7 @@ std::optional<std::vector<std::string>> ReadEntries(const std::string& playlistP
   const std::string folder = absolute.substr(0, absolute.rfind(kPathSeparator) + 1);
 
   std::vector<std::string> entries;
-  for (const std::string& line : settings::SplitLines(text::DecodeTextFile(*bytes))) {
+  for (const std::string& line : formats::SplitLines(text::DecodeTextFile(*bytes))) {
     std::string entry = EntryOf(line, kind);
     // No file name holds a NUL, and the system calls would read the path
     // only up to it: "\0x" in the playlist's folder would be the folder

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/Wildcard.h"
-#include "settings/IniFile.h"
+#include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"
 
 namespace nomra::open {
@@ -22,10 +22,10 @@ bool AnyChecked(const std::vector<PowerFilter>& filters) {
 
 }  // namespace
 
-std::vector<PowerFilter> ReadPowerFilters(const std::string& settingsFile) {
+std::vector<PowerFilter> ReadPowerFilters(const formats::IniFile& settingsFile) {
   std::vector<PowerFilter> filters;
   for (std::size_t number = 1;; ++number) {
-    const std::string value = settings::ReadIniString(settings::kPowerFilterSection, KeyOf(number), settingsFile);
+    const std::string value = settingsFile.ReadString(settings::kPowerFilterSection, KeyOf(number));
     if (value.empty()) break;
     filters.push_back({value.front() == '1', value.substr(1)});
   }
@@ -33,15 +33,14 @@ std::vector<PowerFilter> ReadPowerFilters(const std::string& settingsFile) {
   return filters;
 }
 
-void WritePowerFilters(const std::vector<PowerFilter>& filters, const std::string& settingsFile) {
+void WritePowerFilters(const std::vector<PowerFilter>& filters, const formats::IniFile& settingsFile) {
   std::size_t number = 1;
   for (const PowerFilter& filter : filters) {
-    settings::WriteIni(settings::kPowerFilterSection, KeyOf(number++), (filter.checked ? "1" : "0") + filter.pattern,
-                       settingsFile);
+    settingsFile.Write(settings::kPowerFilterSection, KeyOf(number++), (filter.checked ? "1" : "0") + filter.pattern);
   }
   // Keys of a longer list written before stay behind the empty one, where
   // nothing reads them.
-  settings::WriteIni(settings::kPowerFilterSection, KeyOf(number), std::string_view(), settingsFile);
+  settingsFile.Write(settings::kPowerFilterSection, KeyOf(number), std::string_view());
 }
 
 void SetFilterChecked(std::vector<PowerFilter>& filters, int index, bool checked) {

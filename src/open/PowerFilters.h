@@ -3,6 +3,8 @@
 #include <string_view>
 #include <vector>
 
+#include "formats/IniFile.h"
+
 namespace nomra::open {
 
 // One entry of the filter check list of Nomra's own open dialog.
@@ -16,11 +18,11 @@ struct PowerFilter {
 // Section "PowerFilter": f1, f2, ... each "1" or "0" and the pattern; the
 // list ends at the first empty key. With no entries at all the list is the
 // one entry "*.*", checked.
-std::vector<PowerFilter> ReadPowerFilters(const std::string& settingsFile);
+std::vector<PowerFilter> ReadPowerFilters(const formats::IniFile& settingsFile);
 
 // Rewrites f1, f2, ... and writes an empty key after the last, which closes
 // the list.
-void WritePowerFilters(const std::vector<PowerFilter>& filters, const std::string& settingsFile);
+void WritePowerFilters(const std::vector<PowerFilter>& filters, const formats::IniFile& settingsFile);
 
 // A click on the check of entry `index` (0-based). Entry 0 is "*.*" and
 // excludes the others: checking it clears all others, checking another

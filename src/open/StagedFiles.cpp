@@ -7,14 +7,8 @@
 #include "core/BusyPointer.h"
 #include "open/FolderWalk.h"
 #include "open/PowerFilters.h"
-#include "platform/posix/PosixFileSystem.h"
 
 namespace nomra::open {
-
-std::vector<std::string> StageFiles(const FolderSelection& selection) {
-  platform::PosixFileSystem fileSystem;
-  return StageFiles(selection, fileSystem);
-}
 
 std::vector<std::string> StageFiles(const FolderSelection& selection, platform::FileSystem& fileSystem) {
   const std::string shown = AddBackslash(selection.folder);

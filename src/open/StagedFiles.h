@@ -19,16 +19,13 @@ struct FolderSelection {
   bool showHiddenFiles = false;
 };
 
-// The staging list: the selected files (or every listed file with
+// The staging list, the folders read through `fileSystem`: the selected files (or every listed file with
 // allFiles), then, when subfolders are wanted or folders are selected, the
 // files under the pattern of every folder of the walk, breadth first: a
 // selected folder is always taken with its whole tree. Unreadable folders
 // are passed over; a file of the walk is staged when it passes any of the
 // pattern's ";"-separated patterns and isn't hidden (a name beginning with
 // ".") unless showHiddenFiles is on.
-std::vector<std::string> StageFiles(const FolderSelection& selection);
-
-// The same, the folders read through `fileSystem`.
 std::vector<std::string> StageFiles(const FolderSelection& selection, platform::FileSystem& fileSystem);
 
 // Adds every staged path through AddFile with the cancel flag tested after

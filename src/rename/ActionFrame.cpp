@@ -9,13 +9,12 @@ namespace {
 void RestoreInputs(ActionDialog& dialog, MainModel& model) {
   const ScriptSession& session = model.script;
   if (session.runMode == 1 || session.runMode == 2) {
-    dialog::RestoreDialogState(dialog.Model(), std::to_string(session.runStep), dialog::kScriptMode, session,
-                               model.frontEnd);
+    dialog::RestoreDialogState(dialog.Model(), std::to_string(session.runStep), dialog::kScriptMode, session, model.fileSystem, model.frontEnd);
     return;
   }
   const std::string& section = dialog.Traits().restoreSection;
   if (session.runMode == 0 && session.saveDialogSettings && !section.empty()) {
-    dialog::RestoreDialogState(dialog.Model(), section, dialog::kSettingsMode, session, model.frontEnd);
+    dialog::RestoreDialogState(dialog.Model(), section, dialog::kSettingsMode, session, model.fileSystem, model.frontEnd);
   }
 }
 
@@ -37,10 +36,10 @@ bool ApplyActionDialog(ActionDialog& dialog, MainModel& model) {
   const ActionTraits& traits = dialog.Traits();
   const ScriptSession& session = model.script;
   if (session.saveDialogSettings && session.runMode == 0 && !traits.storeSection.empty()) {
-    dialog::StoreDialogState(dialog.Model(), traits.storeSection, dialog::kSettingsMode, session);
+    dialog::StoreDialogState(dialog.Model(), traits.storeSection, dialog::kSettingsMode, session, model.fileSystem);
   }
   if (session.recording == 1 && traits.stepType != 0) {
-    dialog::StoreDialogState(dialog.Model(), std::to_string(traits.stepType), dialog::kScriptMode, session);
+    dialog::StoreDialogState(dialog.Model(), std::to_string(traits.stepType), dialog::kScriptMode, session, model.fileSystem);
   }
   dialog.Run(model);
   return true;

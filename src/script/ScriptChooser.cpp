@@ -1,6 +1,5 @@
 #include "script/ScriptChooser.h"
 
-#include <filesystem>
 #include <system_error>
 
 #include "dialog/DialogState.h"
@@ -18,12 +17,10 @@ constexpr char kChooserSection[] = "frmScript";
 constexpr char kRunOptions[] = "fraOptRun";
 
 // Read-only files go too: the folder's permission is what a removal needs,
-// and the write bits are given back first in case the volume wants them.
-void RemoveScriptFile(const std::string& path) {
-  std::error_code ignored;
-  std::filesystem::permissions(path, std::filesystem::perms::owner_write, std::filesystem::perm_options::add,
-                               ignored);
-  std::filesystem::remove(path, ignored);
+// and the write bit is given back first in case the volume wants it.
+void RemoveScriptFile(platform::FileSystem& fileSystem, const std::string& path) {
+  fileSystem.SetReadOnly(path, false);
+  fileSystem.RemoveFile(path);
 }
 
 }  // namespace
@@ -60,7 +57,7 @@ bool ScriptChooser::Start() {
     DeleteChosen(row);
     return false;
   }
-  dialog::StoreDialogState(dialog_, kChooserSection, dialog::kSettingsMode, model_.script);
+  dialog::StoreDialogState(dialog_, kChooserSection, dialog::kSettingsMode, model_.script, model_.fileSystem);
   model_.script.runMode = dialog_.IsSelected(kRunSingleSteps) ? 2 : 1;
   model_.script.runPath = ScriptFolder(model_.script.dataFolder) + fileNames_[row];
   return true;
@@ -73,7 +70,7 @@ void ScriptChooser::DeleteChosen(int row) {
   const Answer answer =
       model_.frontEnd.Ask({"msgDeleteScript", "msgCapAttention", MessageStyle::YesNoDefaultNo, {list.rows[row]}});
   if (answer != Answer::Yes) return;
-  RemoveScriptFile(ScriptFolder(model_.script.dataFolder) + fileNames_[row]);
+  RemoveScriptFile(model_.fileSystem, ScriptFolder(model_.script.dataFolder) + fileNames_[row]);
   list.rows.erase(list.rows.begin() + row);
   fileNames_.erase(fileNames_.begin() + row);
   list.number = -1;

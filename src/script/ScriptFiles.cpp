@@ -1,18 +1,14 @@
 #include "script/ScriptFiles.h"
 
 #include "base/CaseMap.h"
+#include "base/DateText.h"
 #include "base/Helpers.h"
 #include "base/Utf8.h"
-#include "settings/IniFile.h"
+#include "formats/IniFile.h"
 
 namespace nomra {
 
 namespace {
-
-std::string TwoDigits(int value) {
-  std::string text = std::to_string(value);
-  return text.size() < 2 ? "0" + text : text;
-}
 
 bool HasScriptEnding(std::string_view name) {
   return name.size() > kScriptFileEnding.size() &&
@@ -26,9 +22,7 @@ std::string ScriptFolder(const std::string& dataFolder) {
 }
 
 std::string ScriptFileName(const std::tm& moment) {
-  return std::to_string(moment.tm_year + 1900) + TwoDigits(moment.tm_mon + 1) + TwoDigits(moment.tm_mday) +
-         TwoDigits(moment.tm_hour) + TwoDigits(moment.tm_min) + TwoDigits(moment.tm_sec) +
-         std::string(kScriptFileEnding);
+  return text::FormatTimeStamp(moment) + std::string(kScriptFileEnding);
 }
 
 std::string FormatScriptDate(std::string_view fileName) {
@@ -41,9 +35,8 @@ std::string FormatScriptDate(std::string_view fileName) {
   return cut(1, 4) + "-" + cut(5, 6) + "-" + cut(7, 8) + ", " + cut(9, 10) + ":" + cut(11, 12) + ":" + cut(13, 14);
 }
 
-std::string ScriptDisplayText(const std::string& scriptPath, std::string_view fileName) {
-  return settings::ReadIniString(kScriptMainSection, kScriptNameKey, scriptPath) + " [" +
-         FormatScriptDate(fileName) + "]";
+std::string ScriptDisplayText(const formats::IniFile& script, std::string_view fileName) {
+  return script.ReadString(kScriptMainSection, kScriptNameKey) + " [" + FormatScriptDate(fileName) + "]";
 }
 
 std::vector<StoredScript> ListStoredScripts(platform::FileSystem& fileSystem, const std::string& dataFolder) {
@@ -55,7 +48,7 @@ std::vector<StoredScript> ListStoredScripts(platform::FileSystem& fileSystem, co
   std::vector<StoredScript> scripts;
   scripts.reserve(names.size());
   for (std::string& name : names) {
-    std::string display = ScriptDisplayText(folder + name, name);
+    std::string display = ScriptDisplayText(formats::IniFile(fileSystem, folder + name), name);
     scripts.push_back({std::move(name), std::move(display)});
   }
   return scripts;

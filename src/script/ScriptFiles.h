@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "formats/IniFile.h"
 #include "platform/FileSystem.h"
 
 namespace nomra {
@@ -29,7 +30,7 @@ std::string ScriptFileName(const std::tm& moment);
 std::string FormatScriptDate(std::string_view fileName);
 
 // The stored name, " [", the date of the file name, "]".
-std::string ScriptDisplayText(const std::string& scriptPath, std::string_view fileName);
+std::string ScriptDisplayText(const formats::IniFile& script, std::string_view fileName);
 
 struct StoredScript {
   std::string fileName;  // without folder

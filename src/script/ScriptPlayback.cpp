@@ -1,6 +1,5 @@
 #include "script/ScriptPlayback.h"
 
-#include <filesystem>
 #include <limits>
 #include <system_error>
 
@@ -9,7 +8,7 @@
 #include "rename/ActionFrame.h"
 #include "rename/BuiltInActions.h"
 #include "script/ScriptFiles.h"
-#include "settings/IniFile.h"
+#include "formats/IniFile.h"
 
 namespace nomra {
 
@@ -19,37 +18,37 @@ constexpr int kFirstStepType = 1;
 constexpr int kLastStepType = 10;
 constexpr int kNoScriptStatusText = 5;
 
-bool FileExists(const std::string& path) {
-  std::error_code error;
-  return std::filesystem::is_regular_file(path, error);
+bool FileExists(platform::FileSystem& fileSystem, const std::string& path) {
+  return fileSystem.Status(path).kind == platform::EntryKind::File;
 }
 
 // A Type that is no number counts as a missing one.
-long ReadStepType(const ScriptSession& session) {
+long ReadStepType(const ScriptSession& session, const formats::IniFile& script) {
   try {
-    return settings::ReadIniInt(std::to_string(session.runStep), kScriptTypeKey, session.runPath);
+    return script.ReadInt(std::to_string(session.runStep), kScriptTypeKey);
   } catch (const RuntimeFault&) {
     return -1;
   }
 }
 
-void PlaySteps(ScriptSession& session, const StepOpener& openStep) {
+void PlaySteps(ScriptSession& session, platform::FileSystem& fileSystem, const StepOpener& openStep) {
   if (session.runPath.empty() || session.runMode == 0) return;
-  const long steps = settings::ReadIniInt(kScriptMainSection, kScriptStepsKey, session.runPath);
+  const formats::IniFile script(fileSystem, session.runPath);
+  const long steps = script.ReadInt(kScriptMainSection, kScriptStepsKey);
   // The step counter is a 16-bit number: no script goes beyond 32767 steps.
   const long last = std::min<long>(steps, std::numeric_limits<std::int16_t>::max());
   for (long step = 1; step <= last; ++step) {
     session.runStep = static_cast<std::int16_t>(step);
-    const long type = ReadStepType(session);
+    const long type = ReadStepType(session, script);
     if (type >= kFirstStepType && type <= kLastStepType) openStep(static_cast<int>(type));
   }
 }
 
 }  // namespace
 
-void PlayScript(ScriptSession& session, const StepOpener& openStep) {
+void PlayScript(ScriptSession& session, platform::FileSystem& fileSystem, const StepOpener& openStep) {
   try {
-    PlaySteps(session, openStep);
+    PlaySteps(session, fileSystem, openStep);
   } catch (...) {
     session.runMode = 0;
     session.runPath.clear();
@@ -67,9 +66,9 @@ void PlayStepWithoutWindow(MainModel& model, int stepType) {
 bool RunSelectedScript(MainModel& model, std::string_view fileName, const StepOpener& openStep) {
   ScriptSession& session = model.script;
   session.runPath = ScriptFolder(session.dataFolder) + std::string(fileName);
-  if (!fileName.empty() && FileExists(session.runPath)) {
+  if (!fileName.empty() && FileExists(model.fileSystem, session.runPath)) {
     session.runMode = 1;
-    PlayScript(session, openStep);
+    PlayScript(session, model.fileSystem, openStep);
     return true;
   }
   model.selectedScriptLabel = model.statusTexts[kNoScriptStatusText];
@@ -81,10 +80,10 @@ bool RunScriptArgument(MainModel& model, std::string_view text, const StepOpener
   ScriptSession& session = model.script;
   const std::string name = WithoutDoubleQuotes(text);
   session.runPath = name;
-  if (!FileExists(session.runPath)) session.runPath = ScriptFolder(session.dataFolder) + name;
-  if (!FileExists(session.runPath)) return false;
+  if (!FileExists(model.fileSystem, session.runPath)) session.runPath = ScriptFolder(session.dataFolder) + name;
+  if (!FileExists(model.fileSystem, session.runPath)) return false;
   session.runMode = 1;
-  PlayScript(session, openStep);
+  PlayScript(session, model.fileSystem, openStep);
   return true;
 }
 

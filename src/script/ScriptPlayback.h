@@ -13,7 +13,7 @@ using StepOpener = std::function<void(int stepType)>;
 // Plays the script of the session's run path in its run mode, one step
 // after the other: types 1 to 10 go to the opener, any other step is passed
 // over without a word. Afterwards, however it ends, no script plays.
-void PlayScript(ScriptSession& session, const StepOpener& openStep);
+void PlayScript(ScriptSession& session, platform::FileSystem& fileSystem, const StepOpener& openStep);
 
 // The opener without a window: the step's action dialog restores the step
 // and, when all steps run, applies itself.

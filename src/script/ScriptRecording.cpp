@@ -1,12 +1,11 @@
 #include "script/ScriptRecording.h"
 
-#include <filesystem>
 #include <system_error>
 
 #include "base/DateText.h"
 #include "settings/CompactIniFile.h"
-#include "settings/IniFile.h"
-#include "settings/IniLines.h"
+#include "formats/IniFile.h"
+#include "formats/IniLines.h"
 #include "settings/SettingsKeys.h"
 #include "script/ScriptFiles.h"
 
@@ -24,7 +23,7 @@ std::optional<std::string> AskScriptName(MainModel& model, const LocalClock& clo
   for (;;) {
     std::string answer = model.frontEnd.AskInput({"MsgText31", "MsgCap12", MessageStyle::OkInformation, {}},
                                                  DateTimeText(clock()));
-    if (!settings::TrimBlanks(answer).empty()) return answer;
+    if (!formats::TrimBlanks(answer).empty()) return answer;
     const Answer discard = model.frontEnd.Ask({"MsgText32", "MsgCap12", MessageStyle::YesNoDefaultNo, {}});
     if (discard == Answer::Yes) return std::nullopt;
   }
@@ -47,30 +46,29 @@ bool MoveIntoScriptFolder(MainModel& model, const std::string& folder, const Loc
 
 }  // namespace
 
-void ResetScriptTemp(ScriptSession& session) {
+void ResetScriptTemp(ScriptSession& session, platform::FileSystem& fileSystem) {
   session.tempPath = session.dataFolder + settings::kScriptTempFileName;
-  std::error_code ignored;
-  std::filesystem::remove(session.tempPath, ignored);
+  fileSystem.RemoveFile(session.tempPath);
   session.recording = 0;
 }
 
-void BeginScriptRecording(ScriptSession& session) {
+void BeginScriptRecording(ScriptSession& session, platform::FileSystem& fileSystem) {
   session.recording = 1;
-  settings::WriteIni(kScriptMainSection, kScriptStepsKey, 0L, session.tempPath);
+  formats::IniFile(fileSystem, session.tempPath).Write(kScriptMainSection, kScriptStepsKey, 0L);
 }
 
 bool EndScriptRecording(MainModel& model, const LocalClock& clock) {
   ScriptSession& session = model.script;
   session.recording = 0;
   const std::string folder = ScriptFolder(session.dataFolder);
-  std::error_code ignored;
-  std::filesystem::create_directory(folder, ignored);
+  model.fileSystem.MakeFolder(folder, 0777);
 
-  if (settings::ReadIniInt(kScriptMainSection, kScriptStepsKey, session.tempPath) <= 0) return false;
+  const formats::IniFile recorded(model.fileSystem, session.tempPath);
+  if (recorded.ReadInt(kScriptMainSection, kScriptStepsKey) <= 0) return false;
   const std::optional<std::string> name = AskScriptName(model, clock);
   if (!name) return false;
-  settings::WriteIni(kScriptMainSection, kScriptNameKey, *name, session.tempPath);
-  settings::CompactIniFile(session.tempPath, session.dataFolder);
+  recorded.Write(kScriptMainSection, kScriptNameKey, *name);
+  settings::CompactIniFile(model.fileSystem, session.tempPath, session.dataFolder);
   if (!MoveIntoScriptFolder(model, folder, clock)) {
     model.frontEnd.ShowFault("The script could not be stored in " + folder + "; the recording stays in " +
                              session.tempPath + ".");

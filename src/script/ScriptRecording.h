@@ -7,10 +7,10 @@ namespace nomra {
 
 // Points the recording at "script.tmp" in the data folder and removes what
 // an earlier run left there: a recording doesn't outlive the program.
-void ResetScriptTemp(ScriptSession& session);
+void ResetScriptTemp(ScriptSession& session, platform::FileSystem& fileSystem);
 
 // Starts counting steps from 0 in the recording's file.
-void BeginScriptRecording(ScriptSession& session);
+void BeginScriptRecording(ScriptSession& session, platform::FileSystem& fileSystem);
 
 // Ends the recording and, when it holds a step, asks for a name and stores
 // it in the scripts folder under the moment of storing. A cleared or

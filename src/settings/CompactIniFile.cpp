@@ -1,19 +1,20 @@
 #include "settings/CompactIniFile.h"
 
-#include <unistd.h>
-
 #include <string_view>
 #include <vector>
 
 #include "base/Helpers.h"
-#include "settings/AtomicFile.h"
-#include "settings/FileBytes.h"
-#include "settings/IniLines.h"
+#include "formats/AtomicFile.h"
+#include "formats/IniLines.h"
 #include "settings/SettingsKeys.h"
 
 namespace nomra::settings {
 
 namespace {
+
+using formats::JoinLines;
+using formats::SplitLines;
+using formats::TrimBlanks;
 
 // Lines are compared as bytes, so a Windows-1252 file keeps its encoding.
 // "Previous" is the line read, whether it was kept or not: a section keeps
@@ -33,16 +34,12 @@ std::vector<std::string> CompactedLines(const std::vector<std::string>& lines) {
 
 }  // namespace
 
-bool CompactIniFile(const std::string& path, const std::string& dataFolder) {
-  const auto source = ReadFileBytes(path);
-  if (!source || !MayReplaceFile(path)) return false;
+bool CompactIniFile(platform::FileSystem& fileSystem, const std::string& path, const std::string& dataFolder) {
+  const auto source = fileSystem.ReadFile(path);
+  if (!source || !fileSystem.MayWriteFile(path)) return false;
   const std::string temp = AddBackslash(dataFolder) + kCompactionTempName;
   const std::string compacted = JoinLines(CompactedLines(SplitLines(*source)));
-  if (!WriteTemporaryFile(temp, compacted, path) || !MoveFileOver(temp, path)) {
-    unlink(temp.c_str());
-    return false;
-  }
-  return true;
+  return formats::WriteThroughTemporary(fileSystem, path, temp, compacted) == 0;
 }
 
 }  // namespace nomra::settings

@@ -1,28 +1,27 @@
 #include "settings/FirstRunFiles.h"
 
-#include "base/Helpers.h"
-#include "settings/AtomicFile.h"
-#include "settings/FileBytes.h"
+#include "base/Paths.h"
 #include "settings/SettingsKeys.h"
 
 namespace nomra::settings {
 
 namespace {
 
-void CopyWhenMissing(const std::string& appFolder, const std::string& dataFolder, const char* name) {
+void CopyWhenMissing(platform::FileSystem& fileSystem, const std::string& appFolder, const std::string& dataFolder,
+                     const char* name) {
   const std::string target = AddBackslash(dataFolder) + name;
-  if (PathExists(target)) return;
-  const auto content = ReadFileBytes(AddBackslash(appFolder) + name);
+  if (fileSystem.Inspect(target).kind != platform::EntryKind::Missing) return;
+  const auto content = fileSystem.ReadFile(AddBackslash(appFolder) + name);
   // Through a temporary file, so a crash can't leave half a file that the
   // next start would then take for the user's own.
-  if (content) ReplaceFileContent(target, *content);
+  if (content) fileSystem.ReplaceFile(target, *content);
 }
 
 }  // namespace
 
-void CopyFirstRunFiles(const std::string& appFolder, const std::string& dataFolder) {
-  CopyWhenMissing(appFolder, dataFolder, kStructuresFileName);
-  CopyWhenMissing(appFolder, dataFolder, kSettingsFileName);
+void CopyFirstRunFiles(platform::FileSystem& fileSystem, const std::string& appFolder, const std::string& dataFolder) {
+  CopyWhenMissing(fileSystem, appFolder, dataFolder, kStructuresFileName);
+  CopyWhenMissing(fileSystem, appFolder, dataFolder, kSettingsFileName);
 }
 
 }  // namespace nomra::settings

@@ -1,14 +1,10 @@
 #include "settings/UpdateMerge.h"
 
-#include <unistd.h>
-
 #include <functional>
 #include <string_view>
 #include <vector>
 
 #include "settings/CompactIniFile.h"
-#include "settings/FileBytes.h"
-#include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
 
 namespace nomra::settings {
@@ -31,10 +27,10 @@ Parts SplitInstruction(std::string_view instruction) {
 
 // Runs each numbered instruction of a section (prefix + 1, 2, ...) until the
 // first empty one. A line with too few parts is skipped.
-void ForEachInstruction(const std::string& updateFile, const char* section, const char* keyPrefix,
+void ForEachInstruction(const formats::IniFile& updateFile, const char* section, const char* keyPrefix,
                         std::size_t partsNeeded, const std::function<void(const Parts&)>& apply) {
   for (long n = 1;; ++n) {
-    const std::string instruction = ReadIniString(section, keyPrefix + std::to_string(n), updateFile);
+    const std::string instruction = updateFile.ReadString(section, keyPrefix + std::to_string(n));
     if (instruction.empty()) return;
     const Parts parts = SplitInstruction(instruction);
     if (parts.size() >= partsNeeded) apply(parts);
@@ -43,41 +39,45 @@ void ForEachInstruction(const std::string& updateFile, const char* section, cons
 
 // A key already marked for deletion earlier in this merge has no value to
 // give.
-std::string ReadLiveValue(const std::string& section, const std::string& key, const std::string& settingsFile) {
-  std::string value = ReadIniString(section, key, settingsFile);
+std::string ReadLiveValue(const std::string& section, const std::string& key, const formats::IniFile& settingsFile) {
+  std::string value = settingsFile.ReadString(section, key);
   return value == kDeleteMarker ? std::string() : value;
 }
 
-void FinishMerge(const std::string& updateFile, const std::string& settingsFile, const std::string& dataFolder) {
-  CompactIniFile(settingsFile, dataFolder);
-  unlink(updateFile.c_str());  // may fail in a read-only folder; the version test guards a rerun
+void FinishMerge(const formats::IniFile& updateFile, const formats::IniFile& settingsFile,
+                 const std::string& dataFolder) {
+  CompactIniFile(settingsFile.Files(), settingsFile.Path(), dataFolder);
+  // May fail in a read-only folder; the version test guards a rerun.
+  updateFile.Files().RemoveFile(updateFile.Path());
 }
 
 }  // namespace
 
-MergeOutcome MergeUpdateInstructions(const std::string& updateFile, const std::string& settingsFile,
+MergeOutcome MergeUpdateInstructions(const formats::IniFile& updateFile, const formats::IniFile& settingsFile,
                                      const std::string& dataFolder) {
-  if (!IsRegularFile(updateFile)) return MergeOutcome::NoInstructions;
+  if (updateFile.Files().Status(updateFile.Path()).kind != platform::EntryKind::File) {
+    return MergeOutcome::NoInstructions;
+  }
 
-  const std::string version = ReadIniString(kMainSection, kVersionKey, updateFile);
-  if (version == ReadIniString(kMainSection, kVersionKey, settingsFile)) {
+  const std::string version = updateFile.ReadString(kMainSection, kVersionKey);
+  if (version == settingsFile.ReadString(kMainSection, kVersionKey)) {
     FinishMerge(updateFile, settingsFile, dataFolder);
     return MergeOutcome::AlreadyApplied;
   }
 
   ForEachInstruction(updateFile, kAddSection, kAddKeyPrefix, 3, [&](const Parts& p) {
-    if (ReadIniString(p[0], p[1], settingsFile).empty()) WriteIni(p[0], p[1], p[2], settingsFile);
+    if (settingsFile.ReadString(p[0], p[1]).empty()) settingsFile.Write(p[0], p[1], p[2]);
   });
   ForEachInstruction(updateFile, kCopySection, kCopyKeyPrefix, 4, [&](const Parts& p) {
     const std::string value = ReadLiveValue(p[0], p[1], settingsFile);
     if (value.empty()) return;
-    WriteIni(p[2], p[3], value, settingsFile);
-    WriteIni(p[0], p[1], kDeleteMarker, settingsFile);
+    settingsFile.Write(p[2], p[3], value);
+    settingsFile.Write(p[0], p[1], kDeleteMarker);
   });
   ForEachInstruction(updateFile, kDelSection, kDelKeyPrefix, 2,
-                     [&](const Parts& p) { WriteIni(p[0], p[1], kDeleteMarker, settingsFile); });
+                     [&](const Parts& p) { settingsFile.Write(p[0], p[1], kDeleteMarker); });
 
-  WriteIni(kMainSection, kVersionKey, version, settingsFile);
+  settingsFile.Write(kMainSection, kVersionKey, version);
   FinishMerge(updateFile, settingsFile, dataFolder);
   return MergeOutcome::Applied;
 }

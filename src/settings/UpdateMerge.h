@@ -1,6 +1,8 @@
 #pragma once
 #include <string>
 
+#include "formats/IniFile.h"
+
 namespace nomra::settings {
 
 enum class MergeOutcome {
@@ -16,7 +18,7 @@ enum class MergeOutcome {
 // names the instructions. The version is stored in the settings, so the same
 // instructions never run twice even when the update file can't be deleted
 // afterwards (an installed, read-only application folder).
-MergeOutcome MergeUpdateInstructions(const std::string& updateFile, const std::string& settingsFile,
+MergeOutcome MergeUpdateInstructions(const formats::IniFile& updateFile, const formats::IniFile& settingsFile,
                                      const std::string& dataFolder);
 
 }  // namespace nomra::settings

@@ -6,7 +6,7 @@
 #include "lang/LanguageKeys.h"
 #include "rename/ActionDialog.h"
 #include "rename/ApplyStructure.h"
-#include "settings/IniLines.h"
+#include "formats/IniLines.h"
 #include "structure/PreviewRow.h"
 #include "structure/StructureEngine.h"
 
@@ -24,7 +24,7 @@ constexpr char kCorrectSyntaxKey[] = "msgCorrectSyntax";
 constexpr char kRemoveQuestionKey[] = "msgRemoveStructure";
 constexpr char kRemoveCaptionKey[] = "msgCapRemoveStructure";
 
-bool HoldsText(const std::string& text) { return !settings::TrimBlanks(text).empty(); }
+bool HoldsText(const std::string& text) { return !formats::TrimBlanks(text).empty(); }
 
 }  // namespace
 
@@ -52,7 +52,7 @@ std::string NameStructureEditor::StructuresFile() const { return StructuresFileP
 
 void NameStructureEditor::Load() {
   loading_ = true;
-  structures_ = LoadStoredStructures(StructuresFile());
+  structures_ = LoadStoredStructures(model_.fileSystem, StructuresFile());
   elements_ = ElementChoices(catalog_);
   functions_ = FunctionChoices(catalog_);
   FitPreviewScrollBar(dialog_, model_);
@@ -148,7 +148,7 @@ void NameStructureEditor::CancelEdit() {
 }
 
 bool NameStructureEditor::Apply() {
-  SaveStoredStructures(StructuresFile(), structures_);
+  SaveStoredStructures(model_.fileSystem, StructuresFile(), structures_);
   if (!CheckStructure()) {
     if (!Editing()) mode_ = chosen_ >= 0 ? StructureEditMode::Edit : StructureEditMode::Add;
     return false;

@@ -1,7 +1,7 @@
 #include "structure/StoredStructures.h"
 
+#include "formats/DelimitedText.h"
 #include "settings/SettingsKeys.h"
-#include "structure/DelimitedText.h"
 
 namespace nomra {
 
@@ -18,22 +18,23 @@ std::string StructuresFilePath(const std::string& dataFolder) {
   return dataFolder + settings::kStructuresFileName;
 }
 
-std::vector<StoredStructure> LoadStoredStructures(const std::string& file) {
-  DelimitedList list{kColumns, {}};
-  LoadListFromFile(file, false, list);
+std::vector<StoredStructure> LoadStoredStructures(platform::FileSystem& fileSystem, const std::string& file) {
+  formats::DelimitedList list{kColumns, {}};
+  formats::LoadListFromFile(fileSystem, file, false, list);
   std::vector<StoredStructure> structures;
   structures.reserve(list.rows.size());
-  for (DelimitedRow& row : list.rows) {
+  for (formats::DelimitedRow& row : list.rows) {
     structures.push_back({std::move(row.text), std::move(row.subItems.front())});
   }
   return structures;
 }
 
-bool SaveStoredStructures(const std::string& file, const std::vector<StoredStructure>& structures) {
-  DelimitedList list{kColumns, {}};
+bool SaveStoredStructures(platform::FileSystem& fileSystem, const std::string& file,
+                          const std::vector<StoredStructure>& structures) {
+  formats::DelimitedList list{kColumns, {}};
   list.rows.reserve(structures.size());
   for (const StoredStructure& stored : structures) list.rows.push_back({{}, stored.name, {stored.structure}});
-  return SaveListToFile(file, kSeparator, kHeader, list);
+  return formats::SaveListToFile(fileSystem, file, kSeparator, kHeader, list);
 }
 
 }  // namespace nomra

@@ -2,6 +2,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/FileSystem.h"
+
 namespace nomra {
 
 // A named name structure as the structure editor keeps it.
@@ -17,10 +19,11 @@ std::string StructuresFilePath(const std::string& dataFolder);
 
 // The stored structures in file order. A missing or unreadable file gives
 // none; a line with a name alone gives that name with an empty structure.
-std::vector<StoredStructure> LoadStoredStructures(const std::string& file);
+std::vector<StoredStructure> LoadStoredStructures(platform::FileSystem& fileSystem, const std::string& file);
 
 // Writes all of them behind the header "Name;Structure;", one "name;structure;"
 // a line; the old file stays whole when writing fails (false).
-bool SaveStoredStructures(const std::string& file, const std::vector<StoredStructure>& structures);
+bool SaveStoredStructures(platform::FileSystem& fileSystem, const std::string& file,
+                          const std::vector<StoredStructure>& structures);
 
 }  // namespace nomra

@@ -1,32 +1,31 @@
 #include "ui/FileOperationCommands.h"
 
 #include "fileops/DeleteListFiles.h"
-#include "fileops/FileProperties.h"
+#include "fileops/PermissionText.h"
 #include "fileops/MessageKeys.h"
-#include "fileops/posix/PosixOperationSystem.h"
 #include "ui/FileOperationProgress.h"
 #include "ui/FrmSelAction.h"
 #include "ui/PropertiesDialog.h"
 
 namespace nomra::ui {
 
-bool RunSelAction(QWidget* parent, MainModel& model, const lang::MessageCatalog& catalog, const QString& tag) {
-  fileops::PosixOperationSystem system;
+bool RunSelAction(QWidget* parent, platform::Platform& system, MainModel& model, const lang::MessageCatalog& catalog,
+                  const QString& tag) {
   FrmSelAction dialog(tag, model, catalog, system, parent);
   return dialog.exec() == QDialog::Accepted;
 }
 
-bool DeleteListFiles(QWidget* parent, MainModel& model, const lang::MessageCatalog& catalog, bool toTrash) {
-  fileops::PosixOperationSystem system;
+bool DeleteListFiles(QWidget* parent, platform::Platform& system, MainModel& model,
+                     const lang::MessageCatalog& catalog, bool toTrash) {
   FileOperationProgress progress(catalog, parent);
-  fileops::OperationServices services{system, model.frontEnd, progress};
+  fileops::OperationServices services{system.Files(), system.DesktopTrash(), model.frontEnd, progress};
   return fileops::DeleteListFiles(model, toTrash, services);
 }
 
-void ShowProperties(QWidget* parent, FrontEnd& frontEnd, const lang::MessageCatalog& catalog,
-                    const std::string& path) {
-  const fileops::FileProperties properties = fileops::ReadFileProperties(path);
-  if (properties.type == fileops::PropertyType::Missing) {
+void ShowProperties(QWidget* parent, platform::FileSystem& fileSystem, FrontEnd& frontEnd,
+                    const lang::MessageCatalog& catalog, const std::string& path) {
+  const platform::FileProperties properties = fileSystem.Properties(path);
+  if (properties.type == platform::PropertyType::Missing) {
     frontEnd.Ask({fileops::kSourceMissing, fileops::kAttentionCaption, MessageStyle::OkStop, {path}});
     return;
   }

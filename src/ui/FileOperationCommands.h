@@ -4,6 +4,7 @@
 
 #include "core/MainModel.h"
 #include "lang/MessageCatalog.h"
+#include "platform/Platform.h"
 
 class QWidget;
 
@@ -15,15 +16,17 @@ namespace nomra::ui {
 // mnuCopyFiles ("frmCopyFiles"), mnuMoveFiles ("frmMoveFiles") and the
 // copy of "TakeChanges2" ("frmSelAction"): frmSelAction with that Tag.
 // True when its OK ran to the end.
-bool RunSelAction(QWidget* parent, MainModel& model, const lang::MessageCatalog& catalog, const QString& tag);
+bool RunSelAction(QWidget* parent, platform::Platform& system, MainModel& model, const lang::MessageCatalog& catalog,
+                  const QString& tag);
 
 // mnuDeleteFiles1 (to the trash) and mnuDeleteFiles2 (at once), with their
 // progress. False when expert mode is off.
-bool DeleteListFiles(QWidget* parent, MainModel& model, const lang::MessageCatalog& catalog, bool toTrash);
+bool DeleteListFiles(QWidget* parent, platform::Platform& system, MainModel& model,
+                     const lang::MessageCatalog& catalog, bool toTrash);
 
 // The properties window of a file (btnBarLeft "Properties" and the pop-up
 // menu); a path that can't be read is told through the front end.
-void ShowProperties(QWidget* parent, FrontEnd& frontEnd, const lang::MessageCatalog& catalog,
-                    const std::string& path);
+void ShowProperties(QWidget* parent, platform::FileSystem& fileSystem, FrontEnd& frontEnd,
+                    const lang::MessageCatalog& catalog, const std::string& path);
 
 }  // namespace nomra::ui

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "formats/IniFile.h"
 #include "core/FrontEnd.h"
 #include "lang/MessageCatalog.h"
 #include "open/PowerFilters.h"
@@ -35,7 +36,7 @@ class FrmOpen final : public QDialog {
     platform::FileSystem& fileSystem;
     FrontEnd& frontEnd;
     const lang::MessageCatalog& catalog;
-    std::string settingsFile;
+    formats::IniFile settingsFile;
   };
 
   explicit FrmOpen(Services services, QWidget* parent = nullptr);

@@ -8,7 +8,7 @@
 #include "base/Helpers.h"
 #include "core/BusyPointer.h"
 #include "open/StagedFiles.h"
-#include "settings/IniFile.h"
+#include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"
 #include "ui/FrmOpen.h"
 #include "ui/OpenLocations.h"
@@ -173,7 +173,7 @@ void FrmOpen::cmdOpen() {
   open::WritePowerFilters(filters_, services_.settingsFile);
   accept();
   if (!staged_.empty() && !atLocations_) {
-    settings::WriteIni(settings::kSettingsSection, settings::kLastPathKey, AddBackslash(folder_), services_.settingsFile);
+    services_.settingsFile.Write(settings::kSettingsSection, settings::kLastPathKey, AddBackslash(folder_));
   }
 }
 

@@ -38,7 +38,7 @@ QGroupBox* BuildFrameCopy(QWidget& dialog) {
 }  // namespace
 
 FrmSelAction::FrmSelAction(const QString& tag, MainModel& model, const lang::MessageCatalog& catalog,
-                           fileops::OperationSystem& system, QWidget* parent)
+                           platform::Platform& system, QWidget* parent)
     : QDialog(parent), engine_(tag.toStdString()), model_(model), catalog_(catalog), system_(system) {
   setObjectName(tag);
   setWindowTitle("Copy files");
@@ -105,7 +105,7 @@ void FrmSelAction::cmdSelPath() {
 void FrmSelAction::cmdOK() {
   ReadWidgetsIntoModel(engine_.Model(), *this);
   FileOperationProgress progress(catalog_, this);
-  fileops::OperationServices services{system_, model_.frontEnd, progress};
+  fileops::OperationServices services{system_.Files(), system_.DesktopTrash(), model_.frontEnd, progress};
   try {
     if (engine_.cmdOK(model_, services)) accept();
   } catch (const RuntimeFault& fault) {

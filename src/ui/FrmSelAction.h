@@ -4,7 +4,7 @@
 
 #include "core/MainModel.h"
 #include "fileops/FrmSelAction.h"
-#include "fileops/OperationSystem.h"
+#include "platform/Platform.h"
 #include "lang/MessageCatalog.h"
 
 class QCheckBox;
@@ -21,7 +21,7 @@ class FrmSelAction final : public QDialog {
   Q_OBJECT
  public:
   FrmSelAction(const QString& tag, MainModel& model, const lang::MessageCatalog& catalog,
-               fileops::OperationSystem& system, QWidget* parent = nullptr);
+               platform::Platform& system, QWidget* parent = nullptr);
 
   fileops::FrmSelAction& Engine() { return engine_; }
 
@@ -34,7 +34,7 @@ class FrmSelAction final : public QDialog {
   fileops::FrmSelAction engine_;
   MainModel& model_;
   const lang::MessageCatalog& catalog_;
-  fileops::OperationSystem& system_;
+  platform::Platform& system_;
   QLineEdit* targetPath_ = nullptr;
   QPushButton* ok_ = nullptr;
 };

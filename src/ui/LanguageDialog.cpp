@@ -8,16 +8,17 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "settings/IniFile.h"
+#include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"
 #include "ui/DialogButtons.h"
 #include "ui/DialogTexts.h"
 
 namespace nomra::ui {
 
-LanguageDialog::LanguageDialog(const std::string& appFolder, std::string settingsFile,
+LanguageDialog::LanguageDialog(const std::string& appFolder, formats::IniFile settingsFile,
                                const lang::MessageCatalog& catalog, const QString& menuCaption, QWidget* parent)
-    : QDialog(parent), settingsFile_(std::move(settingsFile)), files_(lang::ListLanguageFiles(appFolder)) {
+    : QDialog(parent), settingsFile_(std::move(settingsFile)),
+      files_(lang::ListLanguageFiles(settingsFile_.Files(), appFolder)) {
   setObjectName("frmOptions");
   setWindowTitle(menuCaption.isEmpty() ? QString("Options") : QString(menuCaption).remove('&').remove("..."));
   auto* layout = new QVBoxLayout(this);
@@ -50,7 +51,7 @@ void LanguageDialog::Store() {
   const int index = choices_->currentIndex();
   if (index < 0 || index >= static_cast<int>(files_.size())) return;
   chosen_ = files_[index].path;
-  settings::WriteIni(settings::kSettingsSection, settings::kLanguageKey, files_[index].languageName, settingsFile_);
+  settingsFile_.Write(settings::kSettingsSection, settings::kLanguageKey, files_[index].languageName);
 }
 
 }  // namespace nomra::ui

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "formats/IniFile.h"
 #include "lang/ChooseLanguage.h"
 #include "lang/MessageCatalog.h"
 
@@ -16,7 +17,7 @@ namespace nomra::ui {
 class LanguageDialog final : public QDialog {
   Q_OBJECT
  public:
-  LanguageDialog(const std::string& appFolder, std::string settingsFile, const lang::MessageCatalog& catalog,
+  LanguageDialog(const std::string& appFolder, formats::IniFile settingsFile, const lang::MessageCatalog& catalog,
                  const QString& menuCaption, QWidget* parent = nullptr);
 
   // The chosen file after OK; "" otherwise.
@@ -26,7 +27,7 @@ class LanguageDialog final : public QDialog {
  private:
   void Store();
 
-  std::string settingsFile_;
+  formats::IniFile settingsFile_;
   std::vector<lang::LanguageFile> files_;
   QComboBox* choices_ = nullptr;
   std::string chosen_;

@@ -26,7 +26,7 @@
 #include "core/SortFileList.h"
 #include "core/WindowPlacement.h"
 #include "script/ScriptRecording.h"
-#include "settings/IniFile.h"
+#include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"
 #include "lang/LanguageKeys.h"
 #include "ui/ActionWindows.h"
@@ -63,8 +63,10 @@ const QStringList& CommandsNotYetBuilt() {
 
 MainWindow::MainWindow(Services services, QWidget* parent)
     : QMainWindow(parent),
-      model_(services.fileSystem, frontEnd_, services.exifDates),
-      catalog_(services.languageFile.empty() ? lang::MessageCatalog() : lang::MessageCatalog(services.languageFile)),
+      system_(services.system),
+      model_(services.system.Files(), frontEnd_, services.exifDates),
+      catalog_(services.languageFile.empty() ? lang::MessageCatalog()
+                                             : lang::MessageCatalog(services.system.Files(), services.languageFile)),
       frontEnd_(catalog_, services.appTitle),
       committer_(model_),
       paths_(std::move(services.paths)),
@@ -95,7 +97,7 @@ MainWindow::MainWindow(Services services, QWidget* parent)
   ConnectCommands();
 
   LoadStartupSettings(model_, paths_);
-  settings_ = ReadMainWindowSettings(paths_.settingsPath, frontEnd_);
+  settings_ = ReadMainWindowSettings(SettingsFile(), frontEnd_);
   LoadSettingsIntoWindow();
   ApplyExpertMode();
 
@@ -103,7 +105,7 @@ MainWindow::MainWindow(Services services, QWidget* parent)
   const InterruptedCommit interrupted = RecoverInterruptedCommit(model_.fileSystem, model_.dataFolder);
   ShowUnresolved(frontEnd_, interrupted);
 
-  if (paths_.dataFolderUsable) ResetScriptTemp(model_.script);
+  if (paths_.dataFolderUsable) ResetScriptTemp(model_.script, model_.fileSystem);
   LocaliseWidget(*this, QString(), catalog_, lang::CaptionSources{});
   setLngalt();
   // The entries are the scripts' own names, never language texts.
@@ -121,7 +123,7 @@ QAbstractItemView* MainWindow::ActiveListView() const {
 }
 
 void MainWindow::UseLanguage(const std::string& languageFile) {
-  catalog_ = lang::MessageCatalog(languageFile);
+  catalog_ = lang::MessageCatalog(system_.Files(), languageFile);
   // The drop-down buttons go back to their base tips, so that a language
   // without a tip of its own doesn't take the variant in as part of the base.
   for (auto it = baseToolTips_.constBegin(); it != baseToolTips_.constEnd(); ++it) {

@@ -14,8 +14,9 @@
 #include "core/MainModel.h"
 #include "core/MainWindowSettings.h"
 #include "core/Startup.h"
+#include "formats/IniFile.h"
 #include "lang/MessageCatalog.h"
-#include "platform/FileSystem.h"
+#include "platform/Platform.h"
 #include "ui/ActionDialogWindow.h"
 #include "ui/QtFrontEnd.h"
 
@@ -50,7 +51,7 @@ class MainWindow final : public QMainWindow {
   Q_OBJECT
  public:
   struct Services {
-    platform::FileSystem& fileSystem;
+    platform::Platform& system;
     ExifDateReader& exifDates;
     StartupPaths paths;
     std::string languageFile;  // "" runs without texts: design captions stay
@@ -202,6 +203,10 @@ class MainWindow final : public QMainWindow {
   int SelectedPosition() const;
   void SetBusyLoading(bool loading);
 
+  // The settings file, read and written whole at each call.
+  formats::IniFile SettingsFile() const { return formats::IniFile(system_.Files(), paths_.settingsPath); }
+
+  platform::Platform& system_;
   MainModel model_;
   lang::MessageCatalog catalog_;
   QtFrontEnd frontEnd_;

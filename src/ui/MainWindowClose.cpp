@@ -38,7 +38,7 @@ void MainWindow::CollectLayout() {
 void MainWindow::closeEvent(QCloseEvent* event) {
   CollectLayout();
   const CloseDecision decision =
-      RunCloseSequence(settings_, model_, paths_.settingsPath, model_.script.recording != 0, [this] { EndRecording(); });
+      RunCloseSequence(settings_, model_, SettingsFile(), model_.script.recording != 0, [this] { EndRecording(); });
   if (decision == CloseDecision::Refuse) {
     event->ignore();
     // A Yes that took the changes has changed rows even when the close stops.

@@ -17,7 +17,7 @@
 #include "commit/TakeChanges.h"
 #include "core/ManualEdit.h"
 #include "core/SortFileList.h"
-#include "settings/IniFile.h"
+#include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"
 #include "ui/EditManDialog.h"
 #include "ui/FileListModel.h"
@@ -83,11 +83,11 @@ void MainWindow::takeChanges() {
   CommitServices services;
   services.showNotRenamed = [this](const CommitResult& result) {
     NotRenamedDialog dialog(result, catalog_, this);
-    dialog.RememberChoiceIn(model_.script, frontEnd_);
+    dialog.RememberChoiceIn(model_.script, model_.fileSystem, frontEnd_);
     dialog.exec();
     return dialog.Choice();
   };
-  services.showSelectAction = [this] { RunSelAction(this, model_, catalog_, "frmSelAction"); };
+  services.showSelectAction = [this] { RunSelAction(this, system_, model_, catalog_, "frmSelAction"); };
   nomra::takeChanges(model_, variants_.value("TakeChanges").toStdString(), services);
   RefreshPreview();
 }
@@ -107,7 +107,7 @@ void MainWindow::mnuInfo() {
 }
 
 void MainWindow::mnuOptions() {
-  LanguageDialog dialog(paths_.appFolder, paths_.settingsPath, catalog_, MenuAction("mnuOptions")->text(), this);
+  LanguageDialog dialog(paths_.appFolder, SettingsFile(), catalog_, MenuAction("mnuOptions")->text(), this);
   if (dialog.exec() == QDialog::Accepted && !dialog.ChosenFile().empty()) UseLanguage(dialog.ChosenFile());
 }
 
@@ -140,7 +140,7 @@ void MainWindow::SetIconSizeEntry(int entry) {
   const auto entries = iconSizeMenu_->actions();
   for (int i = 0; i < entries.size(); ++i) entries[i]->setChecked(i + 1 == entry);
   RefreshPreview();
-  settings::WriteIni(settings::kSettingsSection, settings::kPreviewImageSizeKey, entry, paths_.settingsPath);
+  SettingsFile().Write(settings::kSettingsSection, settings::kPreviewImageSizeKey, entry);
 }
 
 // Entry i shows or hides head i + 1, which is Qt's column i.

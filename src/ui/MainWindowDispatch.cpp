@@ -115,7 +115,7 @@ void MainWindow::BuildCommandTables() {
   tool(kLeftBar, "CancelAction", [this] { CancelAction(); });
   tool(kLeftBar, "Properties", [this] {
     const int position = SelectedPosition();
-    if (position > 0) ShowProperties(this, frontEnd_, catalog_, model_.list.Item(position).key);
+    if (position > 0) ShowProperties(this, system_.Files(), frontEnd_, catalog_, model_.list.Item(position).key);
   });
 
   menu("mnuOpenFile", [this] { RunMainToolKey("OpenFile"); });
@@ -123,19 +123,19 @@ void MainWindow::BuildCommandTables() {
   menu("mnuTakeChanges1", [this] { RunDropDownEntry("TakeChanges", "TakeChanges1"); });
   menu("mnuTakeChanges2", [this] { RunDropDownEntry("TakeChanges", "TakeChanges2"); });
   menu("mnuCopyFiles", [this] {
-    RunSelAction(this, model_, catalog_, "frmCopyFiles");
+    RunSelAction(this, system_, model_, catalog_, "frmCopyFiles");
     RefreshPreview();
   });
   menu("mnuMoveFiles", [this] {
-    RunSelAction(this, model_, catalog_, "frmMoveFiles");
+    RunSelAction(this, system_, model_, catalog_, "frmMoveFiles");
     RefreshPreview();
   });
   menu("mnuDeleteFiles1", [this] {
-    DeleteListFiles(this, model_, catalog_, true);
+    DeleteListFiles(this, system_, model_, catalog_, true);
     RefreshPreview();
   });
   menu("mnuDeleteFiles2", [this] {
-    DeleteListFiles(this, model_, catalog_, false);
+    DeleteListFiles(this, system_, model_, catalog_, false);
     RefreshPreview();
   });
   menu("mnuRejectChanges", [this] { RunMainToolKey("RejectChanges"); });

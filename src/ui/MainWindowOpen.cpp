@@ -7,7 +7,7 @@
 #include "open/OpenCommand.h"
 #include "open/Playlist.h"
 #include "open/StagedFiles.h"
-#include "settings/IniFile.h"
+#include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"
 #include "ui/FrmOpen.h"
 #include "ui/MainWindow.h"
@@ -53,10 +53,10 @@ void MainWindow::mnuOpenFile() {
 void MainWindow::OpenFilesDialog(open::OpenMode mode) {
   SystemOpenDialog::Setup setup;
   setup.mode = mode;
-  setup.folder = QString::fromStdString(open::InitialFolder(paths_.settingsPath));
+  setup.folder = QString::fromStdString(open::InitialFolder(SettingsFile(), system_.Locations().HomeFolder()));
   int filesFilterIndex = 1;
   try {
-    const long stored = settings::ReadIniInt(settings::kSettingsSection, settings::kLastFilterKey, paths_.settingsPath);
+    const long stored = SettingsFile().ReadInt(settings::kSettingsSection, settings::kLastFilterKey);
     if (stored >= 1) filesFilterIndex = static_cast<int>(stored);
   } catch (const RuntimeFault&) {
     // A damaged index shows the first row, as a missing one does.
@@ -65,7 +65,7 @@ void MainWindow::OpenFilesDialog(open::OpenMode mode) {
     std::string allRows = catalog_.GetText(kFrmOpen, "FilterAll");
     if (allRows.empty()) allRows = "All files (*.*)";
     const std::string label = catalog_.GetText(kFrmOpen, "AllFiles");
-    setup.filters = open::BuildFilterList(paths_.settingsPath, allRows);
+    setup.filters = open::BuildFilterList(SettingsFile(), allRows);
     setup.title = DialogTitle(MenuAction("mnuOpenFile"));
     setup.allFilesLabel = label.empty() ? QString("(All files)") : QString::fromStdString(label);
     setup.allFiles = settings_.chkAll == 1;
@@ -88,13 +88,13 @@ void MainWindow::OpenFilesDialog(open::OpenMode mode) {
   open::OpenChoice choice = dialog.Choice();
   // The playlist dialog's rows are others: the files dialog's index stays.
   if (mode == open::OpenMode::Playlists) choice.filterIndex = filesFilterIndex;
-  RunLoad([&] { open::RunOpenChoice(model_, choice, filters, paths_.settingsPath, settings_.showHiddenFiles); });
+  RunLoad([&] { open::RunOpenChoice(model_, choice, filters, SettingsFile(), settings_.showHiddenFiles); });
 }
 
 void MainWindow::ShowFrmOpen() {
-  if (frmOpen_ == nullptr) frmOpen_ = new FrmOpen({model_.fileSystem, frontEnd_, catalog_, paths_.settingsPath}, this);
+  if (frmOpen_ == nullptr) frmOpen_ = new FrmOpen({model_.fileSystem, frontEnd_, catalog_, SettingsFile()}, this);
   frmOpen_->Prepare(settings_.chkAll == 1, settings_.chkSub == 1, settings_.showHiddenFiles,
-                    open::InitialFolder(paths_.settingsPath));
+                    open::InitialFolder(SettingsFile(), system_.Locations().HomeFolder()));
   if (frmOpen_->exec() != QDialog::Accepted) return;
   settings_.chkAll = frmOpen_->AllFiles() ? 1 : 0;
   settings_.chkSub = frmOpen_->SubFolders() ? 1 : 0;

@@ -34,7 +34,7 @@ void MainWindow::OpenAction(int stepType) { OpenActionWindow(stepType, ActionSer
 
 void MainWindow::PlayScriptSteps() {
   try {
-    PlayScript(model_.script, [this](int stepType) { OpenAction(stepType); });
+    PlayScript(model_.script, model_.fileSystem, [this](int stepType) { OpenAction(stepType); });
   } catch (const RuntimeFault& fault) {
     frontEnd_.ShowFault(fault.what());
   }
@@ -42,7 +42,7 @@ void MainWindow::PlayScriptSteps() {
 }
 
 void MainWindow::mnuStartRecordScript() {
-  BeginScriptRecording(model_.script);
+  BeginScriptRecording(model_.script, model_.fileSystem);
   RefreshPreview();
 }
 

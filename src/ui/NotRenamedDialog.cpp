@@ -68,7 +68,7 @@ NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::Messa
     choice_ = removeRenamed_->isChecked() ? NotRenamedChoice::RemoveRenamed : NotRenamedChoice::NoAction;
     if (session_ != nullptr) {
       ReadWidgetsIntoModel(model_, *this);
-      dialog::StoreDialogState(model_, model_.Name(), dialog::kSettingsMode, *session_);
+      dialog::StoreDialogState(model_, model_.Name(), dialog::kSettingsMode, *session_, *fileSystem_);
     }
     accept();
   });
@@ -81,10 +81,12 @@ NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::Messa
   LocaliseDialog(*this, catalog, parent, QString());
 }
 
-void NotRenamedDialog::RememberChoiceIn(const ScriptSession& session, FrontEnd& frontEnd) {
+void NotRenamedDialog::RememberChoiceIn(const ScriptSession& session, platform::FileSystem& fileSystem,
+                                        FrontEnd& frontEnd) {
   session_ = &session;
+  fileSystem_ = &fileSystem;
   ReadWidgetsIntoModel(model_, *this);
-  dialog::RestoreDialogState(model_, model_.Name(), dialog::kSettingsMode, session, frontEnd);
+  dialog::RestoreDialogState(model_, model_.Name(), dialog::kSettingsMode, session, fileSystem, frontEnd);
   ShowModelInWidgets(model_, *this);
 }
 

@@ -28,11 +28,12 @@ class NotRenamedDialog final : public QDialog {
 
   // Shows the choice of the last OK, and stores this one on OK, in the
   // settings under the dialog's name.
-  void RememberChoiceIn(const ScriptSession& session, FrontEnd& frontEnd);
+  void RememberChoiceIn(const ScriptSession& session, platform::FileSystem& fileSystem, FrontEnd& frontEnd);
 
  private:
   dialog::DialogModel model_{"frmNotRenamed"};
   const ScriptSession* session_ = nullptr;
+  platform::FileSystem* fileSystem_ = nullptr;
   QRadioButton* noAction_ = nullptr;
   QRadioButton* removeRenamed_ = nullptr;
   NotRenamedChoice choice_ = NotRenamedChoice::NoAction;

@@ -8,6 +8,7 @@
 
 #include "base/DateText.h"
 #include "base/NumberText.h"
+#include "fileops/PermissionText.h"
 #include "ui/DialogTexts.h"
 
 namespace nomra::ui {
@@ -24,17 +25,17 @@ std::string Text(const lang::MessageCatalog& catalog, const char* key, const std
   return text.empty() ? design : text;
 }
 
-std::string TypeText(const fileops::FileProperties& p, const lang::MessageCatalog& catalog) {
+std::string TypeText(const platform::FileProperties& p, const lang::MessageCatalog& catalog) {
   switch (p.type) {
-    case fileops::PropertyType::File:
+    case platform::PropertyType::File:
       return Text(catalog, "typeFile", "File");
-    case fileops::PropertyType::Folder:
+    case platform::PropertyType::Folder:
       return Text(catalog, "typeFolder", "Folder");
-    case fileops::PropertyType::Link:
+    case platform::PropertyType::Link:
       return Text(catalog, "typeLink", "Link to " + p.linkTarget, {p.linkTarget});
-    case fileops::PropertyType::Other:
+    case platform::PropertyType::Other:
       return Text(catalog, "typeOther", "Special file");
-    case fileops::PropertyType::Missing:
+    case platform::PropertyType::Missing:
       break;
   }
   return std::string();
@@ -42,7 +43,7 @@ std::string TypeText(const fileops::FileProperties& p, const lang::MessageCatalo
 
 }  // namespace
 
-PropertiesDialog::PropertiesDialog(const fileops::FileProperties& p, const lang::MessageCatalog& catalog,
+PropertiesDialog::PropertiesDialog(const platform::FileProperties& p, const lang::MessageCatalog& catalog,
                                    QWidget* parent)
     : QDialog(parent) {
   setObjectName(kSection);

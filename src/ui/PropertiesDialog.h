@@ -2,7 +2,7 @@
 #include <QDialog>
 #include <QString>
 
-#include "fileops/FileProperties.h"
+#include "platform/FileSystem.h"
 #include "lang/MessageCatalog.h"
 
 class QLabel;
@@ -14,7 +14,7 @@ namespace nomra::ui {
 class PropertiesDialog final : public QDialog {
   Q_OBJECT
  public:
-  PropertiesDialog(const fileops::FileProperties& properties, const lang::MessageCatalog& catalog,
+  PropertiesDialog(const platform::FileProperties& properties, const lang::MessageCatalog& catalog,
                    QWidget* parent = nullptr);
 
   // The value shown beside a label ("lblSize"), for tests.

@@ -43,6 +43,7 @@ platform::FileStatus CommitFileSystem::Status(const std::string& path) {
 }
 
 platform::RenameResult CommitFileSystem::RenameNoReplace(const std::string& from, const std::string& to) {
+  if (!ownFolder.empty() && to.starts_with(ownFolder)) return real.RenameNoReplace(from, to);
   renames.emplace_back(from, to);
   const int number = static_cast<int>(renames.size());
   if (beforeRename) beforeRename(from, to);

@@ -28,7 +28,11 @@ class CommitFileSystem final : public ForwardingFileSystem {
  public:
   CaseMode mode = CaseMode::Sensitive;
 
-  // Every rename asked for, in order.
+  // Renames within this folder (the data folder: the journal taking its
+  // name, a journal set aside) reach the disk unlogged and unbent, so that
+  // the numbers below count the renames of the list's files alone.
+  std::string ownFolder;
+  // Every rename of the list's files asked for, in order.
   std::vector<std::pair<std::string, std::string>> renames;
   // By the number of the rename (from 1): refused with this errno, disk untouched.
   std::map<int, int> refuseWith;

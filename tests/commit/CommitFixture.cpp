@@ -25,6 +25,7 @@ CommitTest::CommitTest() {
   model.statusTexts[1] = "%1 files in %2 folders, %3 changed";
   model.statusTexts[3] = "Renamed";
   model.dataFolder = data.Path();
+  fileSystem.ownFolder = data.Path();
 }
 
 FileEntry& CommitTest::AddRow(const std::string& name, const std::string& content) {

@@ -42,6 +42,7 @@ class FatVolumeCommit : public ::testing::Test {
   FatVolumeCommit() {
     model.statusTexts[3] = "Renamed";
     model.dataFolder = data.Path();
+    fileSystem.ownFolder = data.Path();
   }
 
   void SetUp() override {

@@ -2,9 +2,11 @@
 // tools read it.
 #include <gtest/gtest.h>
 
+#include "base/DateText.h"
 #include "commit/CommitFixture.h"
 #include "commit/ProtocolWriter.h"
 #include "core/Startup.h"
+#include "support/RealFiles.h"
 
 namespace nomra::testing {
 namespace {
@@ -25,7 +27,7 @@ TEST(ProtocolRecordText, TimeIsFourteenDigitsWithLeadingZeros) {
   when.tm_hour = 3;
   when.tm_min = 4;
   when.tm_sec = 5;
-  EXPECT_EQ(ProtocolTime(when), "19990102030405");
+  EXPECT_EQ(text::FormatTimeStamp(when), "19990102030405");
 }
 
 TEST(ProtocolRecordText, NamesAreNeitherQuotedNorEscapedAndKeepTheirBytes) {
@@ -111,7 +113,7 @@ TEST_F(RenameProtocol, ListWithoutADataFolderReportsTheProtocolAndTheJournalAndW
 TEST_F(RenameProtocol, StartUpReadsWhetherToLogAndWhereTheDataFolderIs) {
   data.WriteFile("settings.nrp", "[Settings]\r\nprotren=1\r\n");
   model.dataFolder.clear();
-  const StartupPaths paths = PrepareStartup(data.Path());
+  const StartupPaths paths = PrepareStartup(RealFiles(), RealLocations(), data.Path());
 
   LoadStartupSettings(model, paths);
 
@@ -121,7 +123,7 @@ TEST_F(RenameProtocol, StartUpReadsWhetherToLogAndWhereTheDataFolderIs) {
 
 TEST_F(RenameProtocol, StartUpWithoutTheSettingDoesNotLog) {
   model.protocolRenames = true;
-  LoadStartupSettings(model, PrepareStartup(data.Path()));
+  LoadStartupSettings(model, PrepareStartup(RealFiles(), RealLocations(), data.Path()));
   EXPECT_FALSE(model.protocolRenames);
 }
 

@@ -177,6 +177,7 @@ void RunBatch(const BatchVolume& volume, const BatchGenerator& generator, const 
   MainModel model(fileSystem, frontEnd, noExif);
   model.statusTexts[3] = "Renamed";
   model.dataFolder = volume.dataFolder;
+  fileSystem.ownFolder = volume.dataFolder;
   std::vector<FileEntry*> rows;
   for (std::size_t i = 0; i < rowCount; ++i) {
     std::string path = folder + plan.names[i];

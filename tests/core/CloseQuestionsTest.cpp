@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "base/Fault.h"
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
 #include "support/ListFixture.h"
+
+using nomra::testing::Ini;
 
 namespace nomra {
 namespace {
@@ -139,7 +141,7 @@ class CloseSequenceTest : public CloseQuestionsTest {
   }
 
   bool Written(const char* section, const char* key) const {
-    return !settings::ReadIniString(section, key, settingsFile).empty();
+    return !Ini(settingsFile).ReadString(section, key).empty();
   }
 
   MainWindowSettings closing;
@@ -147,10 +149,10 @@ class CloseSequenceTest : public CloseQuestionsTest {
 };
 
 TEST_F(CloseSequenceTest, CloseWritesLayoutAndSettings) {
-  EXPECT_EQ(RunCloseSequence(closing, model, settingsFile, false, StopRecording()), CloseDecision::Close);
-  EXPECT_EQ(settings::ReadIniInt("Main", "Col8", settingsFile), 500);
-  EXPECT_EQ(settings::ReadIniInt("Main", "x", settingsFile), 10);
-  EXPECT_EQ(settings::ReadIniInt("Settings", "splash", settingsFile), 1);
+  EXPECT_EQ(RunCloseSequence(closing, model, Ini(settingsFile), false, StopRecording()), CloseDecision::Close);
+  EXPECT_EQ(Ini(settingsFile).ReadInt("Main", "Col8"), 500);
+  EXPECT_EQ(Ini(settingsFile).ReadInt("Main", "x"), 10);
+  EXPECT_EQ(Ini(settingsFile).ReadInt("Settings", "splash"), 1);
   EXPECT_TRUE(Written("FrmOpen", "ShowHiddenFiles"));
 }
 
@@ -162,7 +164,7 @@ TEST_F(CloseSequenceTest, LayoutIsWrittenBeforeTheQuestionsAndTheRestAfter) {
     restBefore = Written("Settings", "splash");
   };
   frontEnd.answers = {Answer::Yes};
-  EXPECT_EQ(RunCloseSequence(closing, model, settingsFile, true, stop), CloseDecision::Close);
+  EXPECT_EQ(RunCloseSequence(closing, model, Ini(settingsFile), true, stop), CloseDecision::Close);
   EXPECT_TRUE(layoutBefore);
   EXPECT_FALSE(restBefore);
   EXPECT_TRUE(Written("Settings", "splash"));
@@ -170,7 +172,7 @@ TEST_F(CloseSequenceTest, LayoutIsWrittenBeforeTheQuestionsAndTheRestAfter) {
 
 TEST_F(CloseSequenceTest, CancelledRecordingQuestionLeavesTheRestUnwritten) {
   frontEnd.answers = {Answer::Cancel};
-  EXPECT_EQ(RunCloseSequence(closing, model, settingsFile, true, StopRecording()), CloseDecision::Refuse);
+  EXPECT_EQ(RunCloseSequence(closing, model, Ini(settingsFile), true, StopRecording()), CloseDecision::Refuse);
   EXPECT_TRUE(Written("Main", "Col1"));
   EXPECT_TRUE(Written("Main", "ws"));
   EXPECT_FALSE(Written("Settings", "splash"));
@@ -180,7 +182,7 @@ TEST_F(CloseSequenceTest, CancelledRecordingQuestionLeavesTheRestUnwritten) {
 TEST_F(CloseSequenceTest, CancelledPendingChangesQuestionStillWritesEverySetting) {
   ListWithOnePendingName();
   frontEnd.answers = {Answer::Cancel};
-  EXPECT_EQ(RunCloseSequence(closing, model, settingsFile, false, StopRecording()), CloseDecision::Refuse);
+  EXPECT_EQ(RunCloseSequence(closing, model, Ini(settingsFile), false, StopRecording()), CloseDecision::Refuse);
   EXPECT_TRUE(Written("Main", "Col1"));
   EXPECT_TRUE(Written("Settings", "splash"));
   EXPECT_TRUE(Written("FrmOpen", "ShowHiddenFiles"));

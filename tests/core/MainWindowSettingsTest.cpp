@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
 #include "support/ListFixture.h"
+
+using nomra::testing::Ini;
 
 namespace nomra {
 namespace {
@@ -15,7 +17,7 @@ class MainWindowSettingsTest : public testing::ListTest {
 };
 
 TEST_F(MainWindowSettingsTest, MissingSettingsGiveTheDefaults) {
-  const MainWindowSettings s = ReadMainWindowSettings(EmptySettingsPath(), frontEnd);
+  const MainWindowSettings s = ReadMainWindowSettings(Ini(EmptySettingsPath()), frontEnd);
   for (long width : s.columnWidths) EXPECT_EQ(width, -1);
   EXPECT_EQ(s.ws, -1);
   EXPECT_EQ(s.x, -1);
@@ -49,7 +51,7 @@ TEST_F(MainWindowSettingsTest, ValuesAreReadFromTheirSections) {
       "[Dialogs]\r\nBackColor=255\r\nForeColor=65280\r\n\r\n"
       "[FrmOpen]\r\nchkAll=1\r\nchkSub=0\r\nDialogueStyle=2\r\nShowHiddenFiles=1\r\n\r\n"
       "[Assistant]\r\nVisible=0\r\n");
-  const MainWindowSettings s = ReadMainWindowSettings(file, frontEnd);
+  const MainWindowSettings s = ReadMainWindowSettings(Ini(file), frontEnd);
   EXPECT_EQ(s.splash, 0);
   EXPECT_EQ(s.btnbarMain, 1);
   EXPECT_EQ(s.btnbarScript, 0);
@@ -80,7 +82,7 @@ TEST_F(MainWindowSettingsTest, ValuesAreReadFromTheirSections) {
 
 TEST_F(MainWindowSettingsTest, ValueInAnotherSectionIsNotRead) {
   const std::string file = SettingsWith("[Settings]\r\nws=2\r\nBackColor=255\r\nShowHiddenFiles=1\r\nVisible=0\r\n");
-  const MainWindowSettings s = ReadMainWindowSettings(file, frontEnd);
+  const MainWindowSettings s = ReadMainWindowSettings(Ini(file), frontEnd);
   EXPECT_EQ(s.ws, -1);
   EXPECT_EQ(s.backColor, 0x80C0FF);
   EXPECT_FALSE(s.showHiddenFiles);
@@ -91,7 +93,7 @@ TEST_F(MainWindowSettingsTest, CorruptNumberInSettingsKeepsTheDefault) {
   const std::string file = SettingsWith(
       "[Main]\r\nCol2=wide\r\nCol3=2000\r\nws=max\r\n\r\n[Dialogs]\r\nBackColor=red\r\nForeColor=255\r\n\r\n"
       "[Assistant]\r\nVisible=perhaps\r\n");
-  const MainWindowSettings s = ReadMainWindowSettings(file, frontEnd);
+  const MainWindowSettings s = ReadMainWindowSettings(Ini(file), frontEnd);
   EXPECT_EQ(s.columnWidths[1], -1);
   EXPECT_EQ(s.columnWidths[2], 2000) << "the keys after a damaged one are still read";
   EXPECT_EQ(s.ws, -1);
@@ -107,7 +109,7 @@ TEST_F(MainWindowSettingsTest, CorruptNumberInSettingsKeepsTheDefault) {
 
 TEST_F(MainWindowSettingsTest, DamagedSortKeyIsPassedOverInSilence) {
   const std::string file = SettingsWith("[Settings]\r\nPreviewSortKey=name\r\nPreviewSortOrder=up\r\nsplash=0\r\n");
-  const MainWindowSettings s = ReadMainWindowSettings(file, frontEnd);
+  const MainWindowSettings s = ReadMainWindowSettings(Ini(file), frontEnd);
   EXPECT_EQ(s.previewSortKey, -1);
   EXPECT_EQ(s.previewSortOrder, -1);
   EXPECT_EQ(s.splash, 0);
@@ -116,7 +118,7 @@ TEST_F(MainWindowSettingsTest, DamagedSortKeyIsPassedOverInSilence) {
 
 TEST_F(MainWindowSettingsTest, ColoursAreReadAsDecimalOrHexadecimal) {
   const std::string file = SettingsWith("[Dialogs]\r\nBackColor=8438015\r\nForeColor=&HFF\r\n");
-  const MainWindowSettings s = ReadMainWindowSettings(file, frontEnd);
+  const MainWindowSettings s = ReadMainWindowSettings(Ini(file), frontEnd);
   EXPECT_EQ(s.backColor, 0x80C0FF);
   EXPECT_EQ(s.foreColor, 0xFF);
 }
@@ -126,9 +128,9 @@ TEST_F(MainWindowSettingsTest, ColoursAreWrittenAsDecimalNumbers) {
   s.backColor = 0x00FFEE;
   s.foreColor = 0x123456;
   const std::string file = EmptySettingsPath();
-  WriteSettingsOnClose(s, model, file);
-  EXPECT_EQ(settings::ReadIniString("Dialogs", "BackColor", file), "65518");
-  EXPECT_EQ(settings::ReadIniString("Dialogs", "ForeColor", file), "1193046");
+  WriteSettingsOnClose(s, model, Ini(file));
+  EXPECT_EQ(Ini(file).ReadString("Dialogs", "BackColor"), "65518");
+  EXPECT_EQ(Ini(file).ReadString("Dialogs", "ForeColor"), "1193046");
 }
 
 TEST_F(MainWindowSettingsTest, OnlyStyleTwoPicksTheSecondButtonVariant) {
@@ -152,7 +154,7 @@ TEST_F(MainWindowSettingsTest, LayoutOfANormalWindowIsWrittenInOrderWithItsPlace
   s.w = 12500;
   s.h = 8500;
   const std::string file = EmptySettingsPath();
-  WriteLayoutOnClose(s, file);
+  WriteLayoutOnClose(s, Ini(file));
   EXPECT_EQ(testing::ReadWholeFile(file),
             "[Main]\r\nCol1=3100\r\nCol2=3200\r\nCol3=3300\r\nCol4=0\r\nCol5=1800\r\nCol6=1700\r\nCol7=1400\r\n"
             "Col8=900\r\nws=0\r\nx=150\r\ny=250\r\nw=12500\r\nh=8500\r\n\r\n"
@@ -167,12 +169,12 @@ TEST_F(MainWindowSettingsTest, MaximisedWindowKeepsItsStoredPlace) {
   s.y = 0;
   s.w = 30000;
   s.h = 20000;
-  WriteLayoutOnClose(s, file);
-  EXPECT_EQ(settings::ReadIniInt("Main", "ws", file), 2);
-  EXPECT_EQ(settings::ReadIniInt("Main", "x", file), 100);
-  EXPECT_EQ(settings::ReadIniInt("Main", "y", file), 200);
-  EXPECT_EQ(settings::ReadIniInt("Main", "w", file), 11000);
-  EXPECT_EQ(settings::ReadIniInt("Main", "h", file), 8000);
+  WriteLayoutOnClose(s, Ini(file));
+  EXPECT_EQ(Ini(file).ReadInt("Main", "ws"), 2);
+  EXPECT_EQ(Ini(file).ReadInt("Main", "x"), 100);
+  EXPECT_EQ(Ini(file).ReadInt("Main", "y"), 200);
+  EXPECT_EQ(Ini(file).ReadInt("Main", "w"), 11000);
+  EXPECT_EQ(Ini(file).ReadInt("Main", "h"), 8000);
 }
 
 TEST_F(MainWindowSettingsTest, SettingsAreWrittenOnCloseInOrder) {
@@ -194,7 +196,7 @@ TEST_F(MainWindowSettingsTest, SettingsAreWrittenOnCloseInOrder) {
   model.loadExifDates = false;
   model.checkExistence = true;
   const std::string file = EmptySettingsPath();
-  WriteSettingsOnClose(s, model, file);
+  WriteSettingsOnClose(s, model, Ini(file));
   EXPECT_EQ(testing::ReadWholeFile(file),
             "[Settings]\r\nsplash=1\r\nbtnbarMain=1\r\nbtnbarScript=0\r\nPreviewSortKey=2\r\nPreviewSortOrder=1\r\n"
             "RenameStyle=1\r\nExpertMode=1\r\nLoadEXIFDates=0\r\nCheckExistence=1\r\n\r\n"
@@ -208,9 +210,9 @@ TEST_F(MainWindowSettingsTest, StylesAreTheLastCharacterOfTheButtonKeys) {
   s.openFileTag = "OpenFile1";
   s.takeChangesTag = "TakeChanges2";
   const std::string file = EmptySettingsPath();
-  WriteSettingsOnClose(s, model, file);
-  EXPECT_EQ(settings::ReadIniString("FrmOpen", "DialogueStyle", file), "1");
-  EXPECT_EQ(settings::ReadIniString("Settings", "RenameStyle", file), "2");
+  WriteSettingsOnClose(s, model, Ini(file));
+  EXPECT_EQ(Ini(file).ReadString("FrmOpen", "DialogueStyle"), "1");
+  EXPECT_EQ(Ini(file).ReadString("Settings", "RenameStyle"), "2");
 }
 
 TEST_F(MainWindowSettingsTest, WhatTheCloseWritesComesBackAtTheNextLoad) {
@@ -237,10 +239,10 @@ TEST_F(MainWindowSettingsTest, WhatTheCloseWritesComesBackAtTheNextLoad) {
   closed.takeChangesTag = "TakeChanges2";
   closed.showHiddenFiles = true;
   const std::string file = EmptySettingsPath();
-  WriteLayoutOnClose(closed, file);
-  WriteSettingsOnClose(closed, model, file);
+  WriteLayoutOnClose(closed, Ini(file));
+  WriteSettingsOnClose(closed, model, Ini(file));
 
-  const MainWindowSettings loaded = ReadMainWindowSettings(file, frontEnd);
+  const MainWindowSettings loaded = ReadMainWindowSettings(Ini(file), frontEnd);
   EXPECT_EQ(loaded.columnWidths, closed.columnWidths);
   EXPECT_EQ(loaded.previewStyle, closed.previewStyle);
   EXPECT_EQ(loaded.previewGridLines, closed.previewGridLines);

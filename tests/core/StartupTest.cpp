@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
 #include "support/ListFixture.h"
+
+using nomra::testing::Ini;
 
 namespace nomra {
 namespace {
@@ -13,7 +15,7 @@ class StartupTest : public testing::ListTest {
   StartupPaths Prepare(const std::string& settingsText) {
     const std::string dataFolder = temp.MakeFolder("data");
     if (!settingsText.empty()) temp.WriteFile("data/settings.nrp", settingsText);
-    return PrepareStartup(dataFolder);
+    return PrepareStartup(nomra::testing::RealFiles(), nomra::testing::RealLocations(), dataFolder);
   }
 };
 
@@ -61,7 +63,7 @@ TEST_F(StartupTest, ProtocolFileIsCreatedWhenMissing) {
 }
 
 TEST_F(StartupTest, MissingDataFolderIsCreated) {
-  const StartupPaths paths = PrepareStartup(temp.Path() + "new/levels/data");
+  const StartupPaths paths = PrepareStartup(nomra::testing::RealFiles(), nomra::testing::RealLocations(), temp.Path() + "new/levels/data");
   EXPECT_TRUE(paths.dataFolderUsable);
   EXPECT_TRUE(testing::Exists(temp.Path() + "new/levels/data/"));
   EXPECT_EQ(paths.settingsPath, temp.Path() + "new/levels/data/settings.nrp");
@@ -69,11 +71,11 @@ TEST_F(StartupTest, MissingDataFolderIsCreated) {
 
 TEST_F(StartupTest, DataFolderThatCantBeMadeGivesDefaultsAndNoCrash) {
   temp.WriteFile("plain-file", "x");
-  const StartupPaths paths = PrepareStartup(temp.Path() + "plain-file/data");
+  const StartupPaths paths = PrepareStartup(nomra::testing::RealFiles(), nomra::testing::RealLocations(), temp.Path() + "plain-file/data");
   EXPECT_FALSE(paths.dataFolderUsable);
   LoadStartupSettings(model, paths);
   EXPECT_TRUE(model.loadExifDates);
-  EXPECT_FALSE(settings::WriteIni("Settings", "x", "1", paths.settingsPath));
+  EXPECT_FALSE(Ini(paths.settingsPath).Write("Settings", "x", "1"));
 }
 
 }  // namespace

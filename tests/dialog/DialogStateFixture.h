@@ -9,6 +9,7 @@
 #include "settings/SettingsKeys.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
+#include "support/RealFiles.h"
 
 namespace nomra::testing {
 
@@ -23,13 +24,13 @@ class DialogStateTest : public ::testing::Test {
   }
 
   void Store(const dialog::DialogModel& dialog, const std::string& section) {
-    dialog::StoreDialogState(dialog, section, dialog::kSettingsMode, session);
+    dialog::StoreDialogState(dialog, section, dialog::kSettingsMode, session, nomra::testing::RealFiles());
   }
   void Restore(dialog::DialogModel& dialog, const std::string& section) {
-    dialog::RestoreDialogState(dialog, section, dialog::kSettingsMode, session, frontEnd);
+    dialog::RestoreDialogState(dialog, section, dialog::kSettingsMode, session, nomra::testing::RealFiles(), frontEnd);
   }
   void RecordStep(const dialog::DialogModel& dialog, const std::string& type) {
-    dialog::StoreDialogState(dialog, type, dialog::kScriptMode, session);
+    dialog::StoreDialogState(dialog, type, dialog::kScriptMode, session, nomra::testing::RealFiles());
   }
 
   // Stores the dialog under section "frmTest", then restores that section

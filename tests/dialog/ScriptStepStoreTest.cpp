@@ -2,7 +2,9 @@
 
 #include "base/Fault.h"
 #include "dialog/DialogStateFixture.h"
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
+
+using nomra::testing::Ini;
 
 namespace nomra {
 namespace {
@@ -22,7 +24,7 @@ class ScriptStepStoreTest : public testing::DialogStateTest {
   }
 
   std::string RecordingValue(const std::string& section, const std::string& key) const {
-    return settings::ReadIniString(section, key, session.tempPath);
+    return Ini(session.tempPath).ReadString(section, key);
   }
 };
 
@@ -84,7 +86,7 @@ TEST_F(ScriptStepStoreTest, RestoringReadsTheStepOfThePlayedScriptByItsNumber) {
                                        testing::kStandIn + "\r\n");
   WriteSettings("[2]\r\ntxtPr=from the settings\r\n");
   DialogModel dialog = Dialog("opening");
-  dialog::RestoreDialogState(dialog, "2", dialog::kScriptMode, session, frontEnd);
+  dialog::RestoreDialogState(dialog, "2", dialog::kScriptMode, session, nomra::testing::RealFiles(), frontEnd);
   EXPECT_EQ(dialog.Text("txtPr"), "two ");
 }
 

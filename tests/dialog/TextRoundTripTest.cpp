@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "dialog/DialogStateFixture.h"
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
+
+using nomra::testing::Ini;
 
 namespace nomra {
 namespace {
@@ -30,8 +32,8 @@ TEST_F(TextRoundTripTest, BlanksAreStoredAsTheStandInAndComeBackAsBlanks) {
 }
 
 TEST_F(TextRoundTripTest, TextOfBlanksOnlyComesBackAsBlanksWhereAPlainValueWouldBeEmpty) {
-  settings::WriteIni("Plain", "txtFirst", "   ", session.settingsPath);
-  EXPECT_EQ(settings::ReadIniString("Plain", "txtFirst", session.settingsPath), "");
+  Ini(session.settingsPath).Write("Plain", "txtFirst", "   ");
+  EXPECT_EQ(Ini(session.settingsPath).ReadString("Plain", "txtFirst"), "");
   EXPECT_EQ(TextAfterRoundTrip("   "), "   ");
 }
 

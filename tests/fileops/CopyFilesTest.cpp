@@ -95,7 +95,8 @@ TEST_F(CopyFilesTest, StopWhileALargeFileIsCopiedLeavesNoPartOfIt) {
     bool Report(const ProgressStep&) override { return ++reports < 2; }
     void End() override {}
   } stopInside(reports);
-  OperationServices stopping{os, frontEnd, stopInside, services.clock};
+  platform::FreedesktopTrash stoppingTrash{os, nomra::testing::RealLocations()};
+  OperationServices stopping{os, stoppingTrash, frontEnd, stopInside, services.clock};
 
   CopyFileList(JoinPathList(sources), JoinPathList(targets), false, aborted, stopping);
 

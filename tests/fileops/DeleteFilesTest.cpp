@@ -5,7 +5,7 @@
 #include "fileops/FileListOperations.h"
 #include "fileops/PathList.h"
 #include "fileops/ListOperationsFixture.h"
-#include "settings/ScopedEnvironment.h"
+#include "support/ScopedEnvironment.h"
 
 namespace nomra::fileops::testing {
 namespace {
@@ -69,10 +69,11 @@ TEST_F(DeleteFilesTest, FailureIsToldAndTheOthersGoOnWhenAsked) {
 }
 
 TEST_F(DeleteFilesTest, FailureOfTheCallComesBackAsZero) {
-  struct Throwing final : ForwardingOperationSystem {
+  struct Throwing final : ForwardingFileSystem {
     int RemoveFile(const std::string&) override { throw std::runtime_error("gone wrong"); }
   } throwing;
-  OperationServices with{throwing, frontEnd, progress, services.clock};
+  platform::FreedesktopTrash withTrash{throwing, nomra::testing::RealLocations()};
+  OperationServices with{throwing, withTrash, frontEnd, progress, services.clock};
 
   EXPECT_EQ(DeleteFileList(JoinPathList({temp.WriteFile("a.txt")}), false, false, with), 0);
 }
@@ -139,12 +140,13 @@ TEST_F(DeleteListFilesTest, EmptySelectionDeletesNothingAndNoRowGoes) {
 
 TEST_F(DeleteListFilesTest, RowOfAFileThatCouldNotBeDeletedStays) {
   AddFiles({"a.txt", "b.txt", "c.txt"});
-  struct RefusingB final : ForwardingOperationSystem {
+  struct RefusingB final : ForwardingFileSystem {
     int RemoveFile(const std::string& path) override {
       return path.ends_with("/b.txt") ? EACCES : real.RemoveFile(path);
     }
   } refusing;
-  OperationServices with{refusing, frontEnd, progress};
+  platform::FreedesktopTrash withTrash{refusing, nomra::testing::RealLocations()};
+  OperationServices with{refusing, withTrash, frontEnd, progress};
   frontEnd.answers = {Answer::Yes, Answer::Ok, Answer::Yes};
 
   DeleteListFiles(model, false, with);

@@ -18,9 +18,9 @@ namespace {
 
 // Copies as the real system does, but the copy numbered `failAt` (from 1)
 // fails with `error`, having written half the file and left it there.
-class FailingCopySystem final : public ForwardingOperationSystem {
+class FailingCopySystem final : public ForwardingFileSystem {
  public:
-  int CopyFile(const std::string& from, const std::string& to, const CopyTick& tick, bool durable) override {
+  int CopyFile(const std::string& from, const std::string& to, const platform::CopyTick& tick, bool durable) override {
     if (++copies != failAt) return real.CopyFile(from, to, tick, durable);
     const std::string bytes = ReadWholeFile(from);
     std::ofstream(to, std::ios::binary) << bytes.substr(0, bytes.size() / 2);
@@ -41,8 +41,9 @@ class FaultTest : public OperationsTest {
     }
     temp.MakeFolder("target");
   }
-  int Run(OperationSystem& with, bool move = false) {
-    OperationServices bent{with, frontEnd, progress, services.clock};
+  int Run(platform::FileSystem& with, bool move = false) {
+    platform::FreedesktopTrash bentTrash{with, nomra::testing::RealLocations()};
+    OperationServices bent{with, bentTrash, frontEnd, progress, services.clock};
     const std::string from = JoinPathList(sources);
     const std::string to = JoinPathList(targets);
     return move ? MoveFileList(from, to, false, aborted, bent) : CopyFileList(from, to, false, aborted, bent);
@@ -100,7 +101,7 @@ TEST_F(FaultTest, DiskThatFillsLeavesNoPartOfTheCopyAndTellsWhy) {
 TEST_F(FaultTest, DiskThatFillsDuringAMoveAcrossVolumesKeepsTheSource) {
   MakeFiles(1);
   struct CrossingAndFull final : CrossVolumeSystem {
-    int CopyFile(const std::string&, const std::string& to, const CopyTick&, bool) override {
+    int CopyFile(const std::string&, const std::string& to, const platform::CopyTick&, bool) override {
       std::ofstream(to, std::ios::binary) << "half";
       return ENOSPC;
     }
@@ -116,7 +117,7 @@ TEST_F(FaultTest, DiskThatFillsDuringAMoveAcrossVolumesKeepsTheSource) {
 TEST_F(FaultTest, CopyShorterThanItsSourceIsNotTakenAndTheMoveKeepsTheSource) {
   MakeFiles(1);
   struct CrossingShort final : CrossVolumeSystem {
-    int CopyFile(const std::string& from, const std::string& to, const CopyTick&, bool) override {
+    int CopyFile(const std::string& from, const std::string& to, const platform::CopyTick&, bool) override {
       std::ofstream(to, std::ios::binary) << ReadWholeFile(from).substr(1);
       return 0;
     }

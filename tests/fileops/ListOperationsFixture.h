@@ -21,9 +21,10 @@ class ListOperationsTest : public nomra::testing::ListTest {
     return keys;
   }
 
-  ForwardingOperationSystem os;
+  ForwardingFileSystem os;
   ScriptedProgress progress;
-  OperationServices services{os, frontEnd, progress};
+  platform::FreedesktopTrash trash{os, nomra::testing::RealLocations()};
+  OperationServices services{os, trash, frontEnd, progress};
 };
 
 }  // namespace nomra::fileops::testing

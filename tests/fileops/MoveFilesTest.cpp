@@ -26,7 +26,7 @@ class CountingCrossVolumeSystem final : public CrossVolumeSystem {
     if (path == refuseRemoving) return EACCES;
     return real.RemoveFile(path);
   }
-  int CopyFile(const std::string& from, const std::string& to, const CopyTick& tick, bool durable) override {
+  int CopyFile(const std::string& from, const std::string& to, const platform::CopyTick& tick, bool durable) override {
     durableCopies += durable ? 1 : 0;
     return real.CopyFile(from, to, tick, durable);
   }
@@ -89,7 +89,8 @@ TEST_F(MoveFilesTest, AcrossRealVolumesTheFileIsCopiedThenTheSourceGoes) {
 
 TEST_F(MoveFilesTest, AcrossVolumesTheCopyIsMadeDurableBeforeTheSourceGoes) {
   CountingCrossVolumeSystem crossing;
-  OperationServices with{crossing, frontEnd, progress, services.clock};
+  platform::FreedesktopTrash withTrash{crossing, nomra::testing::RealLocations()};
+  OperationServices with{crossing, withTrash, frontEnd, progress, services.clock};
   sources.push_back(temp.WriteFile("source/a.txt", "a"));
   targets.push_back(temp.MakeFolder("target") + "a.txt");
 
@@ -103,7 +104,8 @@ TEST_F(MoveFilesTest, AcrossVolumesTheCopyIsMadeDurableBeforeTheSourceGoes) {
 
 TEST_F(MoveFilesTest, SourceThatCantBeRemovedAfterTheCopyIsToldAndKept) {
   CountingCrossVolumeSystem crossing;
-  OperationServices with{crossing, frontEnd, progress, services.clock};
+  platform::FreedesktopTrash withTrash{crossing, nomra::testing::RealLocations()};
+  OperationServices with{crossing, withTrash, frontEnd, progress, services.clock};
   sources.push_back(temp.WriteFile("source/a.txt", "a"));
   targets.push_back(temp.MakeFolder("target") + "a.txt");
   crossing.refuseRemoving = sources[0];

@@ -9,7 +9,9 @@
 
 #include "fileops/MessageKeys.h"
 #include "fileops/OperationServices.h"
-#include "fileops/posix/PosixOperationSystem.h"
+#include "platform/posix/FreedesktopTrash.h"
+#include "support/ForwardingFileSystem.h"
+#include "support/RealFiles.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
 
@@ -19,47 +21,33 @@ using nomra::testing::ReadWholeFile;
 using nomra::testing::ScriptedFrontEnd;
 using nomra::testing::TempFolder;
 
-// The real system calls; a test overrides the one it wants to bend.
-class ForwardingOperationSystem : public OperationSystem {
- public:
-  EntryInfo Inspect(const std::string& path) override { return real.Inspect(path); }
-  int CopyFile(const std::string& from, const std::string& to, const CopyTick& tick, bool durable) override {
-    return real.CopyFile(from, to, tick, durable);
-  }
-  int Rename(const std::string& from, const std::string& to, bool replace) override {
-    return real.Rename(from, to, replace);
-  }
-  int RemoveFile(const std::string& path) override { return real.RemoveFile(path); }
-  int MakeFolder(const std::string& path, unsigned mode) override { return real.MakeFolder(path, mode); }
-  int WriteNewFile(const std::string& path, std::string_view content) override {
-    return real.WriteNewFile(path, content);
-  }
-  bool ListFolder(const std::string& folder, const std::function<void(std::string_view)>& visit) override {
-    return real.ListFolder(folder, visit);
-  }
-  std::string DataHome() override { return real.DataHome(); }
-  unsigned UserId() override { return real.UserId(); }
-
- protected:
-  PosixOperationSystem real;
-};
+using nomra::testing::ForwardingFileSystem;
 
 // Each rename but that of a finished work file answers as if it crossed
 // from one volume to another.
-class CrossVolumeSystem : public ForwardingOperationSystem {
+class CrossVolumeSystem : public ForwardingFileSystem {
  public:
-  int Rename(const std::string& from, const std::string& to, bool replace) override {
-    if (from.find("/.nomra-part-") != std::string::npos) return real.Rename(from, to, replace);
+  platform::RenameResult RenameNoReplace(const std::string& from, const std::string& to) override {
+    if (IsWorkFile(from)) return real.RenameNoReplace(from, to);
+    ++crossings;
+    return {false, EXDEV};
+  }
+  int RenameReplacing(const std::string& from, const std::string& to) override {
+    if (IsWorkFile(from)) return real.RenameReplacing(from, to);
     ++crossings;
     return EXDEV;
   }
   int crossings = 0;
+
+ private:
+  static bool IsWorkFile(const std::string& path) { return path.find("/.nomra-part-") != std::string::npos; }
 };
 
 // The names in a folder, sorted.
 inline std::vector<std::string> NamesIn(const std::string& folder) {
   std::vector<std::string> names;
-  PosixOperationSystem().ListFolder(folder, [&](std::string_view name) { names.emplace_back(name); });
+  nomra::testing::RealFiles().ListFolder(folder,
+                                         [&](std::string_view name, platform::EntryKind) { names.emplace_back(name); });
   std::sort(names.begin(), names.end());
   return names;
 }
@@ -98,10 +86,11 @@ class OperationsTest : public ::testing::Test {
   }
 
   TempFolder temp;
-  ForwardingOperationSystem os;
+  ForwardingFileSystem os;
+  platform::FreedesktopTrash trash{os, nomra::testing::RealLocations()};
   ScriptedFrontEnd frontEnd;
   ScriptedProgress progress;
-  OperationServices services{os, frontEnd, progress, [] {
+  OperationServices services{os, trash, frontEnd, progress, [] {
                                std::tm fixed{};
                                fixed.tm_year = 2024 - 1900;
                                fixed.tm_mon = 2;

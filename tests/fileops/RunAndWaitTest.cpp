@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "fileops/RunAndWait.h"
-#include "fileops/posix/PosixProcesses.h"
+#include "platform/posix/PosixProcesses.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
 
@@ -12,7 +12,7 @@ namespace {
 using nomra::testing::ScriptedFrontEnd;
 
 // Ends after a given number of looks.
-class CountingProcesses final : public ProcessControl {
+class CountingProcesses final : public platform::Processes {
  public:
   long Start(const std::vector<std::string>& command) override {
     started = command;
@@ -32,7 +32,7 @@ class CountingProcesses final : public ProcessControl {
 
 TEST(RunAndWaitTest, ReturnsTheProgramsExitCode) {
   ScriptedFrontEnd frontEnd;
-  PosixProcesses processes;
+  platform::PosixProcesses processes;
   EXPECT_EQ(RunAndWait({"sh", "-c", "exit 3"}, false, frontEnd, processes), 3);
 }
 
@@ -40,7 +40,7 @@ TEST(RunAndWaitTest, WaitsUntilTheProgramHasEnded) {
   nomra::testing::TempFolder temp;
   const std::string marker = temp.Path() + "done";
   ScriptedFrontEnd frontEnd;
-  PosixProcesses processes;
+  platform::PosixProcesses processes;
 
   RunAndWait({"sh", "-c", "sleep 0.2; echo > '" + marker + "'"}, true, frontEnd, processes);
 
@@ -64,14 +64,14 @@ TEST(RunAndWaitTest, PumpRunsBetweenLooksOnlyWhenAskedFor) {
 
 TEST(RunAndWaitTest, ProgramThatCantStartGivesMinusOne) {
   ScriptedFrontEnd frontEnd;
-  PosixProcesses processes;
+  platform::PosixProcesses processes;
   EXPECT_EQ(RunAndWait({"/nonexistent/nomra-helper"}, true, frontEnd, processes), -1);
   EXPECT_EQ(frontEnd.pumps, 0);
 }
 
 TEST(RunAndWaitTest, ProgramEndedByASignalCountsAbove128) {
   ScriptedFrontEnd frontEnd;
-  PosixProcesses processes;
+  platform::PosixProcesses processes;
   EXPECT_EQ(RunAndWait({"sh", "-c", "kill -9 $$"}, false, frontEnd, processes), 128 + 9);
 }
 

@@ -6,7 +6,9 @@
 #include "core/AddFile.h"
 #include "fileops/FrmSelAction.h"
 #include "fileops/ListOperationsFixture.h"
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
+
+using nomra::testing::Ini;
 
 namespace nomra::fileops::testing {
 namespace {
@@ -72,7 +74,7 @@ TEST_F(SelActionTest, CopyModeShowsTheUpdateCheckBoxToChoose) {
 }
 
 TEST_F(SelActionTest, MoveModeKeepsTheUpdateCheckBoxCheckedAndDisabled) {
-  settings::WriteIni(kMoveFilesTag, "chkUpdateList", "0", model.script.settingsPath);
+  Ini(model.script.settingsPath).Write(kMoveFilesTag, "chkUpdateList", "0");
   FrmSelAction dialog(kMoveFilesTag);
 
   dialog.Activate(model);
@@ -122,7 +124,7 @@ TEST_F(SelActionTest, RemembersItsInputsUnderItsTag) {
   FrmSelAction otherMode(kMoveFilesTag);
   otherMode.Activate(model);
 
-  EXPECT_EQ(settings::ReadIniString(kCopyFilesTag, "txtTargetPath", model.script.settingsPath), target);
+  EXPECT_EQ(Ini(model.script.settingsPath).ReadString(kCopyFilesTag, "txtTargetPath"), target);
   EXPECT_EQ(again.Model().Text("txtTargetPath"), target);
   EXPECT_EQ(again.Model().Number("chkUpdateList"), 1);
   EXPECT_TRUE(again.OkEnabled());

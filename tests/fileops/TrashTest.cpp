@@ -9,9 +9,9 @@
 
 #include "fileops/FileListOperations.h"
 #include "fileops/PathList.h"
-#include "fileops/Trash.h"
+#include "platform/posix/FreedesktopTrash.h"
 #include "fileops/OperationsFixture.h"
-#include "settings/ScopedEnvironment.h"
+#include "support/ScopedEnvironment.h"
 
 namespace nomra::fileops::testing {
 namespace {
@@ -94,15 +94,15 @@ TEST_F(TrashTest, ConfirmationCountsSeveralFiles) {
 }
 
 TEST_F(TrashTest, EscapingKeepsTheSeparatorAndEscapesReservedBytes) {
-  EXPECT_EQ(EscapeTrashPath("/a%b#c?d/e~f-g_h.i"), "/a%25b%23c%3Fd/e~f-g_h.i");
+  EXPECT_EQ(platform::EscapeTrashPath("/a%b#c?d/e~f-g_h.i"), "/a%25b%23c%3Fd/e~f-g_h.i");
 }
 
 // Paths under the volume folder answer as another volume would.
-class TwoVolumeSystem final : public ForwardingOperationSystem {
+class TwoVolumeSystem final : public ForwardingFileSystem {
  public:
   explicit TwoVolumeSystem(std::string volume) : volume_(std::move(volume)) {}
-  EntryInfo Inspect(const std::string& path) override {
-    EntryInfo info = real.Inspect(path);
+  platform::FileStatus Inspect(const std::string& path) override {
+    platform::FileStatus info = real.Inspect(path);
     info.device = path.starts_with(volume_) ? 111 : 222;
     return info;
   }
@@ -115,7 +115,8 @@ class VolumeTrashTest : public TrashTest {
  protected:
   VolumeTrashTest() : volume(temp.MakeFolder("volume")), twoVolumes(volume.substr(0, volume.size() - 1)) {}
   int TrashOnVolume(const std::string& file) {
-    OperationServices with{twoVolumes, frontEnd, progress, services.clock};
+    platform::FreedesktopTrash withTrash{twoVolumes, nomra::testing::RealLocations()};
+    OperationServices with{twoVolumes, withTrash, frontEnd, progress, services.clock};
     return DeleteFileList(JoinPathList({file}), true, false, with);
   }
   std::string uid = std::to_string(getuid());
@@ -185,14 +186,15 @@ TEST_F(TrashTest, RealSecondVolumeUsesItsOwnTrash) {
 }
 
 // The trash can't take the record.
-class RefusingTrashSystem final : public ForwardingOperationSystem {
+class RefusingTrashSystem final : public ForwardingFileSystem {
  public:
   int WriteNewFile(const std::string&, std::string_view) override { return EACCES; }
 };
 
 TEST_F(TrashTest, FileTheTrashRefusesIsDeletedAtOnceOnlyOnYes) {
   RefusingTrashSystem refusing;
-  OperationServices with{refusing, frontEnd, progress, services.clock};
+  platform::FreedesktopTrash withTrash{refusing, nomra::testing::RealLocations()};
+  OperationServices with{refusing, withTrash, frontEnd, progress, services.clock};
   const std::string kept = temp.WriteFile("files/kept.txt");
   const std::string gone = temp.WriteFile("files/gone.txt");
   frontEnd.answers = {Answer::No, Answer::Yes};
@@ -207,7 +209,8 @@ TEST_F(TrashTest, FileTheTrashRefusesIsDeletedAtOnceOnlyOnYes) {
 
 TEST_F(TrashTest, CancelWhenTheTrashRefusesStopsTheRest) {
   RefusingTrashSystem refusing;
-  OperationServices with{refusing, frontEnd, progress, services.clock};
+  platform::FreedesktopTrash withTrash{refusing, nomra::testing::RealLocations()};
+  OperationServices with{refusing, withTrash, frontEnd, progress, services.clock};
   const std::string a = temp.WriteFile("files/a.txt");
   const std::string b = temp.WriteFile("files/b.txt");
   frontEnd.answers = {Answer::Cancel};

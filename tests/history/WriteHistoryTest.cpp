@@ -20,7 +20,7 @@ TEST_F(WriteHistory, RowsAreWrittenInTheOrderShownWithCrLf) {
   Load();
   history::ClickHistoryHead(list, 2);
 
-  history::writeHistoryData(list, data.Path());
+  history::writeHistoryData(list, data.Path(), fileSystem);
 
   EXPECT_EQ(Protocol(), Record("a", "1") + "\r\n" + Record("b", "2") + "\r\n");
 }
@@ -31,7 +31,7 @@ TEST_F(WriteHistory, ReadingAndWritingKeepsASoundProtocolByteForByte) {
   const std::string before = Protocol();
   Load();
 
-  history::writeHistoryData(list, data.Path());
+  history::writeHistoryData(list, data.Path(), fileSystem);
 
   EXPECT_EQ(Protocol(), before);
 }
@@ -40,7 +40,7 @@ TEST_F(WriteHistory, NoTemporaryFileStaysBehind) {
   WriteProtocol({Record("a", "b")});
   Load();
 
-  history::writeHistoryData(list, data.Path());
+  history::writeHistoryData(list, data.Path(), fileSystem);
 
   EXPECT_FALSE(Exists(data.Path() + "renamed.tmp"));
 }
@@ -50,7 +50,7 @@ TEST_F(WriteHistory, TemporaryFileLeftByACrashAddsNothing) {
   data.WriteFile("renamed.tmp", "19990101000000\"/stale/\"x\"y\r\n");
   Load();
 
-  history::writeHistoryData(list, data.Path());
+  history::writeHistoryData(list, data.Path(), fileSystem);
 
   EXPECT_EQ(Protocol(), Record("a", "b") + "\r\n");
   EXPECT_FALSE(Exists(data.Path() + "renamed.tmp"));
@@ -63,14 +63,14 @@ TEST_F(WriteHistory, FailedRewriteLeavesTheOldProtocolWhole) {
   list.rows.pop_back();
   data.MakeFolder("renamed.tmp");
 
-  EXPECT_THROW(history::writeHistoryData(list, data.Path()), RuntimeFault);
+  EXPECT_THROW(history::writeHistoryData(list, data.Path(), fileSystem), RuntimeFault);
 
   EXPECT_EQ(Protocol(), before);
 }
 
 TEST_F(WriteHistory, MissingDataFolderIsAFault) {
-  EXPECT_THROW(history::writeHistoryData(list, data.Path() + "no/such/"), RuntimeFault);
-  EXPECT_THROW(history::writeHistoryData(list, ""), RuntimeFault);
+  EXPECT_THROW(history::writeHistoryData(list, data.Path() + "no/such/", fileSystem), RuntimeFault);
+  EXPECT_THROW(history::writeHistoryData(list, "", fileSystem), RuntimeFault);
 }
 
 TEST_F(WriteHistory, MissingProtocolIsCreated) {
@@ -81,7 +81,7 @@ TEST_F(WriteHistory, MissingProtocolIsCreated) {
   row.newName = "b";
   list.rows.push_back(row);
 
-  history::writeHistoryData(list, data.Path());
+  history::writeHistoryData(list, data.Path(), fileSystem);
 
   EXPECT_EQ(Protocol(), std::string(kTime) + "\"/d/\"a\"b\r\n");
 }
@@ -90,7 +90,7 @@ TEST_F(WriteHistory, Windows1252LineIsWrittenBackAsUtf8) {
   WriteProtocol({Record("caf\xE9", "gone\x80")});
   Load();
 
-  history::writeHistoryData(list, data.Path());
+  history::writeHistoryData(list, data.Path(), fileSystem);
 
   EXPECT_EQ(Protocol(), Record("caf\xC3\xA9", "gone\xE2\x82\xAC") + "\r\n");
 }
@@ -99,7 +99,7 @@ TEST_F(WriteHistory, LineWithoutSeparatorIsWrittenBackWithEmptyFields) {
   WriteProtocol({"garbage"});
   Load();
 
-  history::writeHistoryData(list, data.Path());
+  history::writeHistoryData(list, data.Path(), fileSystem);
 
   EXPECT_EQ(Protocol(), "garbage\"\"\"\r\n");
 }
@@ -109,7 +109,7 @@ TEST_F(WriteHistory, PermissionsOfTheProtocolAreKept) {
   std::filesystem::permissions(ProtocolPath(), std::filesystem::perms(0640));
   Load();
 
-  history::writeHistoryData(list, data.Path());
+  history::writeHistoryData(list, data.Path(), fileSystem);
 
   EXPECT_EQ(std::filesystem::status(ProtocolPath()).permissions() & std::filesystem::perms::all,
             std::filesystem::perms(0640));

@@ -5,6 +5,7 @@
 
 #include "LanguageFile.h"
 #include "lang/ChooseLanguage.h"
+#include "support/RealFiles.h"
 #include "support/TempFolder.h"
 
 namespace nomra::lang {
@@ -17,8 +18,8 @@ using testing::WriteLanguageFile;
 struct Folders {
   TempFolder app;
   TempFolder data;
-  std::string Settings(const std::string& language) const {
-    return data.WriteFile("settings.nrp", "[Settings]\r\nlng=" + language + "\r\n");
+  formats::IniFile Settings(const std::string& language) const {
+    return nomra::testing::Ini(data.WriteFile("settings.nrp", "[Settings]\r\nlng=" + language + "\r\n"));
   }
 };
 
@@ -80,7 +81,7 @@ TEST(ChooseLanguage, SeveralFilesAndNoSettingLeaveTheChoiceToTheUser) {
   Folders folders;
   WriteLanguageFile(folders.app, "Deutsch.lng", {"[Main]", "lngname=Deutsch"});
   WriteLanguageFile(folders.app, "Unnamed.lng", {"[Main]", "charset=0"});
-  const auto choice = ChooseLanguage(folders.app.Path(), folders.data.Path() + "settings.nrp");
+  const auto choice = ChooseLanguage(folders.app.Path(), nomra::testing::Ini(folders.data.Path() + "settings.nrp"));
   EXPECT_EQ(choice.outcome, LanguageOutcome::UserMustChoose);
 }
 
@@ -99,7 +100,7 @@ TEST(ChooseLanguage, ListsEveryLngFileWithItsLanguageNameWhateverTheCaseOfTheEnd
   const auto upper = WriteLanguageFile(folders.app, "Deutsch.LNG", {"[Main]", "lngname=Deutsch"});
   const auto lower = WriteLanguageFile(folders.app, "English.lng", {"[Main]", "lngname=English"});
   folders.app.WriteFile("English.lng.bak", "[Main]\r\nlngname=Old\r\n");
-  auto files = ListLanguageFiles(folders.app.Path());
+  auto files = ListLanguageFiles(nomra::testing::RealFiles(), folders.app.Path());
   std::sort(files.begin(), files.end(), [](const auto& a, const auto& b) { return a.path < b.path; });
   ASSERT_EQ(files.size(), 2u);
   EXPECT_EQ(files[0].path, upper);
@@ -110,7 +111,7 @@ TEST(ChooseLanguage, ListsEveryLngFileWithItsLanguageNameWhateverTheCaseOfTheEnd
 
 TEST(ChooseLanguage, MissingProgramFolderHasNoLanguageFiles) {
   TempFolder temp;
-  EXPECT_TRUE(ListLanguageFiles(temp.Path() + "gone/").empty());
+  EXPECT_TRUE(ListLanguageFiles(nomra::testing::RealFiles(), temp.Path() + "gone/").empty());
 }
 
 }  // namespace

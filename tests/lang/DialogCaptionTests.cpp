@@ -9,6 +9,7 @@
 #include "base/CaseMap.h"
 #include "lang/LocaliseForm.h"
 #include "support/TempFolder.h"
+#include "support/RealFiles.h"
 
 namespace nomra::lang {
 namespace {
@@ -29,7 +30,7 @@ CaptionSources MainMenu() {
 class DialogCaption : public ::testing::Test {
  protected:
   MessageCatalog Catalog(std::initializer_list<std::string> lines) {
-    return MessageCatalog(WriteLanguageFile(temp_, "de.lng", lines));
+    return MessageCatalog(nomra::testing::RealFiles(), WriteLanguageFile(temp_, "de.lng", lines));
   }
 
  private:

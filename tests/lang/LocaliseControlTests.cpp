@@ -6,6 +6,7 @@
 #include "LanguageFile.h"
 #include "lang/LocaliseForm.h"
 #include "support/TempFolder.h"
+#include "support/RealFiles.h"
 
 namespace nomra::lang {
 namespace {
@@ -17,7 +18,7 @@ using testing::WriteLanguageFile;
 class LocaliseControls : public ::testing::Test {
  protected:
   MessageCatalog Catalog(std::initializer_list<std::string> lines) {
-    return MessageCatalog(WriteLanguageFile(temp_, "de.lng", lines));
+    return MessageCatalog(nomra::testing::RealFiles(), WriteLanguageFile(temp_, "de.lng", lines));
   }
   void Localise(FakeForm& form, const MessageCatalog& catalog, std::string_view section = {}) {
     LocaliseForm(form, section, catalog, CaptionSources{});

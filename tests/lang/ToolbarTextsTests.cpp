@@ -6,6 +6,7 @@
 #include "LanguageFile.h"
 #include "lang/LocaliseForm.h"
 #include "support/TempFolder.h"
+#include "support/RealFiles.h"
 
 namespace nomra::lang {
 namespace {
@@ -29,7 +30,7 @@ class ToolbarTexts : public ::testing::Test {
     return bar;
   }
   void Localise(std::initializer_list<std::string> lines) {
-    LocaliseForm(form_, {}, MessageCatalog(WriteLanguageFile(temp_, "de.lng", lines)), CaptionSources{});
+    LocaliseForm(form_, {}, MessageCatalog(nomra::testing::RealFiles(), WriteLanguageFile(temp_, "de.lng", lines)), CaptionSources{});
   }
 
  private:

@@ -3,22 +3,25 @@
 #include <gtest/gtest.h>
 
 #include "support/TempFolder.h"
+#include "support/RealFiles.h"
 
 namespace nomra::open {
 namespace {
+
+using nomra::testing::Ini;
 
 class FilterListTest : public ::testing::Test {
  protected:
   std::vector<FilterRow> Build(const std::string& filterSection) {
     const std::string file = temp.WriteFile("settings.nrp", "[Settings]\r\nlastfilter=2\r\n[Filter]\r\n" + filterSection);
-    return BuildFilterList(file, "All files");
+    return BuildFilterList(Ini(file), "All files");
   }
 
   testing::TempFolder temp;
 };
 
 TEST_F(FilterListTest, FirstRowTakesEveryFile) {
-  const std::vector<FilterRow> rows = BuildFilterList(temp.Path() + "none.nrp", "Alle Dateien");
+  const std::vector<FilterRow> rows = BuildFilterList(Ini(temp.Path() + "none.nrp"), "Alle Dateien");
   ASSERT_EQ(rows.size(), 1u);
   EXPECT_EQ(rows[0].text, "Alle Dateien");
   EXPECT_EQ(rows[0].pattern, "*.*");

@@ -9,9 +9,12 @@
 #include "open/FilterList.h"
 #include "open/OpenCommand.h"
 #include "open/PowerFilters.h"
+#include "support/RealFiles.h"
 
 namespace nomra::open {
 namespace {
+
+using nomra::testing::Ini;
 
 TEST(FilterOddCharactersTest, SemicolonIsAnOrdinaryCharacterOfTheSystemDialogsPattern) {
   EXPECT_FALSE(PassesFilter("a.mp3", "*.mp3;*.ogg"));
@@ -111,7 +114,7 @@ class FilterRowsWithOddCharactersTest : public testing::OpenTest {
     choice.paths = {temp.Path() + "files"};
     choice.allFiles = true;
     choice.filterIndex = filterIndex;
-    RunOpenChoice(model, choice, filters, settingsFile, false);
+    RunOpenChoice(model, choice, filters, Ini(settingsFile), false);
   }
 
   std::vector<FilterRow> filters;
@@ -120,7 +123,7 @@ class FilterRowsWithOddCharactersTest : public testing::OpenTest {
 TEST_F(FilterRowsWithOddCharactersTest, AllFilesTakeWhatTheRowsPatternSays) {
   const std::string settings = temp.WriteFile(
       "filters.nrp", "[Filter]\r\nf1=Sound|*.mp3;*.ogg\r\nf2=Drafts|[[]*\r\nf3=\xC3\x84pfel|\xC3\xA4*\r\n");
-  filters = BuildFilterList(settings, "All files");
+  filters = BuildFilterList(Ini(settings), "All files");
   ASSERT_EQ(filters.size(), 4u);
   temp.WriteFile("files/a.mp3");
   temp.WriteFile("files/b.ogg");

@@ -9,9 +9,12 @@
 #include "OpenFixture.h"
 #include "open/OpenCommand.h"
 #include "open/StagedFiles.h"
+#include "support/RealFiles.h"
 
 namespace nomra::open {
 namespace {
+
+using nomra::testing::Ini;
 
 constexpr int kFileCount = 50000;
 constexpr long kStopAfter = 20000;
@@ -69,7 +72,7 @@ TEST_F(LargeFolderCancelTest, AllFilesOfTheOpenCommandKeepWhatWasLoadedWhenStopp
   choice.allFiles = true;
   StopAfterManyFiles();
 
-  EXPECT_EQ(RunOpenChoice(model, choice, filters, settingsFile, false), LoadOutcome::Cancelled);
+  EXPECT_EQ(RunOpenChoice(model, choice, filters, Ini(settingsFile), false), LoadOutcome::Cancelled);
 
   // The file during whose adding the button was pressed still comes in.
   EXPECT_EQ(model.list.Count(), kStopAfter);
@@ -121,7 +124,7 @@ TEST_F(LargeFolderCancelTest, PlaylistOfTheOpenCommandIsStoppedAndTheFlagCleared
   choice.paths = {Playlist(), Playlist()};
   StopAfterManyFiles();
 
-  EXPECT_EQ(RunOpenChoice(model, choice, {}, settingsFile, false), LoadOutcome::Cancelled);
+  EXPECT_EQ(RunOpenChoice(model, choice, {}, Ini(settingsFile), false), LoadOutcome::Cancelled);
 
   EXPECT_EQ(model.list.Count(), kStopAfter);
   EXPECT_FALSE(model.cancelLoading);

@@ -8,20 +8,23 @@
 #include "OpenFixture.h"
 #include "base/Fault.h"
 #include "core/AddFile.h"
-#include "settings/ScopedEnvironment.h"
+#include "support/ScopedEnvironment.h"
+#include "support/RealFiles.h"
 
 namespace nomra::open {
 namespace {
+
+using nomra::testing::Ini;
 
 class OpenCommandTest : public testing::OpenTest {
  protected:
   OpenCommandTest() {
     temp.WriteFile("settings.nrp", "[Filter]\r\nf1=Music|*.mp3\r\nf2=Sound|*.mp3;*.ogg\r\nf3=Pictures|*.jpg\r\n");
-    filters = BuildFilterList(temp.Path() + "settings.nrp", "All files");
+    filters = BuildFilterList(Ini(temp.Path() + "settings.nrp"), "All files");
   }
 
   LoadOutcome Run(const OpenChoice& choice, bool showHiddenFiles = false) {
-    return RunOpenChoice(model, choice, filters, settingsFile, showHiddenFiles);
+    return RunOpenChoice(model, choice, filters, Ini(settingsFile), showHiddenFiles);
   }
 
   // Every file of the folder, all of them through row 2 ("*.mp3").
@@ -279,15 +282,15 @@ TEST_F(OpenCommandTest, CancelInAPlaylistSkipsTheLaterPlaylistsAndClearsTheFlag)
 
 TEST_F(OpenCommandTest, InitialFolderIsTheRememberedOne) {
   const std::string music = temp.MakeFolder("music");
-  settings::WriteIni("Settings", "lastpath", music, settingsFile);
-  EXPECT_EQ(InitialFolder(settingsFile), music);
+  Ini(settingsFile).Write("Settings", "lastpath", music);
+  EXPECT_EQ(InitialFolder(Ini(settingsFile), nomra::testing::RealLocations().HomeFolder()), music);
 }
 
 TEST_F(OpenCommandTest, InitialFolderIsHomeWhenTheRememberedOneIsGone) {
   const testing::ScopedEnvironment home("HOME", temp.Path() + "home");
-  EXPECT_EQ(InitialFolder(settingsFile), temp.Path() + "home/");
-  settings::WriteIni("Settings", "lastpath", temp.Path() + "gone/", settingsFile);
-  EXPECT_EQ(InitialFolder(settingsFile), temp.Path() + "home/");
+  EXPECT_EQ(InitialFolder(Ini(settingsFile), nomra::testing::RealLocations().HomeFolder()), temp.Path() + "home/");
+  Ini(settingsFile).Write("Settings", "lastpath", temp.Path() + "gone/");
+  EXPECT_EQ(InitialFolder(Ini(settingsFile), nomra::testing::RealLocations().HomeFolder()), temp.Path() + "home/");
 }
 
 }  // namespace

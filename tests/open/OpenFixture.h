@@ -6,11 +6,13 @@
 #include <vector>
 
 #include "core/MainModel.h"
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
 #include "settings/SettingsKeys.h"
 #include "support/ForwardingFileSystem.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
+
+using nomra::testing::Ini;
 
 namespace nomra::testing {
 
@@ -69,7 +71,7 @@ class OpenTest : public ::testing::Test {
   bool Refreshed() const { return model.commands.IsEnabled("OpenFile"); }
 
   std::string Setting(const char* key) const {
-    return settings::ReadIniString(settings::kSettingsSection, key, settingsFile);
+    return Ini(settingsFile).ReadString(settings::kSettingsSection, key);
   }
 
   TempFolder temp;

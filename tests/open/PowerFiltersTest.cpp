@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
 #include "support/TempFolder.h"
+
+using nomra::testing::Ini;
 
 namespace nomra::open {
 namespace {
@@ -13,9 +15,9 @@ using Filters = std::vector<PowerFilter>;
 class PowerFiltersTest : public ::testing::Test {
  protected:
   Filters Read(const std::string& section) {
-    return ReadPowerFilters(temp.WriteFile("settings.nrp", "[PowerFilter]\r\n" + section));
+    return ReadPowerFilters(Ini(temp.WriteFile("settings.nrp", "[PowerFilter]\r\n" + section)));
   }
-  std::string Key(const char* key) { return settings::ReadIniString("PowerFilter", key, file); }
+  std::string Key(const char* key) { return Ini(file).ReadString("PowerFilter", key); }
 
   testing::TempFolder temp;
   const std::string file = temp.Path() + "settings.nrp";
@@ -31,16 +33,16 @@ TEST_F(PowerFiltersTest, ListEndsAtTheFirstEmptyKey) {
 }
 
 TEST_F(PowerFiltersTest, NoEntriesGiveAllFilesChecked) {
-  EXPECT_EQ(ReadPowerFilters(temp.Path() + "none.nrp"), (Filters{{true, "*.*"}}));
+  EXPECT_EQ(ReadPowerFilters(Ini(temp.Path() + "none.nrp")), (Filters{{true, "*.*"}}));
 }
 
 TEST_F(PowerFiltersTest, WriteRewritesTheKeysAndClosesTheList) {
   temp.WriteFile("settings.nrp", "[PowerFilter]\r\nf1=1*.*\r\nf2=1*.doc\r\nf3=1*.txt\r\n");
-  WritePowerFilters({{false, "*.*"}, {true, "*.mp3"}}, file);
+  WritePowerFilters({{false, "*.*"}, {true, "*.mp3"}}, Ini(file));
   EXPECT_EQ(Key("f1"), "0*.*");
   EXPECT_EQ(Key("f2"), "1*.mp3");
   EXPECT_EQ(Key("f3"), "");
-  EXPECT_EQ(ReadPowerFilters(file), (Filters{{false, "*.*"}, {true, "*.mp3"}}));
+  EXPECT_EQ(ReadPowerFilters(Ini(file)), (Filters{{false, "*.*"}, {true, "*.mp3"}}));
 }
 
 TEST_F(PowerFiltersTest, CheckingTheFirstEntryClearsAllOthers) {

@@ -6,6 +6,7 @@
 
 #include "OpenFixture.h"
 #include "base/Fault.h"
+#include "support/RealFiles.h"
 
 namespace nomra::open {
 namespace {
@@ -136,11 +137,11 @@ TEST_F(StagedFilesTest, UnreadableFolderIsPassedOver) {
   EXPECT_EQ(Stage(selection), (Paths{b}));
 }
 
-TEST_F(StagedFilesTest, StagingReadsTheRealDiskByDefault) {
+TEST_F(StagedFilesTest, StagingReadsTheRealDisk) {
   const std::string a = temp.WriteFile("music/A/a.mp3");
   FolderSelection selection = ShowFolder("music");
   selection.subFolders = true;
-  EXPECT_EQ(StageFiles(selection), (Paths{a}));
+  EXPECT_EQ(StageFiles(selection, nomra::testing::RealFiles()), (Paths{a}));
 }
 
 TEST_F(StagedFilesTest, LoadAddsEveryStagedPathRefreshesAndEmptiesTheList) {

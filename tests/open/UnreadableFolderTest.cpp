@@ -9,9 +9,12 @@
 #include "OpenFixture.h"
 #include "open/OpenCommand.h"
 #include "open/StagedFiles.h"
+#include "support/RealFiles.h"
 
 namespace nomra::open {
 namespace {
+
+using nomra::testing::Ini;
 
 namespace fs = std::filesystem;
 
@@ -56,7 +59,7 @@ TEST_F(UnreadableFolderTest, AllFilesWithSubFoldersPassOverItAndGoOn) {
   choice.allFiles = true;
   choice.subFolders = true;
 
-  EXPECT_EQ(RunOpenChoice(model, choice, {{"All files", "*.*"}}, settingsFile, false), LoadOutcome::Finished);
+  EXPECT_EQ(RunOpenChoice(model, choice, {{"All files", "*.*"}}, Ini(settingsFile), false), LoadOutcome::Finished);
 
   EXPECT_EQ(RowKeys(), (std::set<std::string>{top, b, deepB}));
   EXPECT_EQ(Setting("lastpath"), temp.Path() + "music/");

@@ -1,9 +1,11 @@
-#include "platform/DataLocations.h"
+#include "platform/posix/PosixDataLocations.h"
+#include "platform/posix/PosixFileSystem.h"
 
 #include <sys/stat.h>
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <map>
 #include <optional>
@@ -55,20 +57,20 @@ TEST(PlatformDataLocations, DataDirOverrideWinsAndGetsATrailingSeparator) {
   env.Set("NOMRA_DATA_DIR", "/srv/nomra-data");
   env.Set("XDG_DATA_HOME", "/xdg/data");
   env.Set("HOME", "/home/someone");
-  EXPECT_EQ(DefaultDataFolder(), "/srv/nomra-data/");
+  EXPECT_EQ(PosixDataLocations().DataFolder(), "/srv/nomra-data/");
 }
 
 TEST(PlatformDataLocations, DataDirOverrideKeepsItsOwnTrailingSeparator) {
   ScopedEnvironment env;
   env.Set("NOMRA_DATA_DIR", "/srv/nomra-data/");
-  EXPECT_EQ(DefaultDataFolder(), "/srv/nomra-data/");
+  EXPECT_EQ(PosixDataLocations().DataFolder(), "/srv/nomra-data/");
 }
 
 TEST(PlatformDataLocations, EmptyDataDirOverrideCountsAsUnset) {
   ScopedEnvironment env;
   env.Set("NOMRA_DATA_DIR", "");
   env.Set("XDG_DATA_HOME", "/xdg/data");
-  EXPECT_EQ(DefaultDataFolder(), "/xdg/data/NR-Software/Nomra/");
+  EXPECT_EQ(PosixDataLocations().DataFolder(), "/xdg/data/NR-Software/Nomra/");
 }
 
 TEST(PlatformDataLocations, UsesXdgDataHomeWhenNoOverride) {
@@ -76,14 +78,14 @@ TEST(PlatformDataLocations, UsesXdgDataHomeWhenNoOverride) {
   env.Unset("NOMRA_DATA_DIR");
   env.Set("XDG_DATA_HOME", "/xdg/data");
   env.Set("HOME", "/home/someone");
-  EXPECT_EQ(DefaultDataFolder(), "/xdg/data/NR-Software/Nomra/");
+  EXPECT_EQ(PosixDataLocations().DataFolder(), "/xdg/data/NR-Software/Nomra/");
 }
 
 TEST(PlatformDataLocations, XdgDataHomeWithTrailingSeparatorGivesNoDoubleSeparator) {
   ScopedEnvironment env;
   env.Unset("NOMRA_DATA_DIR");
   env.Set("XDG_DATA_HOME", "/xdg/data/");
-  EXPECT_EQ(DefaultDataFolder(), "/xdg/data/NR-Software/Nomra/");
+  EXPECT_EQ(PosixDataLocations().DataFolder(), "/xdg/data/NR-Software/Nomra/");
 }
 
 TEST(PlatformDataLocations, IgnoresARelativeXdgDataHome) {
@@ -91,7 +93,7 @@ TEST(PlatformDataLocations, IgnoresARelativeXdgDataHome) {
   env.Unset("NOMRA_DATA_DIR");
   env.Set("XDG_DATA_HOME", "relative/data");
   env.Set("HOME", "/home/someone");
-  EXPECT_EQ(DefaultDataFolder(), "/home/someone/.local/share/NR-Software/Nomra/");
+  EXPECT_EQ(PosixDataLocations().DataFolder(), "/home/someone/.local/share/NR-Software/Nomra/");
 }
 
 TEST(PlatformDataLocations, FallsBackToHomeWhenXdgDataHomeIsUnset) {
@@ -99,7 +101,7 @@ TEST(PlatformDataLocations, FallsBackToHomeWhenXdgDataHomeIsUnset) {
   env.Unset("NOMRA_DATA_DIR");
   env.Unset("XDG_DATA_HOME");
   env.Set("HOME", "/home/someone");
-  EXPECT_EQ(DefaultDataFolder(), "/home/someone/.local/share/NR-Software/Nomra/");
+  EXPECT_EQ(PosixDataLocations().DataFolder(), "/home/someone/.local/share/NR-Software/Nomra/");
 }
 
 TEST(PlatformDataLocations, FallsBackToHomeWhenXdgDataHomeIsEmpty) {
@@ -107,7 +109,7 @@ TEST(PlatformDataLocations, FallsBackToHomeWhenXdgDataHomeIsEmpty) {
   env.Unset("NOMRA_DATA_DIR");
   env.Set("XDG_DATA_HOME", "");
   env.Set("HOME", "/home/other");
-  EXPECT_EQ(DefaultDataFolder(), "/home/other/.local/share/NR-Software/Nomra/");
+  EXPECT_EQ(PosixDataLocations().DataFolder(), "/home/other/.local/share/NR-Software/Nomra/");
 }
 
 TEST(PlatformDataLocations, HomeWithTrailingSeparatorGivesNoDoubleSeparator) {
@@ -115,54 +117,54 @@ TEST(PlatformDataLocations, HomeWithTrailingSeparatorGivesNoDoubleSeparator) {
   env.Unset("NOMRA_DATA_DIR");
   env.Unset("XDG_DATA_HOME");
   env.Set("HOME", "/home/someone/");
-  EXPECT_EQ(DefaultDataFolder(), "/home/someone/.local/share/NR-Software/Nomra/");
+  EXPECT_EQ(PosixDataLocations().DataFolder(), "/home/someone/.local/share/NR-Software/Nomra/");
   env.Set("HOME", "/");
-  EXPECT_EQ(DefaultDataFolder(), "/.local/share/NR-Software/Nomra/");
+  EXPECT_EQ(PosixDataLocations().DataFolder(), "/.local/share/NR-Software/Nomra/");
 }
 
 TEST(PlatformDataLocations, ExecutableFolderHoldsTheRunningTest) {
-  const std::string folder = ExecutableFolder();
+  const std::string folder = PosixDataLocations().ExecutableFolder();
   ASSERT_FALSE(folder.empty());
   EXPECT_EQ(folder.front(), '/');
   EXPECT_EQ(folder.back(), '/');
   EXPECT_TRUE(nomra::testing::Exists(folder + "PlatformTests"));
 }
 
-TEST(PlatformDataLocations, CreateFolderPathMakesEveryMissingLevel) {
+TEST(PlatformDataLocations, MakeFolderPathMakesEveryMissingLevel) {
   TempFolder temp;
   const std::string path = temp.Path() + "one/two/three/";
-  EXPECT_TRUE(CreateFolderPath(path));
+  EXPECT_EQ(PosixFileSystem().MakeFolderPath(path), 0);
   EXPECT_TRUE(IsFolder(temp.Path() + "one"));
   EXPECT_TRUE(IsFolder(temp.Path() + "one/two"));
   EXPECT_TRUE(IsFolder(path));
 }
 
-TEST(PlatformDataLocations, CreateFolderPathWorksWithoutTrailingSeparator) {
+TEST(PlatformDataLocations, MakeFolderPathWorksWithoutTrailingSeparator) {
   TempFolder temp;
   const std::string path = temp.Path() + "a/b";
-  EXPECT_TRUE(CreateFolderPath(path));
+  EXPECT_EQ(PosixFileSystem().MakeFolderPath(path), 0);
   EXPECT_TRUE(IsFolder(path));
 }
 
-TEST(PlatformDataLocations, CreateFolderPathAcceptsAnExistingFolder) {
+TEST(PlatformDataLocations, MakeFolderPathAcceptsAnExistingFolder) {
   TempFolder temp;
   const std::string path = temp.MakeFolder("already/there");
   temp.WriteFile("already/there/keep.txt", "kept");
-  EXPECT_TRUE(CreateFolderPath(path));
+  EXPECT_EQ(PosixFileSystem().MakeFolderPath(path), 0);
   EXPECT_EQ(nomra::testing::ReadWholeFile(path + "keep.txt"), "kept");
 }
 
-TEST(PlatformDataLocations, CreateFolderPathFailsBelowARegularFile) {
+TEST(PlatformDataLocations, MakeFolderPathFailsBelowARegularFile) {
   TempFolder temp;
   const std::string file = temp.WriteFile("blocker", "x");
-  EXPECT_FALSE(CreateFolderPath(file + "/inner/deeper/"));
+  EXPECT_EQ(PosixFileSystem().MakeFolderPath(file + "/inner/deeper/"), ENOTDIR);
   EXPECT_FALSE(IsFolder(file + "/inner"));
 }
 
-TEST(PlatformDataLocations, CreateFolderPathFailsWhenThePathIsARegularFile) {
+TEST(PlatformDataLocations, MakeFolderPathFailsWhenThePathIsARegularFile) {
   TempFolder temp;
   const std::string file = temp.WriteFile("plain", "x");
-  EXPECT_FALSE(CreateFolderPath(file));
+  EXPECT_EQ(PosixFileSystem().MakeFolderPath(file), ENOTDIR);
 }
 
 }  // namespace

@@ -10,7 +10,9 @@
 #include "rename/CaseAction.h"
 #include "rename/ExtensionAction.h"
 #include "script/ScriptPlayback.h"
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
+
+using nomra::testing::Ini;
 
 namespace nomra {
 namespace {
@@ -67,13 +69,13 @@ TEST_F(CaseActionTest, UpperCaseOfTheExtensionOnly) {
 TEST_F(CaseActionTest, RemembersItsInputsUnderItsOwnNameAndRecordsTypeFour) {
   model.script.saveDialogSettings = true;
   model.script.recording = 1;
-  settings::WriteIni("Main", "Steps", 0L, model.script.tempPath);
+  Ini(model.script.tempPath).Write("Main", "Steps", 0L);
   AddFiles({"a.txt"});
   Choose(4, 3);
   ApplyActionDialog(dialog, model);
-  EXPECT_EQ(settings::ReadIniString("frmULCase", "opt1(4)", model.script.settingsPath), "-1");
-  EXPECT_EQ(settings::ReadIniString("frmULCase", "opt2(3)", model.script.settingsPath), "-1");
-  EXPECT_EQ(settings::ReadIniString("1", "Type", model.script.tempPath), "4");
+  EXPECT_EQ(Ini(model.script.settingsPath).ReadString("frmULCase", "opt1(4)"), "-1");
+  EXPECT_EQ(Ini(model.script.settingsPath).ReadString("frmULCase", "opt2(3)"), "-1");
+  EXPECT_EQ(Ini(model.script.tempPath).ReadString("1", "Type"), "4");
   EXPECT_TRUE(dialog.Traits().disablesButtonsWhileRunning);
 }
 
@@ -82,7 +84,7 @@ TEST_F(CaseActionTest, ScriptStepOfTypeFourPlaysWithoutAWindow) {
   const std::string script = data.WriteFile("s.nrs", "[Main]\r\nSteps=1\r\n[1]\r\nType=4\r\nopt1(4)=-1\r\nopt2(3)=-1\r\n");
   model.script.runPath = script;
   model.script.runMode = 1;
-  PlayScript(model.script, [this](int type) { PlayStepWithoutWindow(model, type); });
+  PlayScript(model.script, nomra::testing::RealFiles(), [this](int type) { PlayStepWithoutWindow(model, type); });
   EXPECT_EQ(PendingNames(), std::vector<std::string>{"mixed case.txt"});
 }
 
@@ -138,13 +140,13 @@ TEST_F(ExtensionActionTest, RemovingTakesTheLastExtensionOnly) {
 TEST_F(ExtensionActionTest, RemembersItsInputsInFrmFEAndRecordsTypeThree) {
   model.script.saveDialogSettings = true;
   model.script.recording = 1;
-  settings::WriteIni("Main", "Steps", 0L, model.script.tempPath);
+  Ini(model.script.tempPath).Write("Main", "Steps", 0L);
   AddFiles({"a.txt"});
   Choose(true, true, "bak");
   ApplyActionDialog(dialog, model);
-  EXPECT_EQ(settings::ReadIniString("FrmFE", "txtFE", model.script.settingsPath), "bak");
-  EXPECT_EQ(settings::ReadIniString("FrmFE", "chkAddOldFE", model.script.settingsPath), "1");
-  EXPECT_EQ(settings::ReadIniString("1", "Type", model.script.tempPath), "3");
+  EXPECT_EQ(Ini(model.script.settingsPath).ReadString("FrmFE", "txtFE"), "bak");
+  EXPECT_EQ(Ini(model.script.settingsPath).ReadString("FrmFE", "chkAddOldFE"), "1");
+  EXPECT_EQ(Ini(model.script.tempPath).ReadString("1", "Type"), "3");
   EXPECT_EQ(PendingNames(), std::vector<std::string>{"a.txt.bak"});
 }
 

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "script/ScriptFixture.h"
+#include "support/RealFiles.h"
 
 namespace nomra {
 namespace {
@@ -89,7 +90,7 @@ TEST_F(ScriptChooserTest, StartWithRunAllChoosesTheScriptAndStoresTheInputs) {
   EXPECT_EQ(model.script.runPath, ScriptFolderPath() + "20261116101010.nrs");
   EXPECT_EQ(SettingsText(), "[frmScript]\r\nlstScript=" + std::to_string(row) + "\r\noptRunAll=-1\r\n");
 
-  PlayScript(model.script, HeadlessOpener());
+  PlayScript(model.script, nomra::testing::RealFiles(), HeadlessOpener());
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a_s.jpg"}));
 }
 
@@ -120,7 +121,7 @@ TEST_F(ScriptChooserTest, CancellingPlaysNothingThoughPlaybackIsStillCalled) {
   model.script.runMode = 1;
   chooser.Cancel();
   EXPECT_EQ(model.script.runMode, 0);
-  PlayScript(model.script, HeadlessOpener());
+  PlayScript(model.script, nomra::testing::RealFiles(), HeadlessOpener());
   EXPECT_TRUE(openedTypes.empty());
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.jpg"}));
   EXPECT_FALSE(testing::Exists(model.script.settingsPath));

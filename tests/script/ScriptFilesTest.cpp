@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "script/ScriptFixture.h"
+#include "support/RealFiles.h"
 
 namespace nomra {
 namespace {
@@ -41,7 +42,7 @@ TEST_F(ScriptFilesTest, OtherFileNamesGiveACutUpDateWithoutComplaint) {
 
 TEST_F(ScriptFilesTest, DisplayTextIsTheStoredNameAndTheDate) {
   const std::string path = WriteScript("20261115023303.nrs", "[Main]\r\nSteps=1\r\nName=Holiday pictures\r\n");
-  EXPECT_EQ(ScriptDisplayText(path, "20261115023303.nrs"), "Holiday pictures [2026-11-15, 02:33:03]");
+  EXPECT_EQ(ScriptDisplayText(nomra::testing::Ini(path), "20261115023303.nrs"), "Holiday pictures [2026-11-15, 02:33:03]");
 }
 
 TEST_F(ScriptFilesTest, MissingScriptsFolderListsNothing) {

@@ -7,6 +7,7 @@
 #include "rename/ActionFrame.h"
 #include "script/ScriptFixture.h"
 #include "script/ScriptRecording.h"
+#include "support/RealFiles.h"
 
 namespace nomra {
 namespace {
@@ -28,7 +29,7 @@ class ScriptPlaybackTest : public testing::ScriptTest {
     model.script.runMode = static_cast<std::int16_t>(runMode);
   }
 
-  void Play() { PlayScript(model.script, HeadlessOpener()); }
+  void Play() { PlayScript(model.script, nomra::testing::RealFiles(), HeadlessOpener()); }
 
   bool NoScriptPlays() const { return model.script.runMode == 0 && model.script.runPath.empty(); }
   bool UserWasToldNothing() const {
@@ -66,7 +67,7 @@ class RefusingDialog final : public ActionDialog {
 TEST_F(ScriptPlaybackTest, ExampleScriptPlaysHeadlessToTheRightPendingNames) {
   Choose("20261115023303.nrs", kExampleScript);
   std::vector<std::string> caseOptions;
-  PlayScript(model.script, [&](int type) {
+  PlayScript(model.script, nomra::testing::RealFiles(), [&](int type) {
     openedTypes.push_back(type);
     if (type != 4) return PlayStepWithoutWindow(model, type);
     // The case dialog's option group, restored from its step.
@@ -74,7 +75,7 @@ TEST_F(ScriptPlaybackTest, ExampleScriptPlaysHeadlessToTheRightPendingNames) {
     for (int index = 0; index < 3; ++index) caseDialog.AddOption("opt2", "opt2", index);
     caseDialog.SetOption("opt2(0)", true);
     dialog::RestoreDialogState(caseDialog, std::to_string(model.script.runStep), dialog::kScriptMode, model.script,
-                               frontEnd);
+                               nomra::testing::RealFiles(), frontEnd);
     for (const dialog::DialogInput& input : caseDialog.Inputs()) {
       if (input.selected) caseOptions.push_back(input.Key());
     }
@@ -90,7 +91,7 @@ TEST_F(ScriptPlaybackTest, StepsArePlayedInOrderEachWithItsOwnNumber) {
          "[Main]\r\nSteps=3\r\n[1]\r\nType=5\r\ntxtPr=1\r\n[2]\r\nType=5\r\ntxtPr=2\r\n[3]\r\nType=5\r\ntxtSu=3\r\n");
   OpenedSteps opened;
   const StepOpener noting = opened.Opener(model.script);
-  PlayScript(model.script, [&](int type) {
+  PlayScript(model.script, nomra::testing::RealFiles(), [&](int type) {
     noting(type);
     PlayStepWithoutWindow(model, type);
   });
@@ -101,11 +102,11 @@ TEST_F(ScriptPlaybackTest, StepsArePlayedInOrderEachWithItsOwnNumber) {
 TEST_F(ScriptPlaybackTest, NothingPlaysWithoutAScriptOrARunMode) {
   OpenedSteps opened;
   model.script.runMode = 1;
-  PlayScript(model.script, opened.Opener(model.script));
+  PlayScript(model.script, nomra::testing::RealFiles(), opened.Opener(model.script));
   EXPECT_TRUE(NoScriptPlays());
 
   Choose("20261115023303.nrs", kExampleScript, 0);
-  PlayScript(model.script, opened.Opener(model.script));
+  PlayScript(model.script, nomra::testing::RealFiles(), opened.Opener(model.script));
   EXPECT_TRUE(opened.types.empty());
   EXPECT_TRUE(NoScriptPlays());
 }
@@ -149,13 +150,13 @@ TEST_F(ScriptPlaybackTest, TypesOneToTenEachOpenTheirDialog) {
   }
   Choose("20261115023303.nrs", script);
   OpenedSteps opened;
-  PlayScript(model.script, opened.Opener(model.script));
+  PlayScript(model.script, nomra::testing::RealFiles(), opened.Opener(model.script));
   EXPECT_EQ(opened.types, (std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
 }
 
 TEST_F(ScriptPlaybackTest, StepRefusedByItsDialogsCheckShowsItsMessageAndTheNextStepRuns) {
   Choose("20261115023303.nrs", "[Main]\r\nSteps=2\r\n[1]\r\nType=7\r\ntxtInsert=bad\r\n[2]\r\nType=5\r\ntxtPr=b\r\n");
-  PlayScript(model.script, [&](int type) {
+  PlayScript(model.script, nomra::testing::RealFiles(), [&](int type) {
     if (type != 7) return PlayStepWithoutWindow(model, type);
     RefusingDialog dialog;
     PlayActionWithoutWindow(dialog, model);
@@ -180,8 +181,8 @@ TEST_F(ScriptPlaybackTest, SingleStepsWithEveryDialogCancelledLeaveTheListAndEnd
 }
 
 TEST_F(ScriptPlaybackTest, ScriptPlayedDuringARecordingIsRecordedStepByStep) {
-  ResetScriptTemp(model.script);
-  BeginScriptRecording(model.script);
+  ResetScriptTemp(model.script, nomra::testing::RealFiles());
+  BeginScriptRecording(model.script, nomra::testing::RealFiles());
   Choose("20261115023303.nrs",
          "[Main]\r\nSteps=2\r\nName=Two\r\n\r\n[1]\r\nType=5\r\ntxtPr=Rome\xC2\x90\r\n\r\n[2]\r\nType=5\r\ntxtSu=_x\r\n");
   Play();

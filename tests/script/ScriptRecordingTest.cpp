@@ -5,6 +5,7 @@
 #include "rename/ActionFrame.h"
 #include "rename/PrefixSuffix.h"
 #include "script/ScriptFixture.h"
+#include "support/RealFiles.h"
 
 namespace nomra {
 namespace {
@@ -13,7 +14,7 @@ class ScriptRecordingTest : public testing::ScriptTest {
  protected:
   ScriptRecordingTest() {
     AddFiles({"a.txt"});
-    ResetScriptTemp(model.script);
+    ResetScriptTemp(model.script, nomra::testing::RealFiles());
   }
 
   // The user fills the prefix and suffix dialog and presses Apply.
@@ -26,7 +27,7 @@ class ScriptRecordingTest : public testing::ScriptTest {
 
   // A whole recording of one prefix, stored under `name`.
   bool RecordOneStep(const std::string& prefix, const std::string& name) {
-    BeginScriptRecording(model.script);
+    BeginScriptRecording(model.script, nomra::testing::RealFiles());
     ApplyPrefixSuffix(prefix);
     frontEnd.inputs.push_back(name);
     return EndScriptRecording(model, clock);
@@ -43,14 +44,14 @@ TEST_F(ScriptRecordingTest, ResetRemovesTheWorkFileAnEarlierRunLeft) {
   data.WriteFile("script.tmp", "[Main]\r\nSteps=3\r\n");
   model.script.tempPath.clear();
   model.script.recording = 1;
-  ResetScriptTemp(model.script);
+  ResetScriptTemp(model.script, nomra::testing::RealFiles());
   EXPECT_EQ(model.script.tempPath, data.Path() + "script.tmp");
   EXPECT_FALSE(testing::Exists(data.Path() + "script.tmp"));
   EXPECT_EQ(model.script.recording, 0);
 }
 
 TEST_F(ScriptRecordingTest, BeginningWritesOnlyTheStepCounter) {
-  BeginScriptRecording(model.script);
+  BeginScriptRecording(model.script, nomra::testing::RealFiles());
   EXPECT_EQ(model.script.recording, 1);
   EXPECT_EQ(RecordingText(), "[Main]\r\nSteps=0\r\n");
 }
@@ -75,7 +76,7 @@ TEST_F(ScriptRecordingTest, NamePromptOffersThePresentDateAndTime) {
 }
 
 TEST_F(ScriptRecordingTest, RecordingWithNoStepStoresNothingAndAsksNothing) {
-  BeginScriptRecording(model.script);
+  BeginScriptRecording(model.script, nomra::testing::RealFiles());
   EXPECT_FALSE(EndScriptRecording(model, clock));
   EXPECT_TRUE(frontEnd.asked.empty());
   EXPECT_EQ(model.script.recording, 0);
@@ -90,7 +91,7 @@ TEST_F(ScriptRecordingTest, CancelledNameThenNoAsksAgainWithAFreshDate) {
     ++now.tm_sec;
     return moment;
   };
-  BeginScriptRecording(model.script);
+  BeginScriptRecording(model.script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("x");
   frontEnd.inputs = {"", "Second try"};
   frontEnd.answers = {Answer::No};
@@ -101,11 +102,11 @@ TEST_F(ScriptRecordingTest, CancelledNameThenNoAsksAgainWithAFreshDate) {
   EXPECT_EQ(frontEnd.inputPresets, (std::vector<std::string>{"2026-11-15 02:33:03", "2026-11-15 02:33:04"}));
   const std::vector<std::string> stored = ScriptFilesOnDisk();
   ASSERT_EQ(stored.size(), 1u);
-  EXPECT_EQ(ScriptDisplayText(ScriptFolderPath() + stored[0], stored[0]).substr(0, 11), "Second try ");
+  EXPECT_EQ(ScriptDisplayText(nomra::testing::Ini(ScriptFolderPath() + stored[0]), stored[0]).substr(0, 11), "Second try ");
 }
 
 TEST_F(ScriptRecordingTest, CancelledNameThenYesStoresNothingAndKeepsTheWorkFile) {
-  BeginScriptRecording(model.script);
+  BeginScriptRecording(model.script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("x");
   const std::string recorded = RecordingText();
   frontEnd.answers = {Answer::Yes};
@@ -117,7 +118,7 @@ TEST_F(ScriptRecordingTest, CancelledNameThenYesStoresNothingAndKeepsTheWorkFile
 }
 
 TEST_F(ScriptRecordingTest, NameOfBlanksOnlyCountsAsCancelled) {
-  BeginScriptRecording(model.script);
+  BeginScriptRecording(model.script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("x");
   frontEnd.inputs = {"   "};
   frontEnd.answers = {Answer::Yes};
@@ -136,9 +137,9 @@ TEST_F(ScriptRecordingTest, TwoRecordingsStoredInTheSameSecondAreBothKept) {
   ASSERT_TRUE(RecordOneStep("x", "first"));
   ASSERT_TRUE(RecordOneStep("y", "second"));
   ASSERT_EQ(ScriptFilesOnDisk(), (std::vector<std::string>{"20261115023303.nrs", "20261115023304.nrs"}));
-  EXPECT_EQ(ScriptDisplayText(ScriptFolderPath() + "20261115023303.nrs", "20261115023303.nrs"),
+  EXPECT_EQ(ScriptDisplayText(nomra::testing::Ini(ScriptFolderPath() + "20261115023303.nrs"), "20261115023303.nrs"),
             "first [2026-11-15, 02:33:03]");
-  EXPECT_EQ(ScriptDisplayText(ScriptFolderPath() + "20261115023304.nrs", "20261115023304.nrs"),
+  EXPECT_EQ(ScriptDisplayText(nomra::testing::Ini(ScriptFolderPath() + "20261115023304.nrs"), "20261115023304.nrs"),
             "second [2026-11-15, 02:33:04]");
 }
 
@@ -150,13 +151,13 @@ TEST_F(ScriptRecordingTest, ScriptsOfTheSameNameAreBothKeptUnderTheirOwnFileName
 }
 
 TEST_F(ScriptRecordingTest, AbandonedRecordingIsOverwrittenKeyByKeyAndItsStaleStepsArePassedOver) {
-  BeginScriptRecording(model.script);
+  BeginScriptRecording(model.script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("x", "old");
   ApplyPrefixSuffix("y");
   frontEnd.answers = {Answer::Yes};
   ASSERT_FALSE(EndScriptRecording(model, clock));
 
-  BeginScriptRecording(model.script);
+  BeginScriptRecording(model.script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("", "z");
   frontEnd.inputs = {"again"};
   ASSERT_TRUE(EndScriptRecording(model, clock));
@@ -167,14 +168,14 @@ TEST_F(ScriptRecordingTest, AbandonedRecordingIsOverwrittenKeyByKeyAndItsStaleSt
   ASSERT_EQ(PendingNames(), (std::vector<std::string>{"yxaoldz.txt"}));
   model.script.runPath = stored;
   model.script.runMode = 1;
-  PlayScript(model.script, HeadlessOpener());
+  PlayScript(model.script, nomra::testing::RealFiles(), HeadlessOpener());
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"yxaoldzz.txt"}));
   EXPECT_EQ(openedTypes, (std::vector<int>{5}));
 }
 
 TEST_F(ScriptRecordingTest, ScriptThatCannotBeStoredStaysInTheWorkFileAndTheUserIsTold) {
   data.WriteFile("Script", "a file where the folder should be");
-  BeginScriptRecording(model.script);
+  BeginScriptRecording(model.script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("x");
   const std::string recorded = RecordingText();
   frontEnd.inputs = {"Lost?"};

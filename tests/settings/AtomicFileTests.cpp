@@ -5,10 +5,11 @@
 #include <memory>
 #include <string>
 
-#include "PermissionCases.h"
-#include "ScopedEnvironment.h"
-#include "settings/AtomicFile.h"
+#include "support/PermissionCases.h"
+#include "support/ScopedEnvironment.h"
+#include "formats/AtomicFile.h"
 #include "settings/CompactIniFile.h"
+#include "support/RealFiles.h"
 #include "support/TempFolder.h"
 
 namespace nomra::settings {
@@ -16,6 +17,7 @@ namespace {
 
 using nomra::testing::Exists;
 using nomra::testing::PermissionBits;
+using nomra::testing::RealFiles;
 using nomra::testing::ReadWholeFile;
 using nomra::testing::ScopedEnvironment;
 using nomra::testing::TempFolder;
@@ -23,7 +25,7 @@ using nomra::testing::TempFolder;
 TEST(SettingsAtomicFile, ReplacesTheContentAndLeavesOnlyTheFile) {
   TempFolder temp;
   const auto file = temp.WriteFile("f.txt", "old content that is longer");
-  ASSERT_TRUE(ReplaceFileContent(file, "new"));
+  ASSERT_EQ(RealFiles().ReplaceFile(file, "new"), 0);
   EXPECT_EQ(ReadWholeFile(file), "new");
   int entries = 0;
   for (const auto& entry : std::filesystem::directory_iterator(temp.Path())) {
@@ -36,7 +38,7 @@ TEST(SettingsAtomicFile, ReplacesTheContentAndLeavesOnlyTheFile) {
 TEST(SettingsAtomicFile, NewFileGetsTheUmasksPermissions) {
   TempFolder temp;
   const mode_t old = umask(022);
-  const bool written = ReplaceFileContent(temp.Path() + "f.txt", "x");
+  const bool written = RealFiles().ReplaceFile(temp.Path() + "f.txt", "x") == 0;
   umask(old);
   ASSERT_TRUE(written);
   EXPECT_EQ(PermissionBits(temp.Path() + "f.txt"), 0644u);
@@ -46,7 +48,7 @@ TEST(SettingsAtomicFile, TemporaryFileTakesTheModelsPermissions) {
   TempFolder temp;
   const auto model = temp.WriteFile("model", "m");
   ASSERT_EQ(chmod(model.c_str(), 0620), 0);
-  ASSERT_TRUE(WriteTemporaryFile(temp.Path() + "t.tmp", "content", model));
+  ASSERT_EQ(RealFiles().WriteFile(temp.Path() + "t.tmp", "content", model), 0);
   EXPECT_EQ(PermissionBits(temp.Path() + "t.tmp"), 0620u);
   EXPECT_EQ(ReadWholeFile(temp.Path() + "t.tmp"), "content");
 }
@@ -55,7 +57,7 @@ TEST(SettingsAtomicFile, MoveFileOverReplacesTheTarget) {
   TempFolder temp;
   const auto source = temp.WriteFile("a/source", "fresh");
   const auto target = temp.WriteFile("b/target", "stale");
-  ASSERT_TRUE(MoveFileOver(source, target));
+  ASSERT_EQ(formats::MoveFileOver(RealFiles(), source, target), 0);
   EXPECT_EQ(ReadWholeFile(target), "fresh");
   EXPECT_FALSE(Exists(source));
 }
@@ -63,7 +65,7 @@ TEST(SettingsAtomicFile, MoveFileOverReplacesTheTarget) {
 TEST(SettingsAtomicFile, MoveFileOverFromAMissingSourceFails) {
   TempFolder temp;
   const auto target = temp.WriteFile("target", "kept");
-  EXPECT_FALSE(MoveFileOver(temp.Path() + "absent", target));
+  EXPECT_NE(formats::MoveFileOver(RealFiles(), temp.Path() + "absent", target), 0);
   EXPECT_EQ(ReadWholeFile(target), "kept");
 }
 
@@ -89,7 +91,7 @@ TEST(SettingsAtomicFile, MoveFileOverCrossesFileSystems) {
   const auto source = other->WriteFile("source", "fresh");
   const auto target = temp.WriteFile("target", "stale");
   ASSERT_EQ(chmod(target.c_str(), 0640), 0);
-  ASSERT_TRUE(MoveFileOver(source, target));
+  ASSERT_EQ(formats::MoveFileOver(RealFiles(), source, target), 0);
   EXPECT_EQ(ReadWholeFile(target), "fresh");
   EXPECT_EQ(PermissionBits(target), 0640u);
   EXPECT_FALSE(Exists(source));
@@ -100,7 +102,7 @@ TEST(SettingsAtomicFile, CompactionWithItsTemporaryFileOnAnotherFileSystem) {
   const auto other = FolderOnAnotherFileSystem(temp);
   if (!other) GTEST_SKIP() << "no second file system at /dev/shm";
   const auto settings = temp.WriteFile("settings.nrp", "[Main]\r\nA=<<DELETE>>\r\nB=1\r\n");
-  ASSERT_TRUE(CompactIniFile(settings, other->Path()));
+  ASSERT_TRUE(CompactIniFile(RealFiles(), settings, other->Path()));
   EXPECT_EQ(ReadWholeFile(settings), "[Main]\r\nB=1\r\n");
   EXPECT_FALSE(Exists(other->Path() + "format.tmp"));
 }

@@ -3,12 +3,15 @@
 
 #include <string>
 
-#include "PermissionCases.h"
+#include "support/PermissionCases.h"
 #include "settings/CompactIniFile.h"
+#include "support/RealFiles.h"
 #include "support/TempFolder.h"
 
 namespace nomra::settings {
 namespace {
+
+using nomra::testing::RealFiles;
 
 using nomra::testing::Exists;
 using nomra::testing::PermissionBits;
@@ -20,7 +23,7 @@ using nomra::testing::TempFolder;
 // gives back the new text.
 std::string Compacted(const TempFolder& temp, const std::string& text) {
   const auto file = temp.WriteFile("settings.nrp", text);
-  EXPECT_TRUE(CompactIniFile(file, temp.Path()));
+  EXPECT_TRUE(CompactIniFile(RealFiles(), file, temp.Path()));
   return ReadWholeFile(file);
 }
 
@@ -86,14 +89,14 @@ TEST(SettingsCompaction, TemporaryFileMayLieInAnotherFolder) {
   TempFolder temp;
   const std::string data = temp.MakeFolder("data");
   const auto file = temp.WriteFile("elsewhere/settings.nrp", "[Main]\r\nA=<<DELETE>>\r\nB=1\r\n");
-  ASSERT_TRUE(CompactIniFile(file, data));
+  ASSERT_TRUE(CompactIniFile(RealFiles(), file, data));
   EXPECT_EQ(ReadWholeFile(file), "[Main]\r\nB=1\r\n");
   EXPECT_FALSE(Exists(data + "format.tmp"));
 }
 
 TEST(SettingsCompaction, MissingFileReturnsFalseAndCreatesNothing) {
   TempFolder temp;
-  EXPECT_FALSE(CompactIniFile(temp.Path() + "settings.nrp", temp.Path()));
+  EXPECT_FALSE(CompactIniFile(RealFiles(), temp.Path() + "settings.nrp", temp.Path()));
   EXPECT_FALSE(Exists(temp.Path() + "settings.nrp"));
   EXPECT_FALSE(Exists(temp.Path() + "format.tmp"));
 }
@@ -103,7 +106,7 @@ TEST(SettingsCompaction, DataFolderUnderARegularFileLeavesTheSettingsAlone) {
   const auto plain = temp.WriteFile("plain", "x");
   const std::string text = "[Main]\r\nA=<<DELETE>>\r\n";
   const auto file = temp.WriteFile("settings.nrp", text);
-  EXPECT_FALSE(CompactIniFile(file, plain + "/"));
+  EXPECT_FALSE(CompactIniFile(RealFiles(), file, plain + "/"));
   EXPECT_EQ(ReadWholeFile(file), text);
 }
 
@@ -111,7 +114,7 @@ TEST(SettingsCompaction, KeepsTheFilesPermissions) {
   TempFolder temp;
   const auto file = temp.WriteFile("settings.nrp", "[Main]\r\nA=<<DELETE>>\r\n");
   ASSERT_EQ(chmod(file.c_str(), 0604), 0);
-  ASSERT_TRUE(CompactIniFile(file, temp.Path()));
+  ASSERT_TRUE(CompactIniFile(RealFiles(), file, temp.Path()));
   EXPECT_EQ(PermissionBits(file), 0604u);
 }
 
@@ -121,7 +124,7 @@ TEST(SettingsCompaction, ReadOnlyFileStaysUnchanged) {
   const std::string text = "[Main]\r\nA=<<DELETE>>\r\n";
   const auto file = temp.WriteFile("settings.nrp", text);
   ASSERT_EQ(chmod(file.c_str(), 0444), 0);
-  EXPECT_FALSE(CompactIniFile(file, temp.Path()));
+  EXPECT_FALSE(CompactIniFile(RealFiles(), file, temp.Path()));
   EXPECT_EQ(ReadWholeFile(file), text);
   EXPECT_FALSE(Exists(temp.Path() + "format.tmp"));
 }

@@ -3,15 +3,19 @@
 
 #include <string>
 
-#include "PermissionCases.h"
-#include "ScopedEnvironment.h"
+#include "support/PermissionCases.h"
+#include "support/ScopedEnvironment.h"
 #include "settings/CompactIniFile.h"
 #include "settings/DataFolder.h"
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
 #include "support/TempFolder.h"
 
 namespace nomra::settings {
 namespace {
+
+using nomra::testing::Ini;
+
+using nomra::testing::RealFiles;
 
 using nomra::testing::Exists;
 using nomra::testing::PermissionsAreIgnored;
@@ -23,18 +27,18 @@ using nomra::testing::TempFolder;
 // defaults on read, false on write, no crash.
 void ExpectDefaultsAndRefusedWrites(const std::string& dataFolder) {
   const std::string settings = dataFolder + "settings.nrp";
-  EXPECT_EQ(ReadIniString("Main", "Version", settings), "");
-  EXPECT_EQ(ReadIniInt("Main", "Left", settings), -1);
-  EXPECT_FALSE(WriteIni("Main", "Left", 10L, settings));
-  EXPECT_FALSE(WriteIni("Main", "Name", "x", settings));
-  EXPECT_FALSE(CompactIniFile(settings, dataFolder));
-  EXPECT_EQ(ReadIniInt("Main", "Left", settings), -1);
+  EXPECT_EQ(Ini(settings).ReadString("Main", "Version"), "");
+  EXPECT_EQ(Ini(settings).ReadInt("Main", "Left"), -1);
+  EXPECT_FALSE(Ini(settings).Write("Main", "Left", 10L));
+  EXPECT_FALSE(Ini(settings).Write("Main", "Name", "x"));
+  EXPECT_FALSE(CompactIniFile(RealFiles(), settings, dataFolder));
+  EXPECT_EQ(Ini(settings).ReadInt("Main", "Left"), -1);
 }
 
 TEST(SettingsDataFolder, FindDataFolderCreatesTheMissingLevels) {
   TempFolder temp;
   ScopedEnvironment dataDir("NOMRA_DATA_DIR", temp.Path() + "deep/er/data");
-  const std::string folder = FindDataFolder();
+  const std::string folder = FindDataFolder(RealFiles(), nomra::testing::RealLocations());
   EXPECT_EQ(folder, temp.Path() + "deep/er/data/");
   struct stat st {};
   ASSERT_EQ(stat(folder.c_str(), &st), 0);
@@ -46,7 +50,7 @@ TEST(SettingsDataFolder, DataFolderUnderARegularFileGivesDefaultsAndNoWrites) {
   temp.WriteFile("app/settings.nrp", "[Main]\r\nVersion=1\r\n");
   const auto plain = temp.WriteFile("plain", "x");
   const std::string data = plain + "/data/";
-  EXPECT_FALSE(PrepareDataFolder(temp.Path() + "app/", data));
+  EXPECT_FALSE(PrepareDataFolder(RealFiles(), temp.Path() + "app/", data));
   ExpectDefaultsAndRefusedWrites(data);
   EXPECT_EQ(ReadWholeFile(plain), "x");
 }
@@ -55,7 +59,7 @@ TEST(SettingsDataFolder, FindDataFolderUnderARegularFileDoesNotCrash) {
   TempFolder temp;
   const auto plain = temp.WriteFile("plain", "x");
   ScopedEnvironment dataDir("NOMRA_DATA_DIR", plain + "/data");
-  const std::string folder = FindDataFolder();
+  const std::string folder = FindDataFolder(RealFiles(), nomra::testing::RealLocations());
   EXPECT_EQ(folder, plain + "/data/");
   ExpectDefaultsAndRefusedWrites(folder);
 }
@@ -66,7 +70,7 @@ TEST(SettingsDataFolder, DataFolderUnderAReadOnlyParentGivesDefaultsAndNoWrites)
   const std::string parent = temp.MakeFolder("locked");
   ASSERT_EQ(chmod(parent.c_str(), 0555), 0);
   const std::string data = parent + "data/";
-  EXPECT_FALSE(PrepareDataFolder(temp.MakeFolder("app"), data));
+  EXPECT_FALSE(PrepareDataFolder(RealFiles(), temp.MakeFolder("app"), data));
   EXPECT_FALSE(Exists(data));
   ExpectDefaultsAndRefusedWrites(data);
 }
@@ -79,7 +83,7 @@ TEST(SettingsDataFolder, PrepareRunsTheStartUpOrderInAMissingFolder) {
   temp.WriteFile("app/update.nrp", "[Main]\r\nVersion=2\r\n[Add]\r\nA1=View|Grid|1\r\n[Del]\r\nD1=View|Old\r\n");
   const std::string data = temp.Path() + "new/data/";
 
-  ASSERT_TRUE(PrepareDataFolder(app, data));
+  ASSERT_TRUE(PrepareDataFolder(RealFiles(), app, data));
   EXPECT_EQ(ReadWholeFile(data + "structures.nrp"), "[Structures]\r\nS1=x\r\n");
   EXPECT_EQ(ReadWholeFile(data + "settings.nrp"), "[Main]\r\nVersion=2\r\n\r\n[View]\r\nGrid=1\r\n");
   EXPECT_FALSE(Exists(app + "update.nrp"));
@@ -90,7 +94,7 @@ TEST(SettingsDataFolder, PrepareCompactsTheSettingsWithoutAnUpdate) {
   TempFolder temp;
   const std::string app = temp.MakeFolder("app");
   const auto settings = temp.WriteFile("data/settings.nrp", "[Main]\r\nGone=<<DELETE>>\r\nLeft=1\r\n[View]\r\n");
-  ASSERT_TRUE(PrepareDataFolder(app, temp.Path() + "data/"));
+  ASSERT_TRUE(PrepareDataFolder(RealFiles(), app, temp.Path() + "data/"));
   EXPECT_EQ(ReadWholeFile(settings), "[Main]\r\nLeft=1\r\n\r\n[View]\r\n");
 }
 
@@ -98,27 +102,27 @@ TEST(SettingsDataFolder, AppFolderIsTheExecutablesFolderWhenItHoldsLanguageFiles
   TempFolder temp;
   temp.WriteFile("bin/English.lng", "");
   temp.MakeFolder("share/nomra");
-  EXPECT_EQ(FindAppFolderFrom(temp.Path() + "bin/"), temp.Path() + "bin/");
+  EXPECT_EQ(FindAppFolderFrom(RealFiles(), temp.Path() + "bin/"), temp.Path() + "bin/");
 }
 
 TEST(SettingsDataFolder, AppFolderIsTheExecutablesFolderWhenItHoldsUpdateInstructions) {
   TempFolder temp;
   temp.WriteFile("bin/update.nrp", "");
   temp.MakeFolder("share/nomra");
-  EXPECT_EQ(FindAppFolderFrom(temp.Path() + "bin"), temp.Path() + "bin/");
+  EXPECT_EQ(FindAppFolderFrom(RealFiles(), temp.Path() + "bin"), temp.Path() + "bin/");
 }
 
 TEST(SettingsDataFolder, AppFolderIsTheInstalledShareFolderBesideTheExecutable) {
   TempFolder temp;
   temp.WriteFile("bin/nomra", "");
   temp.WriteFile("share/nomra/English.lng", "");
-  EXPECT_EQ(FindAppFolderFrom(temp.Path() + "bin/"), temp.Path() + "share/nomra/");
+  EXPECT_EQ(FindAppFolderFrom(RealFiles(), temp.Path() + "bin/"), temp.Path() + "share/nomra/");
 }
 
 TEST(SettingsDataFolder, AppFolderFallsBackToTheExecutablesFolder) {
   TempFolder temp;
   temp.WriteFile("bin/nomra", "");
-  EXPECT_EQ(FindAppFolderFrom(temp.Path() + "bin/"), temp.Path() + "bin/");
+  EXPECT_EQ(FindAppFolderFrom(RealFiles(), temp.Path() + "bin/"), temp.Path() + "bin/");
 }
 
 }  // namespace

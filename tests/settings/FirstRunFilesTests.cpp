@@ -3,10 +3,13 @@
 #include <string>
 
 #include "settings/FirstRunFiles.h"
+#include "support/RealFiles.h"
 #include "support/TempFolder.h"
 
 namespace nomra::settings {
 namespace {
+
+using nomra::testing::RealFiles;
 
 using nomra::testing::Exists;
 using nomra::testing::ReadWholeFile;
@@ -18,7 +21,7 @@ TEST(SettingsFirstRun, CopiesBothFilesIntoAnEmptyDataFolder) {
   const std::string data = temp.MakeFolder("data");
   temp.WriteFile("app/structures.nrp", "[Structures]\r\nS1=a\r\n");
   temp.WriteFile("app/settings.nrp", "[Main]\r\nVersion=1\r\n");
-  CopyFirstRunFiles(app, data);
+  CopyFirstRunFiles(RealFiles(), app, data);
   EXPECT_EQ(ReadWholeFile(data + "structures.nrp"), "[Structures]\r\nS1=a\r\n");
   EXPECT_EQ(ReadWholeFile(data + "settings.nrp"), "[Main]\r\nVersion=1\r\n");
 }
@@ -31,7 +34,7 @@ TEST(SettingsFirstRun, NeverOverwritesTheUsersFiles) {
   temp.WriteFile("app/settings.nrp", "shipped settings");
   temp.WriteFile("data/structures.nrp", "my structures");
   temp.WriteFile("data/settings.nrp", "my settings");
-  CopyFirstRunFiles(app, data);
+  CopyFirstRunFiles(RealFiles(), app, data);
   EXPECT_EQ(ReadWholeFile(data + "structures.nrp"), "my structures");
   EXPECT_EQ(ReadWholeFile(data + "settings.nrp"), "my settings");
 }
@@ -43,7 +46,7 @@ TEST(SettingsFirstRun, CopiesOnlyTheFileThatIsMissing) {
   temp.WriteFile("app/structures.nrp", "shipped structures");
   temp.WriteFile("app/settings.nrp", "shipped settings");
   temp.WriteFile("data/settings.nrp", "my settings");
-  CopyFirstRunFiles(app, data);
+  CopyFirstRunFiles(RealFiles(), app, data);
   EXPECT_EQ(ReadWholeFile(data + "structures.nrp"), "shipped structures");
   EXPECT_EQ(ReadWholeFile(data + "settings.nrp"), "my settings");
 }
@@ -53,7 +56,7 @@ TEST(SettingsFirstRun, FilesTheAppFolderLacksAreNotCreated) {
   const std::string app = temp.MakeFolder("app");
   const std::string data = temp.MakeFolder("data");
   temp.WriteFile("app/settings.nrp", "shipped settings");
-  CopyFirstRunFiles(app, data);
+  CopyFirstRunFiles(RealFiles(), app, data);
   EXPECT_FALSE(Exists(data + "structures.nrp"));
   EXPECT_EQ(ReadWholeFile(data + "settings.nrp"), "shipped settings");
 }
@@ -63,7 +66,7 @@ TEST(SettingsFirstRun, DataFolderUnderARegularFileGetsNothingAndNoCrash) {
   const std::string app = temp.MakeFolder("app");
   temp.WriteFile("app/settings.nrp", "shipped settings");
   const auto plain = temp.WriteFile("plain", "x");
-  CopyFirstRunFiles(app, plain + "/data/");
+  CopyFirstRunFiles(RealFiles(), app, plain + "/data/");
   EXPECT_EQ(ReadWholeFile(plain), "x");
 }
 

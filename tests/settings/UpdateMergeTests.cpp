@@ -3,13 +3,15 @@
 
 #include <string>
 
-#include "PermissionCases.h"
-#include "settings/IniFile.h"
+#include "support/PermissionCases.h"
+#include "support/RealFiles.h"
 #include "settings/UpdateMerge.h"
 #include "support/TempFolder.h"
 
 namespace nomra::settings {
 namespace {
+
+using nomra::testing::Ini;
 
 using nomra::testing::Exists;
 using nomra::testing::PermissionsAreIgnored;
@@ -25,7 +27,7 @@ struct MergeFolders {
   std::string update = app + "update.nrp";
   std::string settings = data + "settings.nrp";
 
-  MergeOutcome Merge() const { return MergeUpdateInstructions(update, settings, data); }
+  MergeOutcome Merge() const { return MergeUpdateInstructions(Ini(update), Ini(settings), data); }
   void WriteUpdate(const std::string& text) const { temp.WriteFile("app/update.nrp", text); }
   void WriteSettings(const std::string& text) const { temp.WriteFile("data/settings.nrp", text); }
 };
@@ -43,9 +45,9 @@ TEST(SettingsUpdateMerge, AddWritesAKeyOnlyWhenItIsMissing) {
   f.WriteSettings("[Main]\r\nVersion=1\r\n[View]\r\nZoom=150\r\n");
   f.WriteUpdate("[Main]\r\nVersion=2\r\n[Add]\r\nA1=View|Zoom|100\r\nA2=View|Grid|1\r\nA3=Fresh|Key|a b\r\n");
   EXPECT_EQ(f.Merge(), MergeOutcome::Applied);
-  EXPECT_EQ(ReadIniString("View", "Zoom", f.settings), "150");
-  EXPECT_EQ(ReadIniString("View", "Grid", f.settings), "1");
-  EXPECT_EQ(ReadIniString("Fresh", "Key", f.settings), "a b");
+  EXPECT_EQ(Ini(f.settings).ReadString("View", "Zoom"), "150");
+  EXPECT_EQ(Ini(f.settings).ReadString("View", "Grid"), "1");
+  EXPECT_EQ(Ini(f.settings).ReadString("Fresh", "Key"), "a b");
 }
 
 TEST(SettingsUpdateMerge, CopyMovesTheValueAndTheOldKeyIsGoneFromTheFile) {
@@ -53,7 +55,7 @@ TEST(SettingsUpdateMerge, CopyMovesTheValueAndTheOldKeyIsGoneFromTheFile) {
   f.WriteSettings("[Main]\r\nVersion=1\r\n[Old]\r\nColour=&H80C0FF\r\nKeep=1\r\n");
   f.WriteUpdate("[Main]\r\nVersion=2\r\n[Copy]\r\nC1=Old|Colour|New|BackColour\r\n");
   ASSERT_EQ(f.Merge(), MergeOutcome::Applied);
-  EXPECT_EQ(ReadIniString("New", "BackColour", f.settings), "&H80C0FF");
+  EXPECT_EQ(Ini(f.settings).ReadString("New", "BackColour"), "&H80C0FF");
   EXPECT_EQ(ReadWholeFile(f.settings),
             "[Main]\r\nVersion=2\r\n\r\n[Old]\r\nKeep=1\r\n\r\n[New]\r\nBackColour=&H80C0FF\r\n");
 }
@@ -63,7 +65,7 @@ TEST(SettingsUpdateMerge, CopyOfAMissingValueWritesNothing) {
   f.WriteSettings("[Main]\r\nVersion=1\r\n[New]\r\nTarget=mine\r\n");
   f.WriteUpdate("[Main]\r\nVersion=2\r\n[Copy]\r\nC1=Old|Absent|New|Target\r\n");
   ASSERT_EQ(f.Merge(), MergeOutcome::Applied);
-  EXPECT_EQ(ReadIniString("New", "Target", f.settings), "mine");
+  EXPECT_EQ(Ini(f.settings).ReadString("New", "Target"), "mine");
   EXPECT_EQ(ReadWholeFile(f.settings).find("[Old]"), std::string::npos);
 }
 
@@ -80,7 +82,7 @@ TEST(SettingsUpdateMerge, VersionIsWrittenIntoTheSettings) {
   f.WriteSettings("[Main]\r\nVersion=1.4\r\n");
   f.WriteUpdate("[Main]\r\nVersion=1.5\r\n");
   ASSERT_EQ(f.Merge(), MergeOutcome::Applied);
-  EXPECT_EQ(ReadIniString("Main", "Version", f.settings), "1.5");
+  EXPECT_EQ(Ini(f.settings).ReadString("Main", "Version"), "1.5");
 }
 
 TEST(SettingsUpdateMerge, UpdateFileIsDeletedAfterTheMerge) {
@@ -97,8 +99,8 @@ TEST(SettingsUpdateMerge, InstructionsStopAtTheFirstMissingNumber) {
   f.WriteSettings("[Main]\r\nVersion=1\r\n");
   f.WriteUpdate("[Main]\r\nVersion=2\r\n[Add]\r\nA1=S|One|1\r\nA3=S|Three|3\r\n");
   ASSERT_EQ(f.Merge(), MergeOutcome::Applied);
-  EXPECT_EQ(ReadIniString("S", "One", f.settings), "1");
-  EXPECT_EQ(ReadIniString("S", "Three", f.settings), "");
+  EXPECT_EQ(Ini(f.settings).ReadString("S", "One"), "1");
+  EXPECT_EQ(Ini(f.settings).ReadString("S", "Three"), "");
 }
 
 TEST(SettingsUpdateMerge, InstructionWithTooFewPartsIsSkipped) {
@@ -108,11 +110,11 @@ TEST(SettingsUpdateMerge, InstructionWithTooFewPartsIsSkipped) {
       "[Main]\r\nVersion=2\r\n[Add]\r\nA1=S|Short\r\nA2=S|Added|yes\r\n"
       "[Copy]\r\nC1=S|A|T\r\nC2=S|B|T|B\r\n[Del]\r\nD1=nothing to split\r\n");
   ASSERT_EQ(f.Merge(), MergeOutcome::Applied);
-  EXPECT_EQ(ReadIniString("S", "Short", f.settings), "");
-  EXPECT_EQ(ReadIniString("S", "Added", f.settings), "yes");
-  EXPECT_EQ(ReadIniString("S", "A", f.settings), "1");
-  EXPECT_EQ(ReadIniString("T", "B", f.settings), "2");
-  EXPECT_EQ(ReadIniString("Main", "Version", f.settings), "2");
+  EXPECT_EQ(Ini(f.settings).ReadString("S", "Short"), "");
+  EXPECT_EQ(Ini(f.settings).ReadString("S", "Added"), "yes");
+  EXPECT_EQ(Ini(f.settings).ReadString("S", "A"), "1");
+  EXPECT_EQ(Ini(f.settings).ReadString("T", "B"), "2");
+  EXPECT_EQ(Ini(f.settings).ReadString("Main", "Version"), "2");
 }
 
 TEST(SettingsUpdateMerge, EqualVersionsOnlyCompactAndDelete) {
@@ -131,8 +133,8 @@ TEST(SettingsUpdateMerge, SameInstructionsAgainChangeNothing) {
   f.WriteUpdate(instructions);
   ASSERT_EQ(f.Merge(), MergeOutcome::Applied);
   // The user sets both keys again by hand; the same instructions come back.
-  ASSERT_TRUE(WriteIni("View", "Obsolete", "6", f.settings));
-  ASSERT_TRUE(WriteIni("View", "Grid", "0", f.settings));
+  ASSERT_TRUE(Ini(f.settings).Write("View", "Obsolete", "6"));
+  ASSERT_TRUE(Ini(f.settings).Write("View", "Grid", "0"));
   const std::string byHand = ReadWholeFile(f.settings);
   f.WriteUpdate(instructions);
   EXPECT_EQ(f.Merge(), MergeOutcome::AlreadyApplied);
@@ -147,10 +149,10 @@ TEST(SettingsUpdateMerge, VersionTestPreventsASecondRunWhenTheDeleteFailed) {
   ASSERT_EQ(chmod(f.app.c_str(), 0555), 0);
   ASSERT_EQ(f.Merge(), MergeOutcome::Applied);
   ASSERT_TRUE(Exists(f.update));
-  EXPECT_EQ(ReadIniString("View", "Obsolete", f.settings), "");
-  ASSERT_TRUE(WriteIni("View", "Obsolete", "6", f.settings));
+  EXPECT_EQ(Ini(f.settings).ReadString("View", "Obsolete"), "");
+  ASSERT_TRUE(Ini(f.settings).Write("View", "Obsolete", "6"));
   EXPECT_EQ(f.Merge(), MergeOutcome::AlreadyApplied);
-  EXPECT_EQ(ReadIniString("View", "Obsolete", f.settings), "6");
+  EXPECT_EQ(Ini(f.settings).ReadString("View", "Obsolete"), "6");
 }
 
 TEST(SettingsUpdateMerge, MissingSettingsFileIsCreatedFromTheInstructions) {

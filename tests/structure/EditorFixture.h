@@ -4,6 +4,7 @@
 
 #include "lang/MessageCatalog.h"
 #include "rename/ActionFixture.h"
+#include "support/RealFiles.h"
 
 namespace nomra::testing {
 
@@ -19,7 +20,7 @@ class StructureDialogTest : public ActionTest {
   static lang::MessageCatalog LanguageOf(const TempFolder& folder, const std::vector<std::string>& lines) {
     std::string content;
     for (const std::string& line : lines) content += line + "\r\n";
-    return lang::MessageCatalog(folder.WriteFile("Test.lng", content));
+    return lang::MessageCatalog(nomra::testing::RealFiles(), folder.WriteFile("Test.lng", content));
   }
 
   TempFolder app;

@@ -9,6 +9,7 @@
 #include "structure/SyntaxCheck.h"
 #include "structure/TagChoices.h"
 #include "support/ListFixture.h"
+#include "support/RealFiles.h"
 
 namespace nomra {
 namespace {
@@ -17,7 +18,7 @@ const std::vector<std::string> kLanguageFiles{"English.lng", "Deutsch.lng"};
 const std::vector<std::string> kLists{"cmbElements", "cmbExif", "cmbMP3Tag", "cmbDOSTag", "cmbFunctions"};
 
 lang::MessageCatalog Shipped(const std::string& file) {
-  return lang::MessageCatalog(std::string(NOMRA_LANG_DIR) + "/" + file);
+  return lang::MessageCatalog(nomra::testing::RealFiles(), std::string(NOMRA_LANG_DIR) + "/" + file);
 }
 
 std::vector<std::string> TagsOf(const std::vector<TagChoice>& choices) {

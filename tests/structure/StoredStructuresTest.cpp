@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/Utf8.h"
+#include "support/RealFiles.h"
 #include "support/TempFolder.h"
 
 namespace nomra {
@@ -21,11 +22,11 @@ class StoredStructuresTest : public ::testing::Test {
   std::string File() const { return StructuresFilePath(data.Path()); }
   Structures LoadFrom(const std::string& content) {
     data.WriteFile("structures.nrp", content);
-    return LoadStoredStructures(File());
+    return LoadStoredStructures(nomra::testing::RealFiles(), File());
   }
   Structures RoundTrip(const Structures& structures) {
-    EXPECT_TRUE(SaveStoredStructures(File(), structures));
-    return LoadStoredStructures(File());
+    EXPECT_TRUE(SaveStoredStructures(nomra::testing::RealFiles(), File(), structures));
+    return LoadStoredStructures(nomra::testing::RealFiles(), File());
   }
 
   TempFolder data;
@@ -37,22 +38,22 @@ TEST_F(StoredStructuresTest, TheFileIsStructuresNrpInTheDataFolder) {
 }
 
 TEST_F(StoredStructuresTest, SavedFileIsTheHeaderThenOneNameAndStructureALine) {
-  ASSERT_TRUE(SaveStoredStructures(File(), {{"Date first", "<DT(C,\"yyyy\")>_<NAME>.<EXT>"}, {"Plain", "<NAME>"}}));
+  ASSERT_TRUE(SaveStoredStructures(nomra::testing::RealFiles(), File(), {{"Date first", "<DT(C,\"yyyy\")>_<NAME>.<EXT>"}, {"Plain", "<NAME>"}}));
   EXPECT_EQ(ReadWholeFile(File()),
             "Name;Structure;\r\nDate first;<DT(C,\"yyyy\")>_<NAME>.<EXT>;\r\nPlain;<NAME>;\r\n");
 }
 
 TEST_F(StoredStructuresTest, NoStructuresLeaveTheHeaderAlone) {
-  ASSERT_TRUE(SaveStoredStructures(File(), {}));
+  ASSERT_TRUE(SaveStoredStructures(nomra::testing::RealFiles(), File(), {}));
   EXPECT_EQ(ReadWholeFile(File()), "Name;Structure;\r\n");
-  EXPECT_TRUE(LoadStoredStructures(File()).empty());
+  EXPECT_TRUE(LoadStoredStructures(nomra::testing::RealFiles(), File()).empty());
 }
 
 TEST_F(StoredStructuresTest, NameHoldingASemicolonIsStoredInQuotesAndRoundTrips) {
   const Structures structures{{"Artist; Title", "<ID3_Artist> - <ID3_SongTitle>"}};
-  ASSERT_TRUE(SaveStoredStructures(File(), structures));
+  ASSERT_TRUE(SaveStoredStructures(nomra::testing::RealFiles(), File(), structures));
   EXPECT_EQ(ReadWholeFile(File()), "Name;Structure;\r\n\"Artist; Title\";<ID3_Artist> - <ID3_SongTitle>;\r\n");
-  EXPECT_EQ(LoadStoredStructures(File()), structures);
+  EXPECT_EQ(LoadStoredStructures(nomra::testing::RealFiles(), File()), structures);
 }
 
 TEST_F(StoredStructuresTest, StructureSplittingAtASemicolonRoundTrips) {
@@ -61,7 +62,7 @@ TEST_F(StoredStructuresTest, StructureSplittingAtASemicolonRoundTrips) {
 }
 
 TEST_F(StoredStructuresTest, MissingFileGivesNoStructures) {
-  EXPECT_TRUE(LoadStoredStructures(File()).empty());
+  EXPECT_TRUE(LoadStoredStructures(nomra::testing::RealFiles(), File()).empty());
 }
 
 TEST_F(StoredStructuresTest, EmptyFileGivesNoStructures) { EXPECT_TRUE(LoadFrom("").empty()); }
@@ -156,9 +157,9 @@ TEST_F(StoredStructuresTest, SavingWhatWasLoadedWritesTheSameFile) {
   StructureTextMaker maker(7);
   Structures structures;
   for (int n = 0; n < 50; ++n) structures.push_back({maker.Make(16), maker.Make(32)});
-  ASSERT_TRUE(SaveStoredStructures(File(), structures));
+  ASSERT_TRUE(SaveStoredStructures(nomra::testing::RealFiles(), File(), structures));
   const std::string first = ReadWholeFile(File());
-  ASSERT_TRUE(SaveStoredStructures(File(), LoadStoredStructures(File())));
+  ASSERT_TRUE(SaveStoredStructures(nomra::testing::RealFiles(), File(), LoadStoredStructures(nomra::testing::RealFiles(), File())));
   EXPECT_EQ(ReadWholeFile(File()), first);
 }
 

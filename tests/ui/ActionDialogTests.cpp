@@ -8,12 +8,14 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
 #include "ui/ActionWindows.h"
 #include "ui/DialogBinder.h"
 #include "ui/FrmPrefixSuffix.h"
 #include "ui/FrmScript.h"
 #include "ui/WindowFixture.h"
+
+using nomra::testing::Ini;
 
 namespace nomra::ui::testing {
 namespace {
@@ -124,8 +126,8 @@ TEST_F(ActionDialogTest, ApplyStoresTheInputsInTheirSection) {
 
   dialog->cmdApply();
 
-  EXPECT_EQ(settings::ReadIniString("FrmPS", "txtPr", SettingsPath()), "new" + kStandIn + "one");
-  EXPECT_EQ(settings::ReadIniString("FrmPS", "txtSu", SettingsPath()), "");
+  EXPECT_EQ(Ini(SettingsPath()).ReadString("FrmPS", "txtPr"), "new" + kStandIn + "one");
+  EXPECT_EQ(Ini(SettingsPath()).ReadString("FrmPS", "txtSu"), "");
 }
 
 TEST_F(ActionDialogTest, TextBoxSelectsAllItsTextOnFocus) {

@@ -3,9 +3,11 @@
 #include <QColor>
 
 #include "core/FileEntry.h"
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
 #include "support/TempFolder.h"
 #include "ui/WindowFixture.h"
+
+using nomra::testing::Ini;
 
 namespace nomra::ui::testing {
 namespace {
@@ -76,13 +78,13 @@ TEST_F(CommitAndCloseTest, CloseWritesTheLayoutToTheSettings) {
 
   const std::string file = SettingsPath();
   for (int head = 1; head <= 8; ++head) {
-    EXPECT_NE(settings::ReadIniString("Main", "Col" + std::to_string(head), file), "") << head;
+    EXPECT_NE(Ini(file).ReadString("Main", "Col" + std::to_string(head)), "") << head;
   }
-  EXPECT_EQ(settings::ReadIniString("Settings", "PreviewStyle", file), "Icons");
-  EXPECT_EQ(settings::ReadIniInt("Main", "ws", file), 0);
-  EXPECT_GT(settings::ReadIniInt("Main", "w", file), 0);
-  EXPECT_NE(settings::ReadIniString("Settings", "PreviewSortKey", file), "");
-  EXPECT_NE(settings::ReadIniString("Settings", "splash", file), "");
+  EXPECT_EQ(Ini(file).ReadString("Settings", "PreviewStyle"), "Icons");
+  EXPECT_EQ(Ini(file).ReadInt("Main", "ws"), 0);
+  EXPECT_GT(Ini(file).ReadInt("Main", "w"), 0);
+  EXPECT_NE(Ini(file).ReadString("Settings", "PreviewSortKey"), "");
+  EXPECT_NE(Ini(file).ReadString("Settings", "splash"), "");
 }
 
 }  // namespace

@@ -7,13 +7,15 @@
 
 #include "commit/CommitResult.h"
 #include "lang/MessageCatalog.h"
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
 #include "ui/LanguageDialog.h"
 #include "ui/NotRenamedDialog.h"
 #include "ui/StartWindow.h"
 #include "ui/WindowFixture.h"
+
+using nomra::testing::Ini;
 
 namespace nomra::ui::testing {
 namespace {
@@ -35,7 +37,7 @@ class LanguageDialogTest : public ::testing::Test {
 };
 
 TEST_F(LanguageDialogTest, ListsTheLanguageNamesOfTheFolder) {
-  LanguageDialog dialog(folder.Path(), SettingsFile(), lang::MessageCatalog(), QString());
+  LanguageDialog dialog(folder.Path(), Ini(SettingsFile()), lang::MessageCatalog(), QString());
 
   QStringList names;
   for (int i = 0; i < dialog.Choices().count(); ++i) names << dialog.Choices().itemText(i);
@@ -44,28 +46,28 @@ TEST_F(LanguageDialogTest, ListsTheLanguageNamesOfTheFolder) {
 }
 
 TEST_F(LanguageDialogTest, LanguageInUseIsTheOneShownFirst) {
-  LanguageDialog dialog(folder.Path(), SettingsFile(), lang::MessageCatalog(beta), QString());
+  LanguageDialog dialog(folder.Path(), Ini(SettingsFile()), lang::MessageCatalog(nomra::testing::RealFiles(), beta), QString());
   EXPECT_EQ(dialog.Choices().currentText(), "Beta");
 }
 
 TEST_F(LanguageDialogTest, OkStoresTheChosenLanguage) {
-  LanguageDialog dialog(folder.Path(), SettingsFile(), lang::MessageCatalog(alpha), QString());
+  LanguageDialog dialog(folder.Path(), Ini(SettingsFile()), lang::MessageCatalog(nomra::testing::RealFiles(), alpha), QString());
   dialog.Choices().setCurrentIndex(dialog.Choices().findText("Beta"));
 
   dialog.findChild<QPushButton*>("cmdOK")->click();
 
   EXPECT_EQ(dialog.result(), QDialog::Accepted);
-  EXPECT_EQ(settings::ReadIniString("Settings", "lng", SettingsFile()), "Beta");
+  EXPECT_EQ(Ini(SettingsFile()).ReadString("Settings", "lng"), "Beta");
   EXPECT_EQ(dialog.ChosenFile(), beta);
 }
 
 TEST_F(LanguageDialogTest, CancelStoresNothing) {
-  LanguageDialog dialog(folder.Path(), SettingsFile(), lang::MessageCatalog(alpha), QString());
+  LanguageDialog dialog(folder.Path(), Ini(SettingsFile()), lang::MessageCatalog(nomra::testing::RealFiles(), alpha), QString());
   dialog.Choices().setCurrentIndex(dialog.Choices().findText("Beta"));
 
   dialog.findChild<QPushButton*>("cmdCancel")->click();
 
-  EXPECT_EQ(settings::ReadIniString("Settings", "lng", SettingsFile()), "");
+  EXPECT_EQ(Ini(SettingsFile()).ReadString("Settings", "lng"), "");
   EXPECT_EQ(dialog.ChosenFile(), "");
 }
 
@@ -86,7 +88,7 @@ TEST_F(OptionsTest, LanguageChosenInOptionsPutsItsTextsOnTheWindow) {
   window->RunMainToolKey("Options");
 
   EXPECT_EQ(Menu("mnuFile")->text(), "&Beta file");
-  EXPECT_EQ(settings::ReadIniString("Settings", "lng", SettingsPath()), "Beta");
+  EXPECT_EQ(Ini(SettingsPath()).ReadString("Settings", "lng"), "Beta");
 }
 
 TEST_F(OptionsTest, NewLanguageKeepsOneVariantInTheDropDownToolTips) {
@@ -120,7 +122,7 @@ TEST(StartWindowTest, ClosesItselfByItsTimer) {
 }
 
 TEST(StartWindowTest, ShowsTheProgramsVersion) {
-  StartWindow start(lang::MessageCatalog(EnglishFile()), "Nomra", "1.2.3");
+  StartWindow start(lang::MessageCatalog(nomra::testing::RealFiles(), EnglishFile()), "Nomra", "1.2.3");
   start.Zeit1().stop();
   EXPECT_EQ(start.findChild<QLabel*>("lblVers")->text(), "Version 1.2.3");
 }
@@ -143,7 +145,7 @@ class NotRenamedDialogTest : public ::testing::Test {
   }
 
   CommitResult result;
-  lang::MessageCatalog catalog{EnglishFile()};
+  lang::MessageCatalog catalog{nomra::testing::RealFiles(), EnglishFile()};
 };
 
 TEST_F(NotRenamedDialogTest, ChoiceOfTheLastOkIsShownNextTime) {
@@ -154,16 +156,16 @@ TEST_F(NotRenamedDialogTest, ChoiceOfTheLastOkIsShownNextTime) {
   nomra::testing::ScriptedFrontEnd frontEnd;
   {
     NotRenamedDialog first(result, catalog);
-    first.RememberChoiceIn(session, frontEnd);
+    first.RememberChoiceIn(session, nomra::testing::RealFiles(), frontEnd);
     ASSERT_TRUE(first.findChild<QRadioButton*>("optNoAction")->isChecked());
     first.findChild<QRadioButton*>("optRemoveRenamed")->setChecked(true);
     first.findChild<QPushButton*>("cmdOK")->click();
   }
-  EXPECT_EQ(settings::ReadIniString("frmNotRenamed", "optRemoveRenamed", session.settingsPath), "-1");
-  EXPECT_EQ(settings::ReadIniString("frmNotRenamed", "optNoAction", session.settingsPath), "");
+  EXPECT_EQ(Ini(session.settingsPath).ReadString("frmNotRenamed", "optRemoveRenamed"), "-1");
+  EXPECT_EQ(Ini(session.settingsPath).ReadString("frmNotRenamed", "optNoAction"), "");
 
   NotRenamedDialog second(result, catalog);
-  second.RememberChoiceIn(session, frontEnd);
+  second.RememberChoiceIn(session, nomra::testing::RealFiles(), frontEnd);
   EXPECT_TRUE(second.findChild<QRadioButton*>("optRemoveRenamed")->isChecked());
   EXPECT_FALSE(second.findChild<QRadioButton*>("optNoAction")->isChecked());
 }
@@ -175,10 +177,10 @@ TEST_F(NotRenamedDialogTest, CancelStoresNoChoice) {
   session.settingsPath = data.Path() + "settings.nrp";
   nomra::testing::ScriptedFrontEnd frontEnd;
   NotRenamedDialog dialog(result, catalog);
-  dialog.RememberChoiceIn(session, frontEnd);
+  dialog.RememberChoiceIn(session, nomra::testing::RealFiles(), frontEnd);
   dialog.findChild<QRadioButton*>("optRemoveRenamed")->setChecked(true);
   dialog.findChild<QPushButton*>("cmdCancel")->click();
-  EXPECT_EQ(settings::ReadIniString("frmNotRenamed", "optRemoveRenamed", session.settingsPath), "");
+  EXPECT_EQ(Ini(session.settingsPath).ReadString("frmNotRenamed", "optRemoveRenamed"), "");
 }
 
 TEST_F(NotRenamedDialogTest, ListsEachRowWithNumberAndMessage) {

@@ -13,9 +13,9 @@
 #include "core/AddFile.h"
 #include "core/MainModel.h"
 #include "fileops/MessageKeys.h"
-#include "fileops/posix/PosixOperationSystem.h"
+#include "platform/Platform.h"
 #include "lang/MessageCatalog.h"
-#include "settings/ScopedEnvironment.h"
+#include "support/ScopedEnvironment.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
 #include "ui/DialogBinder.h"
@@ -24,6 +24,7 @@
 #include "ui/FrmSelAction.h"
 #include "ui/PropertiesDialog.h"
 #include "ui/WindowFixture.h"
+#include "support/RealFiles.h"
 
 namespace nomra::ui::testing {
 namespace {
@@ -55,21 +56,21 @@ class FileOperationsDialogTest : public ::testing::Test {
   ScriptedFrontEnd frontEnd;
   NoExifDates noExif;
   MainModel model{fileSystem, frontEnd, noExif};
-  lang::MessageCatalog english{EnglishFile()};
-  fileops::PosixOperationSystem os;
+  lang::MessageCatalog english{nomra::testing::RealFiles(), EnglishFile()};
+  std::unique_ptr<platform::Platform> os = platform::MakeSystemPlatform();
   std::string target;
 };
 
 TEST_F(FileOperationsDialogTest, EveryInputOfEachUseHasItsWidget) {
   for (const char* tag : {"frmSelAction", "frmCopyFiles", "frmMoveFiles"}) {
-    FrmSelAction dialog(tag, model, english, os);
+    FrmSelAction dialog(tag, model, english, *os);
     EXPECT_EQ(dialog.objectName(), tag);
     EXPECT_TRUE(InputsWithoutWidget(dialog.Engine().Model(), dialog).isEmpty()) << tag;
   }
 }
 
 TEST_F(FileOperationsDialogTest, TakeChangesUseShowsTheFrameOfNamesInItsLanguage) {
-  FrmSelAction dialog("frmSelAction", model, english, os);
+  FrmSelAction dialog("frmSelAction", model, english, *os);
 
   EXPECT_FALSE(Child<QGroupBox>(dialog, "frameCopy")->isHidden());
   EXPECT_TRUE(Child<QCheckBox>(dialog, "chkUpdateList")->isHidden());
@@ -79,7 +80,7 @@ TEST_F(FileOperationsDialogTest, TakeChangesUseShowsTheFrameOfNamesInItsLanguage
 }
 
 TEST_F(FileOperationsDialogTest, CopyUseOffersTheUpdateOfTheList) {
-  FrmSelAction dialog("frmCopyFiles", model, english, os);
+  FrmSelAction dialog("frmCopyFiles", model, english, *os);
 
   auto* update = Child<QCheckBox>(dialog, "chkUpdateList");
   EXPECT_TRUE(Child<QGroupBox>(dialog, "frameCopy")->isHidden());
@@ -89,7 +90,7 @@ TEST_F(FileOperationsDialogTest, CopyUseOffersTheUpdateOfTheList) {
 }
 
 TEST_F(FileOperationsDialogTest, MoveUseKeepsTheUpdateCheckedAndDisabled) {
-  FrmSelAction dialog("frmMoveFiles", model, english, os);
+  FrmSelAction dialog("frmMoveFiles", model, english, *os);
 
   auto* update = Child<QCheckBox>(dialog, "chkUpdateList");
   EXPECT_TRUE(update->isChecked());
@@ -97,7 +98,7 @@ TEST_F(FileOperationsDialogTest, MoveUseKeepsTheUpdateCheckedAndDisabled) {
 }
 
 TEST_F(FileOperationsDialogTest, OkFollowsWhetherTheTypedPathIsAFolder) {
-  FrmSelAction dialog("frmCopyFiles", model, english, os);
+  FrmSelAction dialog("frmCopyFiles", model, english, *os);
   auto* ok = Child<QPushButton>(dialog, "cmdOK");
   auto* path = Child<QLineEdit>(dialog, "txtTargetPath");
   ASSERT_FALSE(ok->isEnabled());
@@ -111,7 +112,7 @@ TEST_F(FileOperationsDialogTest, OkFollowsWhetherTheTypedPathIsAFolder) {
 TEST_F(FileOperationsDialogTest, OkCopiesTheSelectedFilesAndCloses) {
   Add("a.txt");
   model.list.Item(1).selected = true;
-  FrmSelAction dialog("frmCopyFiles", model, english, os);
+  FrmSelAction dialog("frmCopyFiles", model, english, *os);
   QTest::keyClicks(Child<QLineEdit>(dialog, "txtTargetPath"), QString::fromStdString(target));
   Child<QCheckBox>(dialog, "chkUpdateList")->setChecked(true);
 
@@ -123,7 +124,7 @@ TEST_F(FileOperationsDialogTest, OkCopiesTheSelectedFilesAndCloses) {
 }
 
 TEST_F(FileOperationsDialogTest, FolderBrowserPutsItsChoiceIntoTheTargetPath) {
-  FrmSelAction dialog("frmMoveFiles", model, english, os);
+  FrmSelAction dialog("frmMoveFiles", model, english, *os);
   ModalWatcher modals;
   QString title;
   modals.SetHandler([&](QWidget& modal) {
@@ -160,7 +161,7 @@ TEST_F(FileOperationsDialogTest, PropertiesShowSizeTypeAndPermissions) {
   const std::string file = files.WriteFile("twelve.txt", "twelve bytes");
   chmod(file.c_str(), 0640);
 
-  PropertiesDialog dialog(fileops::ReadFileProperties(file), english);
+  PropertiesDialog dialog(fileSystem.Properties(file), english);
 
   EXPECT_EQ(dialog.objectName(), "frmProperties");
   EXPECT_EQ(dialog.windowTitle(), "Properties");
@@ -172,7 +173,7 @@ TEST_F(FileOperationsDialogTest, PropertiesShowSizeTypeAndPermissions) {
 }
 
 TEST_F(FileOperationsDialogTest, PropertiesOfAVanishedFileAreToldInstead) {
-  ShowProperties(nullptr, frontEnd, english, files.Path() + "gone.txt");
+  ShowProperties(nullptr, fileSystem, frontEnd, english, files.Path() + "gone.txt");
 
   ASSERT_EQ(frontEnd.asked.size(), 1u);
   EXPECT_EQ(frontEnd.asked[0].textKey, fileops::kSourceMissing);
@@ -184,7 +185,7 @@ TEST_F(FileOperationsDialogTest, DeleteToTheTrashAfterTheYesTakesTheRowsAway) {
   Add("a.txt");
   frontEnd.answers = {Answer::Yes};
 
-  EXPECT_TRUE(DeleteListFiles(nullptr, model, english, true));
+  EXPECT_TRUE(DeleteListFiles(nullptr, *os, model, english, true));
 
   EXPECT_EQ(model.list.Count(), 0);
   EXPECT_TRUE(Exists(data.Path() + "share/Trash/files/a.txt"));

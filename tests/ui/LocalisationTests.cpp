@@ -12,6 +12,7 @@
 #include "ui/FileListModel.h"
 #include "ui/QtLocalisation.h"
 #include "ui/WindowFixture.h"
+#include "support/RealFiles.h"
 
 namespace nomra::ui::testing {
 namespace {
@@ -64,7 +65,7 @@ class AdapterTest : public ::testing::Test {
                                               "cmbFilled-2=Zweite\n"
                                               "[Menus]\n"
                                               "mnuEntry=&Eintrag\n");
-    LocaliseWidget(sample.dialog, QString(), lang::MessageCatalog(file), lang::CaptionSources{});
+    LocaliseWidget(sample.dialog, QString(), lang::MessageCatalog(nomra::testing::RealFiles(), file), lang::CaptionSources{});
   }
 
   TempFolder folder;

@@ -6,10 +6,12 @@
 #include <QMenu>
 #include <QPushButton>
 
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
 #include "ui/FrmOpen.h"
 #include "ui/SystemOpenDialog.h"
 #include "ui/WindowFixture.h"
+
+using nomra::testing::Ini;
 
 namespace nomra::ui::testing {
 namespace {
@@ -39,7 +41,7 @@ class OpenCommandTest : public WindowTest {
     found.first()->setSelected(true);
   }
   std::string Stored(const char* section, const char* key) const {
-    return settings::ReadIniString(section, key, SettingsPath());
+    return Ini(SettingsPath()).ReadString(section, key);
   }
   std::string WritePlaylist() const {
     files.WriteFile("music/a.mp3", "a");

@@ -17,6 +17,7 @@
 #include "ui/FrmHistory.h"
 #include "ui/QtFrontEnd.h"
 #include "ui/WindowFixture.h"
+#include "support/RealFiles.h"
 
 namespace nomra::ui::testing {
 namespace {
@@ -66,7 +67,7 @@ class RenameHistoryDialog : public ::testing::Test {
   TempFolder files;
   platform::PosixFileSystem fileSystem;
   NoExifDates exifDates;
-  lang::MessageCatalog catalog{EnglishFile()};
+  lang::MessageCatalog catalog{nomra::testing::RealFiles(), EnglishFile()};
   QtFrontEnd frontEnd{catalog, "Nomra"};
   MainModel model{fileSystem, frontEnd, exifDates};
   std::deque<Answer> answers;
@@ -270,7 +271,7 @@ TEST_F(RenameHistoryDialog, TitleJoinsItsCaptionTheMenuEntryAndTheProgram) {
 }
 
 TEST_F(RenameHistoryDialog, HeadsAndButtonsSpeakTheLanguageOfTheFile) {
-  const lang::MessageCatalog german(GermanFile());
+  const lang::MessageCatalog german(nomra::testing::RealFiles(), GermanFile());
   FrmHistory dialog(model, frontEnd, german, "Nomra");
 
   QTreeWidgetItem& heads = *Files(dialog).headerItem();

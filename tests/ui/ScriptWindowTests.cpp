@@ -10,8 +10,10 @@
 #include <QTest>
 #include <filesystem>
 
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
 #include "ui/WindowFixture.h"
+
+using nomra::testing::Ini;
 
 namespace nomra::ui::testing {
 namespace {
@@ -230,9 +232,9 @@ TEST_F(ScriptWindowTest, RecordingSwitchesTheRecordButtonsAndStoresANamedScript)
   const std::vector<std::string> stored = StoredScripts();
   ASSERT_EQ(stored.size(), 1u);
   const std::string script = ScriptFolder() + stored.front();
-  EXPECT_EQ(settings::ReadIniString("Main", "Name", script), "My script");
-  EXPECT_EQ(settings::ReadIniString("1", "Type", script), "5");
-  EXPECT_EQ(settings::ReadIniString("1", "txtPr", script), "p" + kStandIn);
+  EXPECT_EQ(Ini(script).ReadString("Main", "Name"), "My script");
+  EXPECT_EQ(Ini(script).ReadString("1", "Type"), "5");
+  EXPECT_EQ(Ini(script).ReadString("1", "txtPr"), "p" + kStandIn);
   ASSERT_EQ(ScriptMenu().actions().size(), 1);
   EXPECT_TRUE(ScriptMenu().actions().front()->text().startsWith("My script ["));
 }
@@ -257,7 +259,7 @@ TEST_F(ScriptWindowTest, ClosingDuringARecordingAnsweredYesStoresTheScript) {
   EXPECT_EQ(asked[0].message.textKey, "MsgText30");
   const std::vector<std::string> stored = StoredScripts();
   ASSERT_EQ(stored.size(), 1u);
-  EXPECT_EQ(settings::ReadIniString("Main", "Name", ScriptFolder() + stored.front()), "At close");
+  EXPECT_EQ(Ini(ScriptFolder() + stored.front()).ReadString("Main", "Name"), "At close");
 }
 
 TEST_F(ScriptWindowTest, ClosingDuringARecordingAnsweredNoLosesIt) {

@@ -13,6 +13,7 @@
 #include "support/TempFolder.h"
 #include "ui/SystemOpenDialog.h"
 #include "ui/WindowFixture.h"
+#include "support/RealFiles.h"
 
 namespace nomra::ui::testing {
 namespace {
@@ -53,7 +54,7 @@ class SystemOpenDialogTest : public ::testing::Test {
   }
 
   TempFolder folder;
-  lang::MessageCatalog catalog{EnglishFile()};
+  lang::MessageCatalog catalog{nomra::testing::RealFiles(), EnglishFile()};
   std::vector<open::FilterRow> filters;
   int filterIndex = 1;
   open::OpenMode mode = open::OpenMode::Files;

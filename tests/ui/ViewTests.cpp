@@ -8,9 +8,11 @@
 
 #include "core/FileEntry.h"
 #include "core/WindowPlacement.h"
-#include "settings/IniFile.h"
+#include "support/RealFiles.h"
 #include "ui/ThumbnailCache.h"
 #include "ui/WindowFixture.h"
+
+using nomra::testing::Ini;
 
 namespace nomra::ui::testing {
 namespace {
@@ -110,7 +112,7 @@ TEST_F(ViewTest, PictureSizeEntrySetsTheSizeAndStoresIt) {
   EXPECT_EQ(window->Thumbnails().Size(), size);
   EXPECT_EQ(window->IconSize(), size);
   EXPECT_TRUE(third->isChecked());
-  EXPECT_EQ(settings::ReadIniInt("Settings", "PreviewImageSize", SettingsPath()), 3);
+  EXPECT_EQ(Ini(SettingsPath()).ReadInt("Settings", "PreviewImageSize"), 3);
 }
 
 TEST_F(ViewTest, ColumnEntryHidesAndShowsTheHeadAfterIt) {

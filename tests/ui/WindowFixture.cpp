@@ -27,7 +27,7 @@ MainWindow& WindowTest::Open(const std::string& languageFile) {
   paths.settingsPath = SettingsPath();
   paths.dataFolderUsable = true;
   window = std::make_unique<MainWindow>(
-      MainWindow::Services{fileSystem, exifDates, paths, languageFile, QStringLiteral("Nomra"), QStringLiteral("9.8.7")});
+      MainWindow::Services{*system, exifDates, paths, languageFile, QStringLiteral("Nomra"), QStringLiteral("9.8.7")});
   window->FrontEnd().SetAnswerer([this](const Message& message, const QString& caption, const QString& text) {
     // A fault is a message without a key: the text says what stopped.
     if (message.textKey.empty()) {

@@ -12,7 +12,7 @@
 
 #include "core/ExifDateReader.h"
 #include "core/FrontEnd.h"
-#include "platform/posix/PosixFileSystem.h"
+#include "platform/Platform.h"
 #include "support/TempFolder.h"
 #include "ui/MainWindow.h"
 #include "ui/ModalWatcher.h"
@@ -84,7 +84,7 @@ class WindowTest : public ::testing::Test {
   nomra::testing::TempFolder app;
   nomra::testing::TempFolder data;
   nomra::testing::TempFolder files;
-  platform::PosixFileSystem fileSystem;
+  std::unique_ptr<platform::Platform> system = platform::MakeSystemPlatform();
   NoExifDates exifDates;
   ModalWatcher modals;
   // The dialogs a test opens on purpose, by object name.

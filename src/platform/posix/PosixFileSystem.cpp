@@ -13,6 +13,10 @@
 #include <vector>
 
 #include "platform/posix/CaseLookup.h"
+#include "platform/posix/FileContents.h"
+#include "platform/posix/FileCopy.h"
+#include "platform/posix/FileLocks.h"
+#include "platform/posix/FileProperties.h"
 #include "platform/posix/NoReplaceRename.h"
 
 namespace nomra::platform {
@@ -20,7 +24,6 @@ namespace nomra::platform {
 namespace {
 
 bool HoldsNul(const std::string& path) { return path.find('\0') != std::string::npos; }
-
 
 constexpr long kMsdosMagic = 0x4d44;        // FAT12/16/32, vfat
 constexpr long kExfatMagic = 0x2011BAB0;
@@ -76,6 +79,28 @@ FileStatus PosixFileSystem::Status(const std::string& path) {
   return status;
 }
 
+FileStatus PosixFileSystem::Inspect(const std::string& path) {
+  FileStatus status;
+  struct stat own {};
+  if (lstat(path.c_str(), &own) != 0) {
+    status.error = errno;
+    return status;
+  }
+  status.isLink = S_ISLNK(own.st_mode);
+  struct stat target = own;
+  // A link that leads nowhere still takes its name.
+  if (status.isLink && stat(path.c_str(), &target) != 0) target = own;
+  status.kind = KindOfMode(target.st_mode);
+  status.size = static_cast<std::uint64_t>(target.st_size);
+  status.device = static_cast<std::uint64_t>(target.st_dev);
+  status.inode = static_cast<std::uint64_t>(target.st_ino);
+  status.modified = target.st_mtim.tv_sec;
+  status.sticky = (target.st_mode & S_ISVTX) != 0;
+  return status;
+}
+
+FileProperties PosixFileSystem::Properties(const std::string& path) { return ReadProperties(path); }
+
 namespace {
 
 // An absolute path without ".", ".." or doubled separators is its own normal form.
@@ -91,6 +116,8 @@ std::string PosixFileSystem::AbsolutePath(const std::string& path) {
   if (IsNormalAbsolute(path)) return path;
   return NormalizeAbsolutePath(path, path.starts_with('/') ? std::string() : WorkingFolder());
 }
+
+std::string PosixFileSystem::ResolveLink(const std::string& path) { return ResolvedLink(path); }
 
 bool PosixFileSystem::ListFolder(const std::string& folder, const EntryVisitor& visit) {
   if (HoldsNul(folder)) return false;
@@ -152,6 +179,13 @@ bool PosixFileSystem::CaseRuleOf(const std::string& folder) {
   return insensitive;
 }
 
+bool PosixFileSystem::MayWriteFile(const std::string& path) { return MayReplaceFile(path); }
+
+bool PosixFileSystem::MayWriteInFolder(const std::string& folder) {
+  struct stat st {};
+  return stat(folder.c_str(), &st) == 0 && S_ISDIR(st.st_mode) && access(folder.c_str(), W_OK | X_OK) == 0;
+}
+
 bool ProbeCaseInsensitiveFolder(const std::string& folder) {
   struct statfs fs {};
   if (statfs(folder.c_str(), &fs) != 0) return false;
@@ -183,6 +217,82 @@ bool PosixFileSystem::ConfirmRenamed(const std::string& from, const std::string&
   }
   return trustRename_ || ConfirmRename(from, to);
 }
+
+int PosixFileSystem::RenameReplacing(const std::string& from, const std::string& to) {
+  return rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
+}
+
+int PosixFileSystem::RemoveFile(const std::string& path) { return unlink(path.c_str()) == 0 ? 0 : errno; }
+
+int PosixFileSystem::MakeFolder(const std::string& path, unsigned mode) {
+  return mkdir(path.c_str(), static_cast<mode_t>(mode)) == 0 ? 0 : errno;
+}
+
+int PosixFileSystem::MakeFolderPath(const std::string& path) {
+  int lastError = 0;
+  std::size_t from = 0;
+  while (from < path.size()) {
+    std::size_t slash = path.find('/', from);
+    if (slash == std::string::npos) slash = path.size();
+    const std::string prefix = path.substr(0, slash);
+    if (!prefix.empty() && mkdir(prefix.c_str(), 0777) != 0 && errno != EEXIST) lastError = errno;
+    from = slash + 1;
+  }
+  struct stat st {};
+  if (stat(path.c_str(), &st) == 0) return S_ISDIR(st.st_mode) ? 0 : ENOTDIR;
+  return lastError != 0 ? lastError : errno;
+}
+
+std::optional<std::string> PosixFileSystem::ReadFile(const std::string& path, int& error) {
+  return ReadWholeFile(path, error);
+}
+
+int PosixFileSystem::WriteNewFile(const std::string& path, std::string_view content) {
+  return WriteNewPrivateFile(path, content);
+}
+
+int PosixFileSystem::WriteFile(const std::string& path, std::string_view content, const std::string& permissionsFrom) {
+  return WriteFileWithPermissionsOf(path, content, permissionsFrom);
+}
+
+int PosixFileSystem::ReplaceFile(const std::string& path, std::string_view content) {
+  return ReplaceFileContent(path, content);
+}
+
+int PosixFileSystem::CopyFile(const std::string& from, const std::string& to, const CopyTick& tick, bool durable) {
+  return CopyFileContents(from, to, tick, durable);
+}
+
+std::unique_ptr<OpenFile> PosixFileSystem::OpenForAppend(const std::string& path, int& error) {
+  return OpenAppending(path, error);
+}
+
+int PosixFileSystem::SetTimes(const std::string& path, std::optional<std::time_t> accessed,
+                              std::optional<std::time_t> modified) {
+  const auto timeOf = [](const std::optional<std::time_t>& seconds) {
+    return seconds ? timespec{*seconds, 0} : timespec{0, UTIME_OMIT};
+  };
+  const timespec times[2] = {timeOf(accessed), timeOf(modified)};
+  return utimensat(AT_FDCWD, path.c_str(), times, 0) == 0 ? 0 : errno;
+}
+
+int PosixFileSystem::SetReadOnly(const std::string& path, bool readOnly) {
+  struct stat st {};
+  if (stat(path.c_str(), &st) != 0) return errno;
+  const mode_t writeBits = S_IWUSR | S_IWGRP | S_IWOTH;
+  const mode_t mode = readOnly ? (st.st_mode & ~writeBits) : (st.st_mode | S_IWUSR);
+  return chmod(path.c_str(), mode & 07777) == 0 ? 0 : errno;
+}
+
+std::unique_ptr<OpenFile> PosixFileSystem::CreateLockedDraft(const std::string& path, std::string& draftPath,
+                                                             int& error) {
+  draftPath = path + ".new-" + std::to_string(getpid());
+  return CreateLockedFile(draftPath, error);
+}
+
+ExistingLock PosixFileSystem::LockExisting(const std::string& path) { return LockExistingFile(path); }
+
+int PosixFileSystem::SyncFolder(const std::string& folder) { return SyncFolderEntries(folder); }
 
 bool KernelRenameIsTrusted(const std::string& folder) {
   constexpr long kExt4Magic = 0xEF53;
