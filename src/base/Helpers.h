@@ -17,6 +17,9 @@ inline constexpr std::string_view kForbiddenNameCharacters = "\\/:?*<>|\"";
 // Removes each of the nine forbidden characters from a name.
 std::string CleanFileName(std::string_view name);
 
+// The text between double quotes, as paths are shown in messages.
+std::string Quoted(std::string_view text);
+
 // The text with every double quote taken out.
 std::string WithoutDoubleQuotes(std::string_view text);
 

@@ -1,13 +1,12 @@
 #include "commit/CommitBatch.h"
+#include "base/Helpers.h"
+#include "lang/MessageKeys.h"
 
 #include <cerrno>
-#include <cstring>
 
 namespace nomra {
 
 namespace {
-
-std::string Quoted(const std::string& path) { return "\"" + path + "\""; }
 
 }  // namespace
 
@@ -32,12 +31,12 @@ void CommitBatch::JournalTemporary(const std::string& source, const std::string&
 void CommitBatch::FailJournal(int error) {
   ReportRow row;
   row.number = static_cast<int>(result.notRenamed.size()) + 1;
-  row.textKey = kOtherFailureText;
+  row.textKey = lang::kOtherFailureText;
   row.arguments = {Quoted(""), Quoted("")};
   row.about = "the commit journal";
   const std::string why = error == EEXIST ? "one is there already, left by an interrupted commit or held by a "
                                             "commit in another Nomra"
-                                          : std::strerror(error);
+                                          : SystemErrorText(error);
   row.systemText = "not written (" + why + "); the renames went on, but one cut short by a crash could not be "
                    "repaired at the next start";
   result.notRenamed.push_back(std::move(row));

@@ -1,10 +1,10 @@
 #include "commit/CommitPlan.h"
 
 #include <cerrno>
-#include <cstring>
 #include <string>
 #include <vector>
 
+#include "base/Failure.h"
 #include "base/Helpers.h"
 
 namespace nomra {
@@ -65,7 +65,7 @@ void ClaimNewNames(CommitBatch& batch, PathMap& claimed, OrderedPathMap& diskOth
       continue;
     }
     claimed.Set(target, row.key);
-    if (!diskOthers.Erase(row.key)) batch.Fail(row.key, OtherFailure(std::strerror(ENOENT)), "", "");
+    if (!diskOthers.Erase(row.key)) batch.Fail(row.key, SystemFailure(ENOENT), "", "");
   }
 }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <ctime>
 #include <optional>
 #include <unordered_map>
@@ -10,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/Failure.h"
 #include "base/Helpers.h"
 #include "commit/CommitExecution.h"
 #include "commit/CommitJournal.h"
@@ -19,8 +19,6 @@
 namespace nomra {
 
 namespace {
-
-std::string Quoted(const std::string& path) { return "\"" + path + "\""; }
 
 bool IsThere(platform::FileSystem& fileSystem, const std::string& path) {
   return fileSystem.Status(path).kind != platform::EntryKind::Missing;
@@ -32,7 +30,7 @@ std::optional<std::string> MoveBack(platform::FileSystem& fileSystem, const std:
                                     const std::string& to) {
   const platform::RenameResult renamed = fileSystem.RenameNoReplace(temporary, to);
   if (renamed.ok) return std::nullopt;
-  return std::string(std::strerror(renamed.error));
+  return SystemErrorText(renamed.error);
 }
 
 // A "T" record: the file may have gone from its source to the temporary
@@ -150,7 +148,7 @@ InterruptedCommit RecoverInterruptedCommit(platform::FileSystem& fileSystem, con
   const platform::ExistingLock journal = fileSystem.LockExisting(path);
   if (journal.state == platform::ExistingLock::State::Failed) {
     commit.found = true;
-    commit.unresolved.push_back("the journal " + Quoted(path) + " can't be read: " + std::strerror(journal.error));
+    commit.unresolved.push_back("the journal " + Quoted(path) + " can't be read: " + SystemErrorText(journal.error));
     return commit;
   }
   // A commit of another Nomra is running, or there is nothing to do.

@@ -1,18 +1,28 @@
 #include "commit/RenameFailure.h"
 
 #include <cerrno>
-#include <cstring>
 #include <utility>
 
 #include "base/Helpers.h"
 
 namespace nomra {
 
+namespace {
+
+Failure OfKind(FailureKind kind, int error) {
+  Failure failure;
+  failure.kind = kind;
+  failure.systemError = error;
+  return failure;
+}
+
+}  // namespace
+
 Failure FailureOfError(int error) {
   switch (error) {
     case EEXIST:
     case ENOTEMPTY:
-      return {FailureKind::TargetExists, {}};
+      return OfKind(FailureKind::TargetExists, error);
     case EACCES:
     case EPERM:
     case EROFS:
@@ -20,20 +30,24 @@ Failure FailureOfError(int error) {
     case ENOTDIR:
     case ENAMETOOLONG:
     case EINVAL:  // a name the volume can't hold
-      return {FailureKind::PathNotUsable, {}};
+      return OfKind(FailureKind::PathNotUsable, error);
     default:
-      return OtherFailure(std::strerror(error));
+      return SystemFailure(error);
   }
 }
 
-Failure OtherFailure(std::string systemText) { return {FailureKind::Other, std::move(systemText)}; }
+Failure OtherFailure(std::string systemText) {
+  Failure failure;
+  failure.systemText = std::move(systemText);
+  return failure;
+}
 
 std::optional<Failure> RefuseName(std::string_view newName) {
   // UTF-8 never uses ASCII bytes inside a longer character, so a byte search
   // finds exactly the characters.
   if (newName.empty() || newName.find_first_of(kForbiddenNameCharacters) != std::string_view::npos ||
       newName.find('\0') != std::string_view::npos) {
-    return Failure{FailureKind::PathNotUsable, {}};
+    return OfKind(FailureKind::PathNotUsable, 0);
   }
   return std::nullopt;
 }

@@ -3,21 +3,12 @@
 #include <string>
 #include <string_view>
 
+#include "base/Failure.h"
+
 namespace nomra {
 
-// Why a rename did not happen, by the failure numbers the messages go by.
-enum class FailureKind : int {
-  TargetExists = 58,   // another file holds the new name
-  PathNotUsable = 75,  // access denied, a path that doesn't resolve, a name the volume refuses
-  Other = 0,           // anything else; the system's own description goes with it
-};
-
-struct Failure {
-  FailureKind kind = FailureKind::Other;
-  std::string systemText;  // only for FailureKind::Other
-};
-
-// The failure an errno of a rename stands for.
+// The failure an errno of a rename stands for: a taken name, a path that
+// can't be used, or the system's own words for anything else.
 Failure FailureOfError(int error);
 
 // A failure that no errno describes, told in the system's words.

@@ -1,4 +1,6 @@
 #include "commit/ReportRow.h"
+#include "base/Helpers.h"
+#include "lang/MessageKeys.h"
 
 #include <utility>
 
@@ -9,8 +11,8 @@ namespace {
 constexpr char kNoName[] = "\"\"";
 
 std::string Reason(const ReportRow& row) {
-  if (row.textKey == kTargetExistsText) return "the target exists";
-  if (row.textKey == kPathNotUsableText) return "access denied or path not found";
+  if (row.textKey == lang::kTargetExistsText) return "the target exists";
+  if (row.textKey == lang::kPathNotUsableText) return "access denied or path not found";
   return row.systemText;
 }
 
@@ -27,16 +29,14 @@ std::string Names(const ReportRow& row) {
 const char* TextKeyOf(FailureKind kind) {
   switch (kind) {
     case FailureKind::TargetExists:
-      return kTargetExistsText;
+      return lang::kTargetExistsText;
     case FailureKind::PathNotUsable:
-      return kPathNotUsableText;
-    case FailureKind::Other:
+      return lang::kPathNotUsableText;
+    default:
       break;
   }
-  return kOtherFailureText;
+  return lang::kOtherFailureText;
 }
-
-std::string Quoted(const std::string& path) { return "\"" + path + "\""; }
 
 }  // namespace
 

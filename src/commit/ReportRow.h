@@ -6,11 +6,6 @@
 
 namespace nomra {
 
-// Language keys (section "Messages") of the rows of the not-renamed report.
-inline constexpr char kTargetExistsText[] = "MsgText05";
-inline constexpr char kOtherFailureText[] = "MsgText06";   // followed by "   System text: " + systemText
-inline constexpr char kPathNotUsableText[] = "MsgText11";
-
 // One rename that did not happen. The front end looks the text up by its key
 // and fills "%1" (the old path) and "%2" (the new path), both already in
 // double quotes.

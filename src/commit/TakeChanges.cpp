@@ -4,6 +4,7 @@
 #include "commit/NotRenamedReport.h"
 #include "commit/RenameFiles.h"
 #include "core/RefreshPreview.h"
+#include "lang/MessageKeys.h"
 
 namespace nomra {
 
@@ -11,7 +12,7 @@ namespace {
 
 bool UserAgrees(MainModel& model) {
   if (!model.securityQuestions[1]) return true;
-  return model.frontEnd.Ask({"MsgText03", "MsgCap03", MessageStyle::YesNo, {}}) == Answer::Yes;
+  return model.frontEnd.Ask({lang::kTakeChangesQuestion, lang::kPendingChangesCaption, MessageStyle::YesNo, {}}) == Answer::Yes;
 }
 
 }  // namespace

@@ -1,9 +1,9 @@
 #include "core/AddFile.h"
 
 #include <cerrno>
-#include <cstring>
 #include <vector>
 
+#include "base/Failure.h"
 #include "base/CaseMap.h"
 #include "base/DateText.h"
 #include "base/Fault.h"
@@ -52,7 +52,7 @@ void AddFile(MainModel& model, std::string& path) {
   if (status.kind != platform::EntryKind::File) {
     if (model.checkExistence) return;
     const int error = status.error != 0 ? status.error : ENOENT;
-    throw RuntimeFault("Cannot add \"" + path + "\": " + std::strerror(error));
+    throw RuntimeFault("Cannot add \"" + path + "\": " + SystemErrorText(error));
   }
   path = model.fileSystem.AbsolutePath(path);
 

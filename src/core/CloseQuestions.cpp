@@ -1,6 +1,7 @@
 #include "core/CloseQuestions.h"
 
 #include "base/Fault.h"
+#include "lang/MessageKeys.h"
 
 namespace nomra {
 
@@ -9,7 +10,7 @@ namespace {
 // False when the user cancelled, which ends the close at once.
 bool RecordingAllowsClose(MainModel& model, bool recordingRuns, const std::function<void()>& stopRecording) {
   if (!recordingRuns) return true;
-  const Answer answer = model.frontEnd.Ask({"MsgText30", "MsgCap11", MessageStyle::YesNoCancelDefaultNo, {}});
+  const Answer answer = model.frontEnd.Ask({lang::kStopRecordingQuestion, lang::kScriptRecordingCaption, MessageStyle::YesNoCancelDefaultNo, {}});
   if (answer == Answer::Cancel) return false;
   if (answer == Answer::Yes && stopRecording) stopRecording();
   return true;
@@ -18,7 +19,7 @@ bool RecordingAllowsClose(MainModel& model, bool recordingRuns, const std::funct
 // False when the pending names must stay in the list, so the window stays.
 bool PendingNamesAllowClose(MainModel& model) {
   if (model.changedCount <= 0) return true;
-  const Answer answer = model.frontEnd.Ask({"MsgText03", "MsgCap03", MessageStyle::YesNoCancelDefaultNo, {}});
+  const Answer answer = model.frontEnd.Ask({lang::kTakeChangesQuestion, lang::kPendingChangesCaption, MessageStyle::YesNoCancelDefaultNo, {}});
   if (answer == Answer::Cancel) return false;
   if (answer != Answer::Yes) return true;
   // Without a committer the yes can't be kept; closing would throw the

@@ -3,12 +3,13 @@
 #include <utility>
 
 #include "core/RefreshPreview.h"
+#include "lang/MessageKeys.h"
 
 namespace nomra {
 
 bool mnuUndo(MainModel& model) {
   if (model.securityQuestions[0] &&
-      model.frontEnd.Ask({"MsgText07", "", MessageStyle::YesNo, {}}) != Answer::Yes) {
+      model.frontEnd.Ask({lang::kUndoQuestion, "", MessageStyle::YesNo, {}}) != Answer::Yes) {
     return false;
   }
   model.frontEnd.SetBusy(true);
@@ -23,7 +24,7 @@ bool mnuUndo(MainModel& model) {
 
 bool mnuRejectChanges(MainModel& model) {
   if (model.securityQuestions[2] &&
-      model.frontEnd.Ask({"MsgText04", "MsgCap04", MessageStyle::YesNoWarningDefaultNo, {}}) != Answer::Yes) {
+      model.frontEnd.Ask({lang::kRejectChangesQuestion, lang::kRejectChangesCaption, MessageStyle::YesNoWarningDefaultNo, {}}) != Answer::Yes) {
     return false;
   }
   model.list.ForEach([](FileEntry& row) {

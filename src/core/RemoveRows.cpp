@@ -5,6 +5,7 @@
 #include "base/CaseMap.h"
 #include "base/Fault.h"
 #include "core/RefreshPreview.h"
+#include "lang/MessageKeys.h"
 
 namespace nomra {
 
@@ -20,7 +21,7 @@ RowCommitter& Committer(MainModel& model) {
 }
 
 Answer AskKeepChanges(MainModel& model, const char* textKey) {
-  return model.frontEnd.Ask({textKey, "MsgCap03", MessageStyle::YesNoCancelDefaultNo, {}});
+  return model.frontEnd.Ask({textKey, lang::kPendingChangesCaption, MessageStyle::YesNoCancelDefaultNo, {}});
 }
 
 bool AnyPendingAmong(MainModel& model, const RowTest& picked) {
@@ -51,7 +52,7 @@ void RemovePicked(MainModel& model, const RowTest& picked, bool commitFirst) {
 
 bool RemoveAll(MainModel& model) {
   if (model.changedCount > 0) {
-    const Answer answer = AskKeepChanges(model, "MsgText21");
+    const Answer answer = AskKeepChanges(model, lang::kRemoveRowsWithChangesQuestion);
     if (answer == Answer::Cancel) return false;
     if (answer == Answer::Yes) Committer(model).CommitAll();
   }
@@ -62,7 +63,7 @@ bool RemoveAll(MainModel& model) {
 bool RemoveSome(MainModel& model, const RowTest& picked, bool askAlways) {
   bool commitFirst = false;
   if (askAlways || AnyPendingAmong(model, picked)) {
-    const Answer answer = AskKeepChanges(model, "MsgText21");
+    const Answer answer = AskKeepChanges(model, lang::kRemoveRowsWithChangesQuestion);
     if (answer == Answer::Cancel) return false;
     commitFirst = answer == Answer::Yes;
   }
@@ -106,7 +107,7 @@ bool deleteFromList(MainModel& model) {
 bool btnBarLeftDel1File(MainModel& model, int position) {
   FileEntry& row = model.list.Item(position);
   if (row.HasPendingChange()) {
-    const Answer answer = AskKeepChanges(model, "MsgText15");
+    const Answer answer = AskKeepChanges(model, lang::kRemoveRowWithChangeQuestion);
     if (answer == Answer::Cancel) return false;
     if (answer == Answer::Yes) Committer(model).CommitRow(position);
   }

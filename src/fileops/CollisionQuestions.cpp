@@ -3,7 +3,7 @@
 #include "base/DateText.h"
 #include "base/NumberText.h"
 #include "fileops/FilePaths.h"
-#include "fileops/MessageKeys.h"
+#include "lang/MessageKeys.h"
 
 namespace nomra::fileops {
 
@@ -12,8 +12,8 @@ namespace {
 constexpr char kLineBreak[] = "\n";
 
 Message FileExistsQuestion(const Collision& collision) {
-  return {kFileExists,
-          kReplaceCaption,
+  return {lang::kFileExists,
+          lang::kReplaceCaption,
           MessageStyle::YesNoCancelDefaultNo,
           {NameOf(collision.target), FolderOf(collision.target), FolderOf(collision.source),
            text::FormatGrouped(collision.targetInfo.size), text::FormatListDate(collision.targetInfo.modified.value_or(0)),
@@ -28,7 +28,7 @@ CollisionChoice CollisionQuestions::Ask(const Collision& collision, bool moreFol
   if (forAll_ && (*forAll_ != CollisionChoice::Replace || replaceable)) return *forAll_;
   const CollisionChoice choice = AskOnce(collision, replaceable);
   if (choice == CollisionChoice::Stop || !moreFollow) return choice;
-  if (frontEnd_.Ask({kSameForAll, kReplaceCaption, MessageStyle::YesNo, {}}) == Answer::Yes) forAll_ = choice;
+  if (frontEnd_.Ask({lang::kSameForAll, lang::kReplaceCaption, MessageStyle::YesNo, {}}) == Answer::Yes) forAll_ = choice;
   return choice;
 }
 
@@ -38,7 +38,7 @@ CollisionChoice CollisionQuestions::AskOnce(const Collision& collision, bool rep
     if (answer == Answer::Yes) return CollisionChoice::Replace;
     if (answer == Answer::Cancel) return CollisionChoice::Stop;
   }
-  const Message keepBoth{kKeepBoth, kReplaceCaption, MessageStyle::YesNo,
+  const Message keepBoth{lang::kKeepBoth, lang::kReplaceCaption, MessageStyle::YesNo,
                          {NameOf(collision.keepBothTarget), kLineBreak}};
   return frontEnd_.Ask(keepBoth) == Answer::Yes ? CollisionChoice::KeepBoth : CollisionChoice::Skip;
 }

@@ -1,6 +1,6 @@
 #include "fileops/DeleteFiles.h"
 
-#include "fileops/MessageKeys.h"
+#include "lang/MessageKeys.h"
 #include "fileops/OperationFailures.h"
 
 namespace nomra::fileops {
@@ -11,10 +11,10 @@ constexpr char kLineBreak[] = "\n";
 
 bool UserAgrees(const std::vector<std::string>& paths, bool toTrash, FrontEnd& frontEnd) {
   const bool one = paths.size() == 1;
-  const char* key = toTrash ? (one ? kTrashOne : kTrashMany) : (one ? kDeleteOne : kDeleteMany);
+  const char* key = toTrash ? (one ? lang::kTrashOne : lang::kTrashMany) : (one ? lang::kDeleteOne : lang::kDeleteMany);
   const std::string what = one ? paths.front() : std::to_string(paths.size());
   const MessageStyle style = toTrash ? MessageStyle::YesNo : MessageStyle::YesNoWarningDefaultNo;
-  return frontEnd.Ask({key, kDeleteCaption, style, {what}}) == Answer::Yes;
+  return frontEnd.Ask({key, lang::kDeleteCaption, style, {what}}) == Answer::Yes;
 }
 
 enum class Step { Next, Stop };
@@ -28,7 +28,7 @@ Step DeleteAtOnce(const std::string& path, std::size_t left, DeleteOutcome& outc
   const int error = services.fileSystem.RemoveFile(path);
   if (error == 0) return Step::Next;
   Record(outcome, error);
-  services.frontEnd.Ask({kDeleteFailed, kAttentionCaption, MessageStyle::OkStop, {path, SystemText(error)}});
+  services.frontEnd.Ask({lang::kDeleteFailed, lang::kAttentionCaption, MessageStyle::OkStop, {path, SystemErrorText(error)}});
   return AskGoOn(services.frontEnd, static_cast<int>(left)) ? Step::Next : Step::Stop;
 }
 
@@ -36,8 +36,8 @@ Step SendToTrash(const std::string& path, std::size_t left, DeleteOutcome& outco
   const int error = services.trash.MoveToTrash(path, services.clock());
   if (error == 0) return Step::Next;
   // Deleting for good instead is the user's choice, never ours.
-  const Message offer{kTrashFailed, kAttentionCaption, MessageStyle::YesNoCancelDefaultNo,
-                      {path, SystemText(error), kLineBreak}};
+  const Message offer{lang::kTrashFailed, lang::kAttentionCaption, MessageStyle::YesNoCancelDefaultNo,
+                      {path, SystemErrorText(error), kLineBreak}};
   switch (services.frontEnd.Ask(offer)) {
     case Answer::Yes:
       return DeleteAtOnce(path, left, outcome, services);

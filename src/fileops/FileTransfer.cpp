@@ -13,12 +13,12 @@ constexpr char kWorkFilePrefix[] = ".nomra-part-";
 constexpr int kMostWorkFiles = 1000;
 constexpr unsigned kFolderMode = 0777;  // the umask takes what the user withholds
 
-FileResult Failed(TransferFailure failure) { return {false, false, std::move(failure)}; }
+FileResult Failed(Failure failure) { return {false, false, std::move(failure)}; }
 
 FileResult Failed(int error, const std::string& from, const std::string& to) {
-  TransferFailure failure;
-  failure.error = error;
-  failure.source = from;
+  Failure failure;
+  failure.systemError = error;
+  failure.path = from;
   failure.target = to;
   return Failed(std::move(failure));
 }
@@ -48,23 +48,24 @@ int Rename(platform::FileSystem& fileSystem, const std::string& from, const std:
 
 }  // namespace
 
-std::optional<TransferFailure> EnsureFolder(platform::FileSystem& fileSystem, const std::string& folder) {
+std::optional<Failure> EnsureFolder(platform::FileSystem& fileSystem, const std::string& folder) {
   std::string path = folder;
   while (path.size() > 1 && path.back() == '/') path.pop_back();
   // A relative path's first folder is the working folder, which exists.
   if (path.empty()) return std::nullopt;
   const platform::FileStatus info = fileSystem.Inspect(path);
   if (info.kind == platform::EntryKind::Folder) return std::nullopt;
-  TransferFailure failure;
+  Failure failure;
   failure.target = folder;
   if (info.kind != platform::EntryKind::Missing) {
-    failure.error = ENOTDIR;
-    failure.notAFolder = path;
+    failure.kind = FailureKind::NotAFolder;
+    failure.systemError = ENOTDIR;
+    failure.obstacle = path;
     return failure;
   }
   if (auto above = EnsureFolder(fileSystem, FolderOf(path))) return above;
-  failure.error = fileSystem.MakeFolder(path, kFolderMode);
-  if (failure.error == 0 || failure.error == EEXIST) return std::nullopt;
+  failure.systemError = fileSystem.MakeFolder(path, kFolderMode);
+  if (failure.systemError == 0 || failure.systemError == EEXIST) return std::nullopt;
   return failure;
 }
 
@@ -72,7 +73,7 @@ FileResult PutFile(platform::FileSystem& fileSystem, const std::string& from, co
                    bool move, bool replace, const platform::CopyTick& tick) {
   const std::string folder = FolderOf(to);
   if (auto failure = EnsureFolder(fileSystem, folder)) {
-    failure->source = from;
+    failure->path = from;
     failure->target = to;
     return Failed(std::move(*failure));
   }
@@ -99,7 +100,7 @@ FileResult PutFile(platform::FileSystem& fileSystem, const std::string& from, co
   if (error == 0) return {true, false, std::nullopt};
   FileResult kept = Failed(error, from, to);
   kept.done = true;
-  kept.failure->originalKept = true;
+  kept.failure->kind = FailureKind::OriginalKept;
   return kept;
 }
 

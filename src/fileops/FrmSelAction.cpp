@@ -13,6 +13,7 @@
 #include "fileops/FileListOperations.h"
 #include "fileops/PathList.h"
 #include "fileops/ShellOperation.h"
+#include "lang/MessageKeys.h"
 
 namespace nomra::fileops {
 
@@ -48,7 +49,7 @@ bool NamesCollide(MainModel& model, int column, Picked&& picked) {
 }
 
 void ShowNamesCollide(MainModel& model) {
-  model.frontEnd.Ask({"MsgText26", "msgCapAttention", MessageStyle::OkStop, {}});
+  model.frontEnd.Ask({lang::kCopiesCollideText, lang::kAttentionCaption, MessageStyle::OkStop, {}});
 }
 
 // The row stands for its file at its new place. A name given beside a file

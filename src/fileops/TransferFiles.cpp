@@ -27,7 +27,7 @@ class TransferRun {
   bool Handle(std::size_t index);
   // The name to put the file under, "" to skip it; false when stopped.
   bool ChooseTarget(std::size_t index, std::string& target, bool& replace);
-  bool Fail(std::size_t index, TransferFailure failure);
+  bool Fail(std::size_t index, Failure failure);
   std::string KeepBothTarget(const std::string& target) {
     return KeepBothName(target, [this](const std::string& path) {
       return services_.fileSystem.Inspect(path).kind != platform::EntryKind::Missing;
@@ -77,10 +77,10 @@ bool TransferRun::Handle(std::size_t index) {
   const TransferPair& pair = pairs_[index];
   const platform::FileStatus& source = sources_[index];
   if (source.kind != platform::EntryKind::File) {
-    TransferFailure failure;
-    failure.error = source.kind == platform::EntryKind::Missing ? ENOENT : EISDIR;
-    failure.sourceMissing = source.kind == platform::EntryKind::Missing;
-    failure.source = pair.from;
+    Failure failure;
+    failure.systemError = source.kind == platform::EntryKind::Missing ? ENOENT : EISDIR;
+    if (source.kind == platform::EntryKind::Missing) failure.kind = FailureKind::SourceMissing;
+    failure.path = pair.from;
     failure.target = pair.to;
     return Fail(index, std::move(failure));
   }
@@ -139,8 +139,8 @@ bool TransferRun::ChooseTarget(std::size_t index, std::string& target, bool& rep
   return false;
 }
 
-bool TransferRun::Fail(std::size_t index, TransferFailure failure) {
-  if (outcome_.result == 0) outcome_.result = failure.error;
+bool TransferRun::Fail(std::size_t index, Failure failure) {
+  if (outcome_.result == 0) outcome_.result = failure.systemError;
   ShowTransferFailure(services_.frontEnd, kind_, failure);
   return AskGoOn(services_.frontEnd, static_cast<int>(pairs_.size() - index - 1));
 }

@@ -1,8 +1,8 @@
 #include "history/LoadHistory.h"
 
 #include <cerrno>
-#include <cstring>
 
+#include "base/Failure.h"
 #include "base/Cp1252.h"
 #include "base/Fault.h"
 #include "base/Helpers.h"
@@ -60,7 +60,7 @@ void LoadHistory(HistoryList& list, const std::string& dataFolder, platform::Fil
   int error = 0;
   const std::optional<std::string> content = fileSystem.ReadFile(path, error);
   if (!content) {
-    const std::string reason = error != 0 ? std::strerror(error) : "not a readable file";
+    const std::string reason = error != 0 ? SystemErrorText(error) : "not a readable file";
     throw RuntimeFault("the rename history " + path + " could not be read: " + reason);
   }
   std::string_view text = *content;

@@ -1,4 +1,5 @@
 #include "history/UndoRenamings.h"
+#include "lang/MessageKeys.h"
 
 #include <optional>
 
@@ -12,7 +13,7 @@ namespace nomra::history {
 namespace {
 
 bool Confirmed(FrontEnd& frontEnd, const char* question) {
-  const Message message{question, kAttentionCaption, MessageStyle::YesNoWarningDefaultNo, {kParagraphBreak}};
+  const Message message{question, lang::kAttentionCaption, MessageStyle::YesNoWarningDefaultNo, {kParagraphBreak}};
   return frontEnd.Ask(message) == Answer::Yes;
 }
 
@@ -55,7 +56,7 @@ Message FailureMessage(const ReportRow& failure) {
 
 UndoOutcome UndoRenamings(HistoryList& list, const HistoryServices& services) {
   UndoOutcome outcome;
-  if (!Confirmed(services.frontEnd, kUndoQuestion)) return outcome;
+  if (!Confirmed(services.frontEnd, lang::kHistoryUndoQuestion)) return outcome;
   outcome.confirmed = true;
 
   // Rows that stay are gathered in order, so a long history costs one pass.
@@ -71,7 +72,7 @@ UndoOutcome UndoRenamings(HistoryList& list, const HistoryServices& services) {
 }
 
 bool cmdDeleteHistory(HistoryList& list, const HistoryServices& services) {
-  if (!Confirmed(services.frontEnd, kDeleteQuestion)) return false;
+  if (!Confirmed(services.frontEnd, lang::kHistoryDeleteQuestion)) return false;
   list.rows.clear();
   writeHistoryData(list, services.dataFolder, services.fileSystem);
   return true;

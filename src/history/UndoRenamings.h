@@ -10,11 +10,8 @@
 
 namespace nomra::history {
 
-// Language keys (section "Messages") of the history window's questions.
-inline constexpr char kUndoQuestion[] = "MsgText18";
-inline constexpr char kDeleteQuestion[] = "MsgText19";
-inline constexpr char kAttentionCaption[] = "msgCapAttention";
-// What "%1" stands for in both questions: the text breaks into paragraphs.
+// What "%1" stands for in the history window's questions: the text breaks
+// into paragraphs.
 inline constexpr char kParagraphBreak[] = "\n\n";
 
 // What the history's commands work with.

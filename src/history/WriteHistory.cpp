@@ -1,8 +1,8 @@
 #include "history/WriteHistory.h"
 
 #include <cerrno>
-#include <cstring>
 
+#include "base/Failure.h"
 #include "base/Fault.h"
 #include "base/Helpers.h"
 #include "formats/AtomicFile.h"
@@ -17,7 +17,7 @@ constexpr char kLineEnd[] = "\r\n";
 
 [[noreturn]] void Fail(const std::string& path, int error) {
   throw RuntimeFault("the rename history " + path + " could not be written" +
-                     (error != 0 ? std::string(": ") + std::strerror(error) : std::string()));
+                     (error != 0 ? std::string(": ") + SystemErrorText(error) : std::string()));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "dialog/DialogState.h"
+#include "lang/MessageKeys.h"
 #include "script/ScriptFiles.h"
 
 namespace nomra {
@@ -68,7 +69,7 @@ void ScriptChooser::Cancel() { model_.script.runMode = 0; }
 void ScriptChooser::DeleteChosen(int row) {
   dialog::DialogInput& list = dialog_.At(kScriptList);
   const Answer answer =
-      model_.frontEnd.Ask({"msgDeleteScript", "msgCapAttention", MessageStyle::YesNoDefaultNo, {list.rows[row]}});
+      model_.frontEnd.Ask({lang::kDeleteScriptQuestion, lang::kAttentionCaption, MessageStyle::YesNoDefaultNo, {list.rows[row]}});
   if (answer != Answer::Yes) return;
   RemoveScriptFile(model_.fileSystem, ScriptFolder(model_.script.dataFolder) + fileNames_[row]);
   list.rows.erase(list.rows.begin() + row);

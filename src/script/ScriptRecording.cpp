@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "base/DateText.h"
+#include "lang/MessageKeys.h"
 #include "settings/CompactIniFile.h"
 #include "formats/IniFile.h"
 #include "formats/IniLines.h"
@@ -21,10 +22,10 @@ std::string DateTimeText(const std::tm& moment) {
 // The name the user gives, or nothing when the recording is discarded.
 std::optional<std::string> AskScriptName(MainModel& model, const LocalClock& clock) {
   for (;;) {
-    std::string answer = model.frontEnd.AskInput({"MsgText31", "MsgCap12", MessageStyle::OkInformation, {}},
+    std::string answer = model.frontEnd.AskInput({lang::kScriptNamePrompt, lang::kSaveScriptCaption, MessageStyle::OkInformation, {}},
                                                  DateTimeText(clock()));
     if (!formats::TrimBlanks(answer).empty()) return answer;
-    const Answer discard = model.frontEnd.Ask({"MsgText32", "MsgCap12", MessageStyle::YesNoDefaultNo, {}});
+    const Answer discard = model.frontEnd.Ask({lang::kDiscardRecordingQuestion, lang::kSaveScriptCaption, MessageStyle::YesNoDefaultNo, {}});
     if (discard == Answer::Yes) return std::nullopt;
   }
 }

@@ -4,6 +4,7 @@
 
 #include "base/Fault.h"
 #include "lang/LanguageKeys.h"
+#include "lang/MessageKeys.h"
 #include "rename/ActionDialog.h"
 #include "rename/ApplyStructure.h"
 #include "formats/IniLines.h"
@@ -19,10 +20,6 @@ constexpr char kStructureInput[] = "txtStructure";
 constexpr char kFileNameInput[] = "txtFileName";
 constexpr char kResultInput[] = "txtResult";
 constexpr char kNewStructureName[] = "Structure ";
-constexpr char kCheckInputKey[] = "msgCheckInput";
-constexpr char kCorrectSyntaxKey[] = "msgCorrectSyntax";
-constexpr char kRemoveQuestionKey[] = "msgRemoveStructure";
-constexpr char kRemoveCaptionKey[] = "msgCapRemoveStructure";
 
 bool HoldsText(const std::string& text) { return !formats::TrimBlanks(text).empty(); }
 
@@ -122,7 +119,7 @@ void NameStructureEditor::Edit() {
 void NameStructureEditor::Delete() {
   if (chosen_ < 0) return;
   const Answer answer = model_.frontEnd.Ask(
-      {kRemoveQuestionKey, kRemoveCaptionKey, MessageStyle::YesNoDefaultNo, {structures_[chosen_].name}});
+      {lang::kRemoveStructureQuestion, lang::kRemoveStructureCaption, MessageStyle::YesNoDefaultNo, {structures_[chosen_].name}});
   if (answer != Answer::Yes) return;
   structures_.erase(structures_.begin() + chosen_);
   Choose(std::min(chosen_, static_cast<int>(structures_.size()) - 1));
@@ -160,8 +157,8 @@ bool NameStructureEditor::Apply() {
 bool NameStructureEditor::Ok() { return Apply() && !Editing(); }
 
 bool NameStructureEditor::CheckStructure() {
-  const SyntaxTexts texts{catalog_.GetText(lang::kMessagesSection, kCheckInputKey),
-                          catalog_.GetText(lang::kMessagesSection, kCorrectSyntaxKey)};
+  const SyntaxTexts texts{catalog_.GetText(lang::kMessagesSection, lang::kCheckInputQuestion),
+                          catalog_.GetText(lang::kMessagesSection, lang::kCorrectSyntaxText)};
   try {
     lastFailure_ = CheckStructureSyntax(model_, dialog_.Text(kStructureInput), texts);
   } catch (const RuntimeFault& fault) {

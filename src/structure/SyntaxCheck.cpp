@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "base/Utf8.h"
+#include "lang/MessageKeys.h"
 #include "structure/StructureEngine.h"
 #include "structure/TextSearch.h"
 
@@ -10,17 +11,12 @@ namespace nomra {
 
 namespace {
 
-constexpr char kCaptionKey[] = "msgCapErrorStructure";
-constexpr char kMisplacedBracketKey[] = "msgErrorStructure1";
-constexpr char kUnclosedTagKey[] = "msgErrorStructure2";
-constexpr char kUnresolvedTagKey[] = "msgErrorStructure3";
-constexpr char kCaseBracketsKey[] = "msgErrorStructure4";
 constexpr char kLineBreaks[] = "\n\n";
 // Only these case brackets are checked; the others may stand in any order.
 constexpr std::string_view kCheckedCaseCodes[] = {"UC", "LC"};
 
 SyntaxFailure Failure(const char* textKey, std::vector<std::string> arguments) {
-  return {Message{textKey, kCaptionKey, MessageStyle::OkWarning, std::move(arguments)}, 0, 0};
+  return {Message{textKey, lang::kStructureErrorCaption, MessageStyle::OkWarning, std::move(arguments)}, 0, 0};
 }
 
 std::vector<std::size_t> MarkPositions(std::string_view text, std::string_view mark) {
@@ -48,12 +44,12 @@ std::optional<SyntaxFailure> CheckBracketWalk(std::string_view structure, const 
     open = c == U'<';
   });
   if (failedAt != 0) {
-    SyntaxFailure failure = Failure(kMisplacedBracketKey, {std::to_string(failedAt), texts.checkInput});
+    SyntaxFailure failure = Failure(lang::kStructureError1, {std::to_string(failedAt), texts.checkInput});
     failure.selectionStart = failedAt;
     failure.selectionLength = 1;
     return failure;
   }
-  if (open) return Failure(kUnclosedTagKey, {std::string(structure.substr(structure.rfind('<'))), texts.checkInput});
+  if (open) return Failure(lang::kStructureError2, {std::string(structure.substr(structure.rfind('<'))), texts.checkInput});
   return std::nullopt;
 }
 
@@ -70,7 +66,7 @@ std::optional<SyntaxFailure> CheckCaseBrackets(std::string_view text, std::strin
     paired = opened[k] < closed[k] && (k == 0 || opened[k] > closed[k - 1]);
   }
   if (paired) return std::nullopt;
-  return Failure(kCaseBracketsKey, {opening, closing, kLineBreaks + texts.correctSyntax});
+  return Failure(lang::kStructureError4, {opening, closing, kLineBreaks + texts.correctSyntax});
 }
 
 std::optional<SyntaxFailure> CheckStructureSyntax(MainModel& model, std::string_view structure,
@@ -82,7 +78,7 @@ std::optional<SyntaxFailure> CheckStructureSyntax(MainModel& model, std::string_
   if (model.list.Count() == 0) return std::nullopt;
   const std::string result = EvaluateStructure(model, 1, structure);
   if (result.find_first_of("<>") == std::string::npos) return std::nullopt;
-  return Failure(kUnresolvedTagKey, {texts.checkInput + kLineBreaks + texts.correctSyntax});
+  return Failure(lang::kStructureError3, {texts.checkInput + kLineBreaks + texts.correctSyntax});
 }
 
 }  // namespace nomra

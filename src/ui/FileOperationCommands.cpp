@@ -2,7 +2,7 @@
 
 #include "fileops/DeleteListFiles.h"
 #include "fileops/PermissionText.h"
-#include "fileops/MessageKeys.h"
+#include "lang/MessageKeys.h"
 #include "ui/FileOperationProgress.h"
 #include "ui/FrmSelAction.h"
 #include "ui/PropertiesDialog.h"
@@ -26,7 +26,7 @@ void ShowProperties(QWidget* parent, platform::FileSystem& fileSystem, FrontEnd&
                     const lang::MessageCatalog& catalog, const std::string& path) {
   const platform::FileProperties properties = fileSystem.Properties(path);
   if (properties.type == platform::PropertyType::Missing) {
-    frontEnd.Ask({fileops::kSourceMissing, fileops::kAttentionCaption, MessageStyle::OkStop, {path}});
+    frontEnd.Ask({lang::kSourceMissing, lang::kAttentionCaption, MessageStyle::OkStop, {path}});
     return;
   }
   PropertiesDialog dialog(properties, catalog, parent);

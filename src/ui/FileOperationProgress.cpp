@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "fileops/MessageKeys.h"
+#include "lang/MessageKeys.h"
 #include "lang/LanguageKeys.h"
 #include "ui/DialogTexts.h"
 
@@ -23,15 +23,15 @@ constexpr int kBarSteps = 1000;
 const char* StepKeyOf(fileops::OperationKind kind) {
   switch (kind) {
     case fileops::OperationKind::Copy:
-      return fileops::kCopying;
+      return lang::kCopying;
     case fileops::OperationKind::Move:
-      return fileops::kMoving;
+      return lang::kMoving;
     case fileops::OperationKind::Trash:
-      return fileops::kTrashing;
+      return lang::kTrashing;
     case fileops::OperationKind::Delete:
-      return fileops::kDeleting;
+      return lang::kDeleting;
   }
-  return fileops::kCopying;
+  return lang::kCopying;
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ TEST_F(CollisionTest, YesReplacesTheFileThere) {
   EXPECT_EQ(Copy(), 0);
 
   EXPECT_EQ(Target("a.txt"), "new a.txt");
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kFileExists});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kFileExists});
   EXPECT_EQ(ReadWholeFile(sources[0]), "new a.txt");
 }
 
@@ -66,7 +66,7 @@ TEST_F(CollisionTest, NoThenNoSkipsTheFile) {
 
   EXPECT_EQ(Copy(), 0);
 
-  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{kFileExists, kKeepBoth}));
+  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{lang::kFileExists, lang::kKeepBoth}));
   EXPECT_EQ(Target("a.txt"), "old a.txt");
   EXPECT_EQ(NamesIn(temp.Path() + "target/"), std::vector<std::string>{"a.txt"});
   EXPECT_EQ(aborted, 0);
@@ -106,7 +106,7 @@ TEST_F(CollisionTest, SameForAllAnswersTheLaterCollisions) {
 
   Copy();
 
-  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{kFileExists, kSameForAll}));
+  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{lang::kFileExists, lang::kSameForAll}));
   EXPECT_EQ(Target("a.txt"), "new a.txt");
   EXPECT_EQ(Target("b.txt"), "new b.txt");
   EXPECT_EQ(Target("c.txt"), "new c.txt");
@@ -119,7 +119,7 @@ TEST_F(CollisionTest, NotTheSameForAllAsksAgain) {
 
   Copy();
 
-  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{kFileExists, kSameForAll, kFileExists, kKeepBoth}));
+  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{lang::kFileExists, lang::kSameForAll, lang::kFileExists, lang::kKeepBoth}));
   EXPECT_EQ(Target("a.txt"), "new a.txt");
   EXPECT_EQ(Target("b.txt"), "old b.txt");
 }
@@ -131,7 +131,7 @@ TEST_F(CollisionTest, SameForAllIsNotAskedWhenNoCollisionFollows) {
 
   Copy();
 
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kFileExists});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kFileExists});
 }
 
 TEST_F(CollisionTest, FolderInTheWayIsNeverOfferedForReplacing) {
@@ -143,7 +143,7 @@ TEST_F(CollisionTest, FolderInTheWayIsNeverOfferedForReplacing) {
 
   Copy();
 
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kKeepBoth});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kKeepBoth});
   EXPECT_EQ(Target("a (2).txt"), "new");
   EXPECT_TRUE(NamesIn(temp.Path() + "target/a.txt/").empty());
 }

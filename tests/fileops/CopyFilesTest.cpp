@@ -170,7 +170,7 @@ TEST_F(CopyFilesTest, MissingSourceIsToldAndTheOthersGoOn) {
 
   EXPECT_EQ(Copy(), ENOENT);
 
-  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{kSourceMissing, kGoOn}));
+  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{lang::kSourceMissing, lang::kGoOn}));
   EXPECT_EQ(NamesIn(temp.Path() + "target/"), (std::vector<std::string>{"f000.txt", "f002.txt"}));
 }
 

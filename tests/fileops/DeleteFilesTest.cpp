@@ -32,7 +32,7 @@ TEST_F(DeleteFilesTest, AtOnceAsksWithAWarningAndNoKeepsTheFiles) {
 
   DeleteFileList(JoinPathList({a}), false, true, services);
 
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kDeleteOne});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kDeleteOne});
   EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::YesNoWarningDefaultNo);
   EXPECT_TRUE(Exists(a));
 }
@@ -63,7 +63,7 @@ TEST_F(DeleteFilesTest, FailureIsToldAndTheOthersGoOnWhenAsked) {
 
   EXPECT_NE(DeleteFileList(JoinPathList({a, folder, c}), false, false, services), 0);
 
-  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{kDeleteFailed, kGoOn}));
+  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{lang::kDeleteFailed, lang::kGoOn}));
   EXPECT_TRUE(Exists(folder));
   EXPECT_FALSE(Exists(c));
 }
@@ -101,7 +101,7 @@ TEST_F(DeleteListFilesTest, DeletedFilesLeaveTheListAfterTheQuestion) {
 
   EXPECT_TRUE(DeleteListFiles(model, true, services));
 
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kTrashMany});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kTrashMany});
   EXPECT_EQ(model.list.Count(), 0);
   EXPECT_TRUE(Exists(temp.Path() + "data/Trash/files/a.txt"));
 }

@@ -64,7 +64,7 @@ TEST_F(FaultTest, AccessDeniedOnTheThirdFileIsToldAndTheRestGoOnWhenAsked) {
 
   EXPECT_EQ(Run(failing), EACCES);
 
-  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{kAccessDenied, kGoOn}));
+  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{lang::kAccessDenied, lang::kGoOn}));
   EXPECT_EQ(frontEnd.asked[0].arguments, (std::vector<std::string>{sources[2], temp.Path() + "target/"}));
   EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::OkStop);
   EXPECT_EQ(frontEnd.asked[1].arguments, std::vector<std::string>{"2"});
@@ -93,7 +93,7 @@ TEST_F(FaultTest, DiskThatFillsLeavesNoPartOfTheCopyAndTellsWhy) {
 
   EXPECT_EQ(Run(failing), ENOSPC);
 
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kDiskFull});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kDiskFull});
   EXPECT_TRUE(Targets().empty());
   EXPECT_EQ(ReadWholeFile(sources[0]), "bytes of f1.txt");
 }
@@ -109,7 +109,7 @@ TEST_F(FaultTest, DiskThatFillsDuringAMoveAcrossVolumesKeepsTheSource) {
 
   EXPECT_EQ(Run(full, true), ENOSPC);
 
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kDiskFull});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kDiskFull});
   EXPECT_TRUE(Targets().empty());
   EXPECT_EQ(ReadWholeFile(sources[0]), "bytes of f1.txt");
 }
@@ -125,7 +125,7 @@ TEST_F(FaultTest, CopyShorterThanItsSourceIsNotTakenAndTheMoveKeepsTheSource) {
 
   EXPECT_EQ(Run(shortCopies, true), EIO);
 
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kMoveFailed});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kMoveFailed});
   EXPECT_TRUE(Targets().empty());
   EXPECT_EQ(ReadWholeFile(sources[0]), "bytes of f1.txt");
 }
@@ -137,7 +137,7 @@ TEST_F(FaultTest, TargetFolderThatIsAFileIsNamedInTheMessage) {
 
   EXPECT_EQ(Run(os), ENOTDIR);
 
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kNotAFolder});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kNotAFolder});
   EXPECT_EQ(frontEnd.asked[0].arguments, std::vector<std::string>{blocker});
   EXPECT_EQ(ReadWholeFile(blocker), "I am a file");
   EXPECT_EQ(ReadWholeFile(sources[0]), "a");
@@ -166,7 +166,7 @@ TEST_F(FaultTest, ReadOnlyTargetFolderIsToldAsAccessDenied) {
   MakeWritable(folder);
 
   EXPECT_TRUE(result == EACCES || result == EPERM) << result;
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kAccessDenied});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kAccessDenied});
   EXPECT_TRUE(left.empty());
   EXPECT_EQ(ReadWholeFile(sources[0]), "a");
 }
@@ -189,7 +189,7 @@ TEST_F(FaultTest, RealFullVolumeLeavesNothingOfTheCopy) {
   const std::vector<std::string> left = NamesIn(volume);
 
   EXPECT_EQ(result, ENOSPC);
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kDiskFull});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kDiskFull});
   EXPECT_TRUE(left.empty());
   EXPECT_EQ(ReadWholeFile(sources[0]).size(), 256u * 1024);
 }

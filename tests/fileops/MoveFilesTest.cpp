@@ -112,7 +112,7 @@ TEST_F(MoveFilesTest, SourceThatCantBeRemovedAfterTheCopyIsToldAndKept) {
 
   EXPECT_EQ(Move(with), EACCES);
 
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kOriginalKept});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kOriginalKept});
   EXPECT_EQ(ReadWholeFile(sources[0]), "a");
   EXPECT_EQ(ReadWholeFile(targets[0]), "a");
 }

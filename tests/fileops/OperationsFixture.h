@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "fileops/MessageKeys.h"
+#include "lang/MessageKeys.h"
 #include "fileops/OperationServices.h"
 #include "platform/posix/FreedesktopTrash.h"
 #include "support/ForwardingFileSystem.h"

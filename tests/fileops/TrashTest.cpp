@@ -75,7 +75,7 @@ TEST_F(TrashTest, ConfirmationNamesTheOneFileAndNoKeepsIt) {
 
   Delete({file}, true);
 
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kTrashOne});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kTrashOne});
   EXPECT_EQ(frontEnd.asked[0].arguments, std::vector<std::string>{file});
   EXPECT_TRUE(Exists(file));
 }
@@ -87,7 +87,7 @@ TEST_F(TrashTest, ConfirmationCountsSeveralFiles) {
 
   Delete({a, b}, true);
 
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kTrashMany});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kTrashMany});
   EXPECT_EQ(frontEnd.asked[0].arguments, std::vector<std::string>{"2"});
   EXPECT_FALSE(Exists(a));
   EXPECT_FALSE(Exists(b));
@@ -201,7 +201,7 @@ TEST_F(TrashTest, FileTheTrashRefusesIsDeletedAtOnceOnlyOnYes) {
 
   EXPECT_EQ(DeleteFileList(JoinPathList({kept, gone}), true, false, with), EACCES);
 
-  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{kTrashFailed, kTrashFailed}));
+  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{lang::kTrashFailed, lang::kTrashFailed}));
   EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::YesNoCancelDefaultNo);
   EXPECT_TRUE(Exists(kept));
   EXPECT_FALSE(Exists(gone));
@@ -217,7 +217,7 @@ TEST_F(TrashTest, CancelWhenTheTrashRefusesStopsTheRest) {
 
   DeleteFileList(JoinPathList({a, b}), true, false, with);
 
-  EXPECT_EQ(AskedKeys(), std::vector<std::string>{kTrashFailed});
+  EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kTrashFailed});
   EXPECT_TRUE(Exists(a));
   EXPECT_TRUE(Exists(b));
 }

@@ -7,6 +7,7 @@
 
 #include "commit/CommitResult.h"
 #include "lang/MessageCatalog.h"
+#include "lang/MessageKeys.h"
 #include "support/RealFiles.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
@@ -133,12 +134,12 @@ class NotRenamedDialogTest : public ::testing::Test {
     ReportRow exists;
     exists.number = 1;
     exists.rowKey = "/d/a.txt";
-    exists.textKey = kTargetExistsText;
+    exists.textKey = lang::kTargetExistsText;
     exists.arguments = {"\"/d/a.txt\"", "\"/d/b.txt\""};
     ReportRow other;
     other.number = 2;
     other.rowKey = "/d/c.txt";
-    other.textKey = kOtherFailureText;
+    other.textKey = lang::kOtherFailureText;
     other.arguments = {"\"/d/c.txt\"", "\"/d/e.txt\""};
     result.notRenamed = {exists, other};
     result.renamed = {"/d/f.txt"};

@@ -12,7 +12,7 @@
 
 #include "core/AddFile.h"
 #include "core/MainModel.h"
-#include "fileops/MessageKeys.h"
+#include "lang/MessageKeys.h"
 #include "platform/Platform.h"
 #include "lang/MessageCatalog.h"
 #include "support/ScopedEnvironment.h"
@@ -176,7 +176,7 @@ TEST_F(FileOperationsDialogTest, PropertiesOfAVanishedFileAreToldInstead) {
   ShowProperties(nullptr, fileSystem, frontEnd, english, files.Path() + "gone.txt");
 
   ASSERT_EQ(frontEnd.asked.size(), 1u);
-  EXPECT_EQ(frontEnd.asked[0].textKey, fileops::kSourceMissing);
+  EXPECT_EQ(frontEnd.asked[0].textKey, lang::kSourceMissing);
 }
 
 TEST_F(FileOperationsDialogTest, DeleteToTheTrashAfterTheYesTakesTheRowsAway) {
