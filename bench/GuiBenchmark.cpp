@@ -30,7 +30,7 @@
 #include "core/FileEntry.h"
 #include "core/Startup.h"
 #include "platform/posix/PosixFileSystem.h"
-#include "ui/MainWindow.h"
+#include "ui/mainwindow/MainWindow.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include "core/Startup.h"
 #include "lang/ChooseLanguage.h"
 #include "platform/posix/PosixFileSystem.h"
-#include "ui/LanguageDialog.h"
-#include "ui/MainWindow.h"
+#include "ui/common/LanguageDialog.h"
+#include "ui/mainwindow/MainWindow.h"
 
 namespace {
 

@@ -9,10 +9,10 @@
 #include <QTest>
 
 #include "settings/IniFile.h"
-#include "ui/ActionWindows.h"
-#include "ui/DialogBinder.h"
-#include "ui/FrmPrefixSuffix.h"
-#include "ui/FrmScript.h"
+#include "ui/rename/ActionWindows.h"
+#include "ui/common/DialogBinder.h"
+#include "ui/rename/FrmPrefixSuffix.h"
+#include "ui/script/FrmScript.h"
 #include "ui/WindowFixture.h"
 
 namespace nomra::ui::testing {

@@ -10,9 +10,9 @@
 #include "settings/IniFile.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
-#include "ui/LanguageDialog.h"
-#include "ui/NotRenamedDialog.h"
-#include "ui/StartWindow.h"
+#include "ui/common/LanguageDialog.h"
+#include "ui/mainwindow/NotRenamedDialog.h"
+#include "ui/mainwindow/StartWindow.h"
 #include "ui/WindowFixture.h"
 
 namespace nomra::ui::testing {

@@ -5,7 +5,7 @@
 
 #include "core/FileEntry.h"
 #include "support/TempFolder.h"
-#include "ui/QtLocalisation.h"
+#include "ui/common/QtLocalisation.h"
 #include "ui/WindowFixture.h"
 
 namespace nomra::ui::testing {

@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "core/FileEntry.h"
-#include "ui/FileListModel.h"
+#include "ui/mainwindow/FileListModel.h"
 #include "ui/WindowFixture.h"
 
 namespace nomra::ui::testing {

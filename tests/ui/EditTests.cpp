@@ -10,8 +10,8 @@
 
 #include "core/FileEntry.h"
 #include "lang/MessageCatalog.h"
-#include "ui/EditManDialog.h"
-#include "ui/FileListModel.h"
+#include "ui/mainwindow/EditManDialog.h"
+#include "ui/mainwindow/FileListModel.h"
 #include "ui/WindowFixture.h"
 
 namespace nomra::ui::testing {

@@ -18,11 +18,11 @@
 #include "settings/ScopedEnvironment.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
-#include "ui/DialogBinder.h"
-#include "ui/FileOperationCommands.h"
-#include "ui/FileOperationProgress.h"
-#include "ui/FrmSelAction.h"
-#include "ui/PropertiesDialog.h"
+#include "ui/common/DialogBinder.h"
+#include "ui/fileops/FileOperationCommands.h"
+#include "ui/fileops/FileOperationProgress.h"
+#include "ui/fileops/FrmSelAction.h"
+#include "ui/fileops/PropertiesDialog.h"
 #include "ui/WindowFixture.h"
 
 namespace nomra::ui::testing {

@@ -9,8 +9,8 @@
 
 #include "lang/MessageCatalog.h"
 #include "support/TempFolder.h"
-#include "ui/FileListModel.h"
-#include "ui/QtLocalisation.h"
+#include "ui/mainwindow/FileListModel.h"
+#include "ui/common/QtLocalisation.h"
 #include "ui/WindowFixture.h"
 
 namespace nomra::ui::testing {

@@ -13,9 +13,9 @@
 #include <QTreeWidget>
 
 #include "structure/TagChoices.h"
-#include "ui/DialogBinder.h"
-#include "ui/FrmNameStructure.h"
-#include "ui/FrmSelNamePart.h"
+#include "ui/common/DialogBinder.h"
+#include "ui/structure/FrmNameStructure.h"
+#include "ui/structure/FrmSelNamePart.h"
 #include "ui/WindowFixture.h"
 
 namespace nomra::ui::testing {

@@ -7,8 +7,8 @@
 #include <QPushButton>
 
 #include "settings/IniFile.h"
-#include "ui/FrmOpen.h"
-#include "ui/SystemOpenDialog.h"
+#include "ui/open/FrmOpen.h"
+#include "ui/open/SystemOpenDialog.h"
 #include "ui/WindowFixture.h"
 
 namespace nomra::ui::testing {

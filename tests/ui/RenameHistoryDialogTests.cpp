@@ -14,8 +14,8 @@
 #include "platform/posix/PosixFileSystem.h"
 #include "support/ProtocolFiles.h"
 #include "support/TempFolder.h"
-#include "ui/FrmHistory.h"
-#include "ui/QtFrontEnd.h"
+#include "ui/history/FrmHistory.h"
+#include "ui/common/QtFrontEnd.h"
 #include "ui/WindowFixture.h"
 
 namespace nomra::ui::testing {

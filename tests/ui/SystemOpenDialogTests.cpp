@@ -11,7 +11,7 @@
 #include "lang/MessageCatalog.h"
 #include "open/FilterList.h"
 #include "support/TempFolder.h"
-#include "ui/SystemOpenDialog.h"
+#include "ui/open/SystemOpenDialog.h"
 #include "ui/WindowFixture.h"
 
 namespace nomra::ui::testing {

@@ -9,7 +9,7 @@
 #include "core/FileEntry.h"
 #include "core/WindowPlacement.h"
 #include "settings/IniFile.h"
-#include "ui/ThumbnailCache.h"
+#include "ui/mainwindow/ThumbnailCache.h"
 #include "ui/WindowFixture.h"
 
 namespace nomra::ui::testing {

@@ -14,7 +14,7 @@
 #include "core/FrontEnd.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "support/TempFolder.h"
-#include "ui/MainWindow.h"
+#include "ui/mainwindow/MainWindow.h"
 #include "ui/ModalWatcher.h"
 
 class QAction;

@@ -1,0 +1,27 @@
+#include "ui/common/DialogTexts.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QWidget>
+
+#include "ui/common/QtLocalisation.h"
+
+namespace nomra::ui {
+
+void LocaliseDialog(QWidget& dialog, const lang::MessageCatalog& catalog, const QWidget* mainWindow,
+                    const QString& appTitle) {
+  lang::CaptionSources sources;
+  sources.appTitle = appTitle.toStdString();
+  if (mainWindow != nullptr) {
+    sources.menuCaption = [mainWindow](std::string_view name) {
+      const auto* action = mainWindow->findChild<QAction*>(QString::fromUtf8(name.data(), static_cast<int>(name.size())));
+      return action == nullptr ? std::string() : action->text().toStdString();
+    };
+    if (const auto* scope = mainWindow->findChild<QComboBox*>("lstApplyTo")) {
+      sources.applyScopeText = scope->currentText().toStdString();
+    }
+  }
+  LocaliseWidget(dialog, QString(), catalog, sources);
+}
+
+}  // namespace nomra::ui

@@ -1,0 +1,116 @@
+#include "ui/fileops/FrmSelAction.h"
+
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "base/Fault.h"
+#include "lang/LanguageKeys.h"
+#include "ui/common/DialogBinder.h"
+#include "ui/common/DialogButtons.h"
+#include "ui/common/DialogTexts.h"
+#include "ui/fileops/FileOperationProgress.h"
+
+namespace nomra::ui {
+
+namespace {
+
+QGroupBox* BuildFrameCopy(QWidget& dialog) {
+  auto* frame = new QGroupBox("Which files get the new names?", &dialog);
+  frame->setObjectName("frameCopy");
+  auto* options = new QVBoxLayout(frame);
+  for (const auto& [name, text] : {std::pair{"optRenOriginal", "The originals (the copies keep the old names)"},
+                                   std::pair{"optRenCopy", "Only the copies"},
+                                   std::pair{"optRenBoth", "Originals and copies"}}) {
+    auto* option = new QRadioButton(text, frame);
+    option->setObjectName(name);
+    options->addWidget(option);
+  }
+  return frame;
+}
+
+}  // namespace
+
+FrmSelAction::FrmSelAction(const QString& tag, MainModel& model, const lang::MessageCatalog& catalog,
+                           fileops::OperationSystem& system, QWidget* parent)
+    : QDialog(parent), engine_(tag.toStdString()), model_(model), catalog_(catalog), system_(system) {
+  setObjectName(tag);
+  setWindowTitle("Copy files");
+  resize(560, 0);
+  auto* layout = new QVBoxLayout(this);
+  QGroupBox* frameCopy = BuildFrameCopy(*this);
+  frameCopy->setVisible(engine_.ShowsFrameCopy());
+  layout->addWidget(frameCopy);
+
+  auto* target = new QGridLayout;
+  auto* label = new QLabel("Target folder:", this);
+  label->setObjectName("lblTargetDir");
+  targetPath_ = new QLineEdit(this);
+  targetPath_->setObjectName("txtTargetPath");
+  label->setBuddy(targetPath_);
+  auto* browse = new QPushButton("...", this);
+  browse->setObjectName("cmdSelPath");
+  target->addWidget(label, 0, 0, 1, 2);
+  target->addWidget(targetPath_, 1, 0);
+  target->addWidget(browse, 1, 1);
+  layout->addLayout(target);
+
+  auto* updateList = new QCheckBox("Update the list", this);
+  updateList->setObjectName("chkUpdateList");
+  updateList->setVisible(engine_.ShowsUpdateList());
+  updateList->setEnabled(engine_.UpdateListEnabled());
+  layout->addWidget(updateList);
+
+  ok_ = AddOkCancelRow(*this, *layout);
+  LocaliseDialog(*this, catalog, parent, QString());
+
+  // The first showing: the remembered inputs, then the change handler.
+  engine_.Activate(model_);
+  ShowModelInWidgets(engine_.Model(), *this);
+  ok_->setEnabled(engine_.OkEnabled());
+
+  connect(targetPath_, &QLineEdit::textEdited, this, &FrmSelAction::OnTargetPathEdited);
+  connect(browse, &QPushButton::clicked, this, &FrmSelAction::cmdSelPath);
+  connect(ok_, &QPushButton::clicked, this, &FrmSelAction::cmdOK);
+}
+
+void FrmSelAction::OnTargetPathEdited(const QString& text) {
+  engine_.Model().SetText("txtTargetPath", text.toStdString());
+  engine_.txtTargetPath_Change(model_.fileSystem);
+  ok_->setEnabled(engine_.OkEnabled());
+}
+
+void FrmSelAction::cmdSelPath() {
+  const std::string title = catalog_.GetText(lang::kMessagesSection, "MsgText22");
+  QFileDialog browser(this, QString::fromStdString(title), targetPath_->text());
+  browser.setObjectName("dlgSelPath");
+  browser.setFileMode(QFileDialog::Directory);
+  browser.setOption(QFileDialog::ShowDirsOnly);
+  // Qt's own browser, the same on every desktop and under test.
+  browser.setOption(QFileDialog::DontUseNativeDialog);
+  const QString chosen = browser.exec() == QDialog::Accepted && !browser.selectedFiles().isEmpty()
+                             ? browser.selectedFiles().constFirst()
+                             : QString();
+  engine_.cmdSelPath(chosen.toStdString(), model_.fileSystem);
+  ShowModelInWidgets(engine_.Model(), *this);
+  ok_->setEnabled(engine_.OkEnabled());
+}
+
+void FrmSelAction::cmdOK() {
+  ReadWidgetsIntoModel(engine_.Model(), *this);
+  FileOperationProgress progress(catalog_, this);
+  fileops::OperationServices services{system_, model_.frontEnd, progress};
+  try {
+    if (engine_.cmdOK(model_, services)) accept();
+  } catch (const RuntimeFault& fault) {
+    model_.frontEnd.ShowFault(fault.what());
+  }
+}
+
+}  // namespace nomra::ui

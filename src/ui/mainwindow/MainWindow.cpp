@@ -1,0 +1,476 @@
+#include "ui/mainwindow/MainWindow.h"
+
+#include <QActionGroup>
+#include <cstdio>
+#include <QApplication>
+#include <QComboBox>
+#include <QEvent>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QImageReader>
+#include <QLabel>
+#include <QListView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStackedWidget>
+#include <QTableView>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "base/Fault.h"
+#include "commit/CommitRecovery.h"
+#include "core/AddFile.h"
+#include "core/CommandState.h"
+#include "core/RefreshPreview.h"
+#include "core/SortFileList.h"
+#include "core/WindowPlacement.h"
+#include "script/ScriptRecording.h"
+#include "settings/IniFile.h"
+#include "settings/SettingsKeys.h"
+#include "lang/LanguageKeys.h"
+#include "ui/common/ButtonIcons.h"
+#include "ui/common/QtLocalisation.h"
+#include "ui/mainwindow/FileListModel.h"
+#include "ui/mainwindow/IconCellDelegate.h"
+#include "ui/mainwindow/StartWindow.h"
+#include "ui/mainwindow/ThumbnailCache.h"
+#include "ui/rename/ActionWindows.h"
+
+namespace nomra::ui {
+
+namespace {
+
+constexpr char kFrmMain[] = "FrmMain";
+
+// The controls the refresh switches off before it decides what to switch on.
+const QStringList& ManagedMenuNames() {
+  static const QStringList names = {"mnuDelList", "mnuEdit",     "mnuFindDuplications", "mnuSpecial",
+                                    "mnuRejectChanges", "mnuRename", "mnuScript", "mnuTakeChanges", "mnuUndo"};
+  return names;
+}
+
+// Commands whose dialogs come with later work: visible, never enabled, never faked.
+const QStringList& CommandsNotYetBuilt() {
+  static const QStringList names = {
+      "mnuNewNamesFromFile", "mnuFileList",    "mnuMP3List",          "mnuEXIFList",    "mnuID3Data",
+      "mnuID3Data1",         "mnuID3Data2",    "mnuFileAttributes",   "mnuFindDuplications", "mnuSyncFolders",
+      "mnuUpdate",           "mnuHelpContent", "mnuImgPreview",       "mnuShowAssistant", "BtnBarMain/ImgPreview"};
+  return names;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Services services, QWidget* parent)
+    : QMainWindow(parent),
+      model_(services.fileSystem, frontEnd_, services.exifDates),
+      catalog_(services.languageFile.empty() ? lang::MessageCatalog() : lang::MessageCatalog(services.languageFile)),
+      frontEnd_(catalog_, services.appTitle),
+      committer_(model_),
+      paths_(std::move(services.paths)),
+      appTitle_(services.appTitle),
+      version_(services.version) {
+  RegisterOwnPictures();
+  setObjectName("frmMain");
+  setWindowTitle(appTitle_);
+  setWindowIcon(QIcon(":/icons/nomra.svg"));
+  setAcceptDrops(true);
+  for (const QString& name : CommandsNotYetBuilt()) notYetBuilt_.insert(name);
+  for (int stepType = 1; stepType <= kActionMenuEntries; ++stepType) {
+    if (HasActionWindow(stepType)) continue;
+    const QString number = QString("%1").arg(stepType, 2, 10, QLatin1Char('0'));
+    notYetBuilt_.insert("mnuRename" + number);
+    notYetBuilt_.insert("BtnBarMain/Rename" + number);
+  }
+  model_.committer = &committer_;
+  frontEnd_.SetParentWindow(this);
+
+  thumbnails_ = new ThumbnailCache(this);
+  BuildMenus();
+  BuildToolBars();
+  BuildCentral();
+  BuildStatusBar();
+  frontEnd_.SetStatusLabel(status_);
+  BuildCommandTables();
+  ConnectCommands();
+
+  LoadStartupSettings(model_, paths_);
+  settings_ = ReadMainWindowSettings(paths_.settingsPath, frontEnd_);
+  LoadSettingsIntoWindow();
+  ApplyExpertMode();
+
+  // A commit cut short by a crash is set right before any file is listed.
+  const InterruptedCommit interrupted = RecoverInterruptedCommit(model_.fileSystem, model_.dataFolder);
+  ShowUnresolved(frontEnd_, interrupted);
+
+  if (paths_.dataFolderUsable) ResetScriptTemp(model_.script);
+  LocaliseWidget(*this, QString(), catalog_, lang::CaptionSources{});
+  setLngalt();
+  // The entries are the scripts' own names, never language texts.
+  FillScriptMenu();
+  RefreshPreview();
+}
+
+MainWindow::~MainWindow() {
+  // The views go before the model they show.
+  delete centralWidget();
+}
+
+QAbstractItemView* MainWindow::ActiveListView() const {
+  return view_ == ListView::Icons ? static_cast<QAbstractItemView*>(icons_) : details_;
+}
+
+void MainWindow::UseLanguage(const std::string& languageFile) {
+  catalog_ = lang::MessageCatalog(languageFile);
+  // The drop-down buttons go back to their base tips, so that a language
+  // without a tip of its own doesn't take the variant in as part of the base.
+  for (auto it = baseToolTips_.constBegin(); it != baseToolTips_.constEnd(); ++it) {
+    ToolAction("BtnBarMain", it.key())->setToolTip(it.value());
+  }
+  LocaliseWidget(*this, QString(), catalog_, lang::CaptionSources{});
+  setLngalt();
+  FillScriptMenu();
+  RefreshPreview();
+}
+
+// Texts the localisation can't put by name: column heads, status texts, the
+// scope list, sort and size entries, and the tool tips of the variants.
+void MainWindow::setLngalt() {
+  for (int i = 0; i < 11; ++i) {
+    model_.statusTexts[i] = catalog_.GetText(lang::kMessagesSection, QString("MsgStat%1").arg(i, 2, 10, QChar('0')).toStdString());
+  }
+  static const char* kDesignHeads[] = {"Picture", "Path", "Old name", "New name", "Created", "Modified", "EXIF date", "Size"};
+  QStringList heads;
+  for (int column = 0; column < FileListModel::kShownColumns; ++column) {
+    const std::string text = catalog_.GetText(kFrmMain, "lstColHead0" + std::to_string(column));
+    heads << (text.empty() ? QString(kDesignHeads[column]) : QString::fromStdString(text));
+  }
+  listModel_->SetHeaderTexts(heads);
+  for (int i = 0; i < 3; ++i) {
+    if (auto* caption = findChild<QLabel*>(QString("lblDetail%1").arg(i + 1))) caption->setText(heads[i + 1] + ':');
+  }
+
+  const int scope = applyTo_->currentIndex();
+  applyTo_->clear();
+  for (const char* name : {"mnuDelList1", "mnuDelList2", "mnuDelList3"}) {
+    applyTo_->addItem(MenuAction(name)->text().remove('&'));
+  }
+  applyTo_->setCurrentIndex(scope < 0 ? model_.applyScope : scope);
+
+  std::string ascending = catalog_.GetText(kFrmMain, "mnuViewSortingAsc");
+  std::string descending = catalog_.GetText(kFrmMain, "mnuViewSortingDesc");
+  if (ascending.empty()) ascending = "(ascending)";
+  if (descending.empty()) descending = "(descending)";
+  for (int entry = 1; entry <= 14; ++entry) {
+    const QString head = heads[(entry + 1) / 2];
+    const std::string& direction = entry % 2 == 1 ? ascending : descending;
+    MenuAction(QString("mnuViewSortingSorted(%1)").arg(entry))->setText(head + ' ' + QString::fromStdString(direction));
+  }
+  for (int entry = 1; entry <= 7; ++entry) MenuAction(QString("mnuViewPre(%1)").arg(entry))->setText(heads[entry]);
+
+  // Picture sizes: an entry exists for each numbered key with a text.
+  QStringList sizes;
+  for (int entry = 1;; ++entry) {
+    const std::string text = catalog_.GetText(kFrmMain, "mnuViewIconSize" + std::to_string(entry));
+    if (text.empty()) break;
+    sizes << QString::fromStdString(text);
+  }
+  if (sizes.isEmpty()) sizes = {"32", "48", "64", "96", "128"};
+  for (const QAction* old : iconSizeMenu_->actions()) menuActions_.remove(old->objectName());
+  iconSizeMenu_->clear();
+  auto* group = new QActionGroup(iconSizeMenu_);
+  for (int entry = 1; entry <= sizes.size(); ++entry) {
+    QAction* action = iconSizeMenu_->addAction(sizes[entry - 1]);
+    const QString name = QString("mnuViewIconSize(%1)").arg(entry);
+    action->setObjectName(name);
+    action->setCheckable(true);
+    action->setChecked(entry == iconSizeEntry_);
+    group->addAction(action);
+    menuActions_.insert(name, action);
+    ConnectMenuEntry(*action);
+  }
+  if (iconSizeEntry_ > sizes.size()) iconSizeEntry_ = 1;
+
+  for (const QString& key : {QString("OpenFile"), QString("DelList"), QString("TakeChanges")}) {
+    baseToolTips_.insert(key, ToolAction("BtnBarMain", key)->toolTip());
+  }
+  UpdateToolTips();
+}
+
+int MainWindow::IconSize() const {
+  const QAction* entry = iconSizeMenu_->actions().value(iconSizeEntry_ - 1);
+  return entry == nullptr ? 0 : entry->text().remove('&').toInt();
+}
+
+// Each drop-down button shows its base tip and the variant in force; the
+// variant's text is a menu caption, whose shortcut marks a tip doesn't show.
+void MainWindow::UpdateToolTips() {
+  for (auto it = baseToolTips_.constBegin(); it != baseToolTips_.constEnd(); ++it) {
+    QAction* button = ToolAction("BtnBarMain", it.key());
+    const QList<QAction*> entries = button->menu()->actions();
+    // No variant chosen yet acts as the first one, so the tip names that.
+    QString variant = variants_.value(it.key());
+    if (variant.isEmpty() && !entries.isEmpty()) variant = entries.first()->property(kKeyProperty).toString();
+    QString variantText;
+    for (QAction* entry : entries) {
+      if (entry->property(kKeyProperty).toString().compare(variant, Qt::CaseInsensitive) == 0) {
+        variantText = entry->text().remove('&');
+      }
+    }
+    button->setToolTip(it.value() + " [" + variantText + "]");
+  }
+}
+
+void MainWindow::LoadSettingsIntoWindow() {
+  MenuAction("mnuShowBtnBarMain")->setChecked(settings_.btnbarMain == 1);
+  MenuAction("mnuShowBtnBarScript")->setChecked(settings_.btnbarScript == 1);
+  mainBar_->setVisible(settings_.btnbarMain == 1);
+  scriptBar_->setVisible(settings_.btnbarScript == 1);
+
+  const double dpi = logicalDpiX();
+  for (int head = 1; head <= 8; ++head) {
+    long width = ColumnWidthToApply(head, settings_.columnWidths[head - 1]);
+    // A date column without a stored width shows the whole date at any font size.
+    if (settings_.columnWidths[head - 1] < 0 && (head == 5 || head == 6)) {
+      width = std::max<long>(width, PixelsToTwips(fontMetrics().horizontalAdvance("0000-00-00 00:00:00") + 16, dpi));
+    }
+    if (width >= 0) details_->setColumnWidth(head - 1, TwipsToPixels(static_cast<int>(width), dpi));
+    if (width == 0) details_->setColumnHidden(head - 1, true);
+  }
+  const auto checks = ColumnMenuChecks(settings_.columnWidths);
+  for (int entry = 1; entry <= 7; ++entry) MenuAction(QString("mnuViewPre(%1)").arg(entry))->setChecked(checks[entry - 1]);
+
+  if (settings_.previewSortKey >= 0) model_.list.sortKey = static_cast<int>(settings_.previewSortKey);
+  if (settings_.previewSortOrder >= 0) model_.list.sortOrder = static_cast<int>(settings_.previewSortOrder);
+
+  iconSizeEntry_ = settings_.previewImageSize > 0 ? static_cast<int>(settings_.previewImageSize) : 1;
+  if (settings_.previewStyle == "DetailsIcons") {
+    view_ = ListView::DetailsIcons;
+  } else if (settings_.previewStyle == "Icons") {
+    view_ = ListView::Icons;
+  } else {
+    view_ = ListView::Details;
+  }
+  MenuAction("mnuGridLines")->setChecked(settings_.previewGridLines);
+  details_->setShowGrid(settings_.previewGridLines);
+
+  variants_.insert("OpenFile", QString::fromStdString(OpenFileTagFromStyle(settings_.dialogueStyle)));
+  variants_.insert("TakeChanges", QString::fromStdString(TakeChangesTagFromStyle(settings_.renameStyle)));
+  variants_.insert("DelList", QString());
+  MenuAction("mnuShowSplash")->setChecked(settings_.splash != 0);
+
+  ApplyWindowPlacement();
+}
+
+// The stored place, kept on the screen: at least 1000 twips of the window
+// stay visible on the left and top, and 500 on the right and bottom.
+void MainWindow::ApplyWindowPlacement() {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  const double dpi = screen != nullptr ? screen->logicalDotsPerInchX() : 96.0;
+  const QSize screenSize = screen != nullptr ? screen->availableGeometry().size() : QSize(1280, 800);
+  resize(std::min(1100, screenSize.width()), std::min(720, screenSize.height()));
+  const WindowPlacement placement =
+      PlaceWindow(settings_, TwipsSize{PixelsToTwips(width(), dpi), PixelsToTwips(height(), dpi)},
+                  TwipsSize{PixelsToTwips(screenSize.width(), dpi), PixelsToTwips(screenSize.height(), dpi)});
+  int w = width(), h = height();
+  if (placement.applyWidth) w = TwipsToPixels(placement.width, dpi);
+  if (placement.applyHeight) h = TwipsToPixels(placement.height, dpi);
+  resize(w, h);
+  move(TwipsToPixels(placement.left, dpi), TwipsToPixels(placement.top, dpi));
+  if (placement.applyState && placement.state == 2) setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+void MainWindow::ApplyExpertMode() {
+  for (const char* name : {"mnuDeleteFiles1", "mnuDeleteFiles2", "mnuFileAttributes"}) {
+    MenuAction(name)->setEnabled(model_.expertMode && !notYetBuilt_.contains(name));
+  }
+}
+
+void MainWindow::RefreshPreview() {
+  const std::string refreshing = catalog_.GetText(kFrmMain, "RefreshPreview");
+  if (!refreshing.empty()) status_->setText(QString::fromStdString(refreshing));
+  model_.iconView = view_ == ListView::Icons;
+  refreshPreview(model_);
+
+  const bool pictures = view_ != ListView::Details;
+  thumbnails_->SetSize(pictures ? IconSize() : 0);
+  listModel_->SetShowThumbnails(pictures);
+  listModel_->SetInPlaceEditing(view_ == ListView::Icons);
+  views_->setCurrentWidget(view_ == ListView::Icons ? static_cast<QWidget*>(icons_) : details_);
+  details_->setColumnHidden(0, !pictures);
+  details_->setIconSize(QSize(IconSize(), IconSize()));
+  if (pictures) {
+    const QString head = listModel_->headerData(0, Qt::Horizontal, Qt::DisplayRole).toString();
+    const int headWidth = details_->horizontalHeader()->fontMetrics().horizontalAdvance(head) + 24;
+    details_->setColumnWidth(0, std::max(IconSize() + 8, headWidth));
+  }
+  details_->verticalHeader()->setDefaultSectionSize(
+      std::max(fontMetrics().height() + 6, view_ == ListView::DetailsIcons ? IconSize() + 4 : 0));
+  icons_->setIconSize(QSize(IconSize(), IconSize()));
+  const QSize cell(std::max(IconSize() + 48, 104), IconSize() + 3 * fontMetrics().height() + 10);
+  icons_->setGridSize(cell);
+  iconCells_->SetCellSize(cell - QSize(6, 6));
+  MenuAction(view_ == ListView::Details ? "mnuViewDetails"
+             : view_ == ListView::DetailsIcons ? "mnuViewDetailsIcons" : "mnuViewIcons")->setChecked(true);
+
+  listModel_->Reload();
+  RestoreSelection();
+  UpdateSortIndicators();
+  ApplyCommandStates();
+  selectedScript_->setText(QString::fromStdString(model_.selectedScriptLabel));
+  SelectionHandler();
+}
+
+void MainWindow::ApplyCommandStates() {
+  const CommandState& state = model_.commands;
+  auto allowed = [&](const QString& name) { return !notYetBuilt_.contains(name); };
+  for (const QString& name : ManagedMenuNames()) {
+    if (QAction* action = MenuAction(name)) action->setEnabled(state.IsEnabled(name.toStdString()) && allowed(name));
+  }
+  for (auto it = menuActions_.constBegin(); it != menuActions_.constEnd(); ++it) {
+    if (!ManagedMenuNames().contains(it.key()) && !allowed(it.key())) it.value()->setEnabled(false);
+  }
+  for (const std::string& key : MainToolBarKeys()) {
+    if (key.empty()) continue;
+    const QString name = QString::fromStdString(key);
+    ToolAction("BtnBarMain", name)->setEnabled(state.IsEnabled(key) && allowed("BtnBarMain/" + name));
+  }
+  for (const char* key : {"RunSelectedScript", "StartRecordScript", "StartRunScript"}) {
+    ToolAction("btnbarScript", key)->setEnabled(state.IsEnabled(key) && allowed(QString("btnbarScript/") + key));
+  }
+  const bool recording = model_.script.recording != 0;
+  ToolAction("btnbarScript", "StopRecordScript")->setEnabled(recording);
+  MenuAction("mnuStartRecordScript")->setEnabled(!recording);
+  MenuAction("mnuStopRecordScript")->setEnabled(recording);
+  applyTo_->setEnabled(state.IsEnabled("lstApplyTo"));
+  ToolAction("btnBarLeft", "CancelAction")->setEnabled(loading_);
+  for (QAction* button : {ToolAction("BtnBarMain", "OpenFile"), ToolAction("BtnBarMain", "TakeChanges")}) {
+    for (QAction* entry : button->menu()->actions()) entry->setEnabled(allowed("BtnBarMain/" + entry->property(kKeyProperty).toString()));
+  }
+  ApplyExpertMode();
+}
+
+void MainWindow::UpdateSortIndicators() {
+  QHeaderView* header = details_->horizontalHeader();
+  const int column = model_.list.sortKey;
+  if (column >= 1 && column <= 7) {
+    header->setSortIndicatorShown(true);
+    header->setSortIndicator(column, model_.list.sortOrder == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+  } else {
+    header->setSortIndicatorShown(false);
+  }
+  const int checked = CheckedSortMenuEntry(model_);
+  for (int entry = 1; entry <= 14; ++entry) MenuAction(QString("mnuViewSortingSorted(%1)").arg(entry))->setChecked(entry == checked);
+  MenuAction("mnuViewSortingUnsorted")->setChecked(checked == 0);
+}
+
+void MainWindow::RestoreSelection() {
+  QItemSelectionModel* selection = details_->selectionModel();
+  const QSignalBlocker quiet(selection);
+  QItemSelection ranges;
+  int runStart = -1;
+  const int count = model_.list.Count();
+  const int lastColumn = FileListModel::kShownColumns - 1;
+  int row = 0;
+  model_.list.ForEach([&](const FileEntry& entry) {
+    if (entry.selected && runStart < 0) runStart = row;
+    if (!entry.selected && runStart >= 0) {
+      ranges.select(listModel_->index(runStart, 0), listModel_->index(row - 1, lastColumn));
+      runStart = -1;
+    }
+    ++row;
+  });
+  if (runStart >= 0) ranges.select(listModel_->index(runStart, 0), listModel_->index(count - 1, lastColumn));
+  selection->select(ranges, QItemSelectionModel::ClearAndSelect);
+  if (lastSelectedIndex_ >= 1 && lastSelectedIndex_ <= count) {
+    selection->setCurrentIndex(listModel_->index(lastSelectedIndex_ - 1, 0), QItemSelectionModel::NoUpdate);
+  }
+  details_->viewport()->update();
+  icons_->viewport()->update();
+}
+
+int MainWindow::SelectedPosition() const {
+  const QModelIndex current = details_->selectionModel()->currentIndex();
+  if (current.isValid() && model_.list.Item(current.row() + 1).selected) return current.row() + 1;
+  const QModelIndexList rows = details_->selectionModel()->selectedRows();
+  return rows.isEmpty() ? 0 : rows.first().row() + 1;
+}
+
+// The detail fields follow the row at the selection.
+void MainWindow::SelectionHandler() {
+  for (QLabel* field : detailFields_) field->clear();
+  const int position = model_.list.Empty() ? 0 : SelectedPosition();
+  if (position > 0) {
+    lastSelectedIndex_ = position;
+    const FileEntry& row = model_.list.Item(position);
+    detailFields_[0]->setText(QString::fromStdString(row[kColPath]));
+    detailFields_[1]->setText(QString::fromStdString(row[kColOldName]));
+    detailFields_[2]->setText(QString::fromStdString(row[kColNewName]));
+    const bool mp3 = QFileInfo(QString::fromStdString(row.key)).suffix().compare("mp3", Qt::CaseInsensitive) == 0;
+    for (const char* name : {"mnuID3Data", "mnuID3Data1"}) MenuAction(name)->setEnabled(mp3 && !notYetBuilt_.contains(name));
+  }
+  const bool hasRow = !detailFields_[0]->text().isEmpty();
+  ToolAction("btnBarLeft", "EditMan")->setEnabled(hasRow && !loading_);
+  ToolAction("btnBarLeft", "DelList")->setEnabled(hasRow && !loading_);
+  ToolAction("btnBarLeft", "Properties")->setEnabled(hasRow && !notYetBuilt_.contains("btnBarLeft/Properties"));
+  for (const char* name : {"mnuEditMan", "mnuCopyName1", "mnuCopyName2", "mnuCopyLink"}) MenuAction(name)->setEnabled(hasRow);
+  picture_->clear();
+  if (hasRow) {
+    const QString path = QString::fromStdString(model_.list.Item(position).key);
+    QImageReader reader(path);
+    if (reader.canRead()) {
+      const QSize full = reader.size();
+      if (full.isValid()) reader.setScaledSize(full.scaled(picture_->size(), Qt::KeepAspectRatio));
+      const QImage image = reader.read();
+      if (!image.isNull()) picture_->setPixmap(QPixmap::fromImage(image));
+    }
+  }
+}
+
+void MainWindow::AddPaths(const QStringList& paths) {
+  SetBusyLoading(true);
+  model_.cancelLoading = false;
+  for (const QString& path : paths) {
+    // The cancel button is let through by the pump inside the loader.
+    if (model_.cancelLoading) break;
+    // A path that vanished since it was dropped is passed over, as the
+    // existence check would.
+    if (!QFileInfo::exists(path)) continue;
+    std::string text = path.toStdString();
+    try {
+      AddFile(model_, text);
+    } catch (const RuntimeFault& fault) {
+      frontEnd_.ShowFault(fault.what());
+    }
+  }
+  model_.cancelLoading = false;
+  SetBusyLoading(false);
+  RefreshPreview();
+}
+
+// While files load, the cancel button is the one control meant to be used.
+void MainWindow::SetBusyLoading(bool loading) {
+  loading_ = loading;
+  frontEnd_.SetBusy(loading);
+  menuBar()->setEnabled(!loading);
+  mainBar_->setEnabled(!loading);
+  scriptBar_->setEnabled(!loading);
+  views_->setEnabled(!loading);
+  applyTo_->setEnabled(!loading && model_.commands.IsEnabled("lstApplyTo"));
+  for (QAction* action : leftBar_->actions()) {
+    if (action->property(kKeyProperty).toString() != "CancelAction") action->setEnabled(!loading);
+  }
+  ToolAction("btnBarLeft", "CancelAction")->setEnabled(loading);
+}
+
+void MainWindow::CancelAction() { model_.cancelLoading = true; }
+
+void MainWindow::ShowAtStart() {
+  show();
+  if (MenuAction("mnuShowSplash")->isChecked()) {
+    StartWindow start(catalog_, appTitle_, version_, this);
+    start.exec();
+  }
+}
+
+}  // namespace nomra::ui

@@ -1,0 +1,100 @@
+// The main window's part in the renaming actions and scripts: opening an
+// action's dialog, recording, the script dialog, the selected script's
+// button with its drop-down, and "/runscript=" at start.
+#include <QAction>
+#include <QLabel>
+#include <QMenu>
+
+#include "base/Fault.h"
+#include "base/LocalClock.h"
+#include "script/ScriptFiles.h"
+#include "script/ScriptPlayback.h"
+#include "script/ScriptRecording.h"
+#include "ui/mainwindow/MainWindow.h"
+#include "ui/rename/ActionWindows.h"
+#include "ui/script/FrmScript.h"
+
+namespace nomra::ui {
+
+namespace {
+
+constexpr char kScriptBar[] = "btnbarScript";
+constexpr char kRunSelectedKey[] = "RunSelectedScript";
+// The file name an entry of the drop-down stands for; not a dispatch key,
+// as these entries come and go with the stored scripts.
+constexpr char kScriptFileProperty[] = "scriptFile";
+
+}  // namespace
+
+ActionWindowServices MainWindow::ActionServices() {
+  return ActionWindowServices{model_, catalog_, this, appTitle_, [this] { RefreshPreview(); }};
+}
+
+void MainWindow::OpenAction(int stepType) { OpenActionWindow(stepType, ActionServices()); }
+
+void MainWindow::PlayScriptSteps() {
+  try {
+    PlayScript(model_.script, [this](int stepType) { OpenAction(stepType); });
+  } catch (const RuntimeFault& fault) {
+    frontEnd_.ShowFault(fault.what());
+  }
+  RefreshPreview();
+}
+
+void MainWindow::mnuStartRecordScript() {
+  BeginScriptRecording(model_.script);
+  RefreshPreview();
+}
+
+void MainWindow::mnuStopRecordScript() {
+  EndRecording();
+  RefreshPreview();
+}
+
+void MainWindow::EndRecording() {
+  try {
+    if (EndScriptRecording(model_, LocalTimeNow)) FillScriptMenu();
+  } catch (const RuntimeFault& fault) {
+    frontEnd_.ShowFault(fault.what());
+  }
+}
+
+void MainWindow::mnuStartRunScript() {
+  FrmScript chooser(model_, catalog_, this, appTitle_);
+  chooser.exec();
+  // Also after a cancel, which has left nothing to play.
+  PlayScriptSteps();
+}
+
+void MainWindow::RunSelectedScriptButton() {
+  try {
+    RunSelectedScript(model_, selectedScriptFile_.toStdString(), [this](int stepType) { OpenAction(stepType); });
+  } catch (const RuntimeFault& fault) {
+    frontEnd_.ShowFault(fault.what());
+  }
+  selectedScript_->setText(QString::fromStdString(model_.selectedScriptLabel));
+  RefreshPreview();
+}
+
+void MainWindow::FillScriptMenu() {
+  QMenu* menu = ToolAction(kScriptBar, kRunSelectedKey)->menu();
+  menu->clear();
+  for (const StoredScript& script : ListStoredScripts(model_.fileSystem, model_.script.dataFolder)) {
+    QAction* entry = menu->addAction(QString::fromStdString(script.displayText));
+    const QString file = QString::fromStdString(script.fileName);
+    entry->setProperty(kScriptFileProperty, file);
+    connect(entry, &QAction::triggered, this, [this, file, text = entry->text()] {
+      selectedScriptFile_ = file;
+      model_.selectedScriptLabel = text.toStdString();
+      selectedScript_->setText(text);
+      RunSelectedScriptButton();
+    });
+  }
+  model_.scriptMenuHasEntries = !menu->isEmpty();
+}
+
+void MainWindow::RunScriptFromCommandLine(const std::string& name) {
+  RunScriptArgument(model_, name, [this](int stepType) { OpenAction(stepType); });
+}
+
+}  // namespace nomra::ui

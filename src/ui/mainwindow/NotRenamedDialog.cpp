@@ -1,0 +1,91 @@
+#include "ui/mainwindow/NotRenamedDialog.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "dialog/DialogState.h"
+#include "lang/LanguageKeys.h"
+#include "ui/common/DialogBinder.h"
+#include "ui/common/DialogButtons.h"
+#include "ui/common/DialogTexts.h"
+
+namespace nomra::ui {
+
+QString ReportRowText(const ReportRow& row, const lang::MessageCatalog& catalog) {
+  std::string text = catalog.GetText(lang::kMessagesSection, row.textKey, row.arguments);
+  if (text.empty()) return QString::fromStdString(row.Describe());
+  if (!row.systemText.empty()) text += "   " + row.systemText;
+  if (!row.about.empty()) text = row.about + ": " + text;
+  return QString::fromStdString(text);
+}
+
+NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::MessageCatalog& catalog, QWidget* parent)
+    : QDialog(parent) {
+  setObjectName("frmNotRenamed");
+  setWindowTitle("Not renamed");
+  resize(720, 420);
+  auto* layout = new QVBoxLayout(this);
+  auto* notRenamed = new QTreeWidget(this);
+  notRenamed->setObjectName("lstNotRenamed");
+  notRenamed->setColumnCount(2);
+  notRenamed->setHeaderLabels({"No.", "Message"});
+  notRenamed->setRootIsDecorated(false);
+  notRenamed->setWordWrap(true);
+  for (const ReportRow& row : result.notRenamed) {
+    auto* item = new QTreeWidgetItem(notRenamed);
+    item->setText(0, QString::number(row.number));
+    item->setText(1, ReportRowText(row, catalog));
+    item->setToolTip(1, item->text(1));
+    item->setData(0, Qt::UserRole, QString::fromStdString(row.rowKey));
+  }
+  notRenamed->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+  layout->addWidget(notRenamed, 3);
+
+  auto* renamed = new QListWidget(this);
+  renamed->setObjectName("lstRenamed");
+  for (const std::string& key : result.renamed) renamed->addItem(QString::fromStdString(key));
+  layout->addWidget(renamed, 1);
+
+  auto* what = new QLabel("What should happen with the renamed files:", this);
+  what->setObjectName("lblSelAction");
+  layout->addWidget(what);
+  noAction_ = new QRadioButton("Leave them in the list", this);
+  noAction_->setObjectName("optNoAction");
+  noAction_->setChecked(true);
+  removeRenamed_ = new QRadioButton("Remove them from the list", this);
+  removeRenamed_->setObjectName("optRemoveRenamed");
+  layout->addWidget(noAction_);
+  layout->addWidget(removeRenamed_);
+
+  QPushButton* ok = AddOkCancelRow(*this, *layout);
+  connect(ok, &QPushButton::clicked, this, [this] {
+    choice_ = removeRenamed_->isChecked() ? NotRenamedChoice::RemoveRenamed : NotRenamedChoice::NoAction;
+    if (session_ != nullptr) {
+      ReadWidgetsIntoModel(model_, *this);
+      dialog::StoreDialogState(model_, model_.Name(), dialog::kSettingsMode, *session_);
+    }
+    accept();
+  });
+  for (const char* name : {"lblSelAction", "lstNotRenamed"}) model_.AddNoValue(name);
+  model_.AddList("lstRenamed", {}, false);
+  model_.AddOption("optNoAction", "choice");
+  model_.AddOption("optRemoveRenamed", "choice");
+  for (const char* name : {"cmdOK", "cmdCancel"}) model_.AddNoValue(name);
+
+  LocaliseDialog(*this, catalog, parent, QString());
+}
+
+void NotRenamedDialog::RememberChoiceIn(const ScriptSession& session, FrontEnd& frontEnd) {
+  session_ = &session;
+  ReadWidgetsIntoModel(model_, *this);
+  dialog::RestoreDialogState(model_, model_.Name(), dialog::kSettingsMode, session, frontEnd);
+  ShowModelInWidgets(model_, *this);
+}
+
+}  // namespace nomra::ui

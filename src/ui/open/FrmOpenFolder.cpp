@@ -1,0 +1,180 @@
+// The folder Nomra's own open dialog shows: the locations, the rows of a
+// folder, the selection, and what cmdOpen stages.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "base/Helpers.h"
+#include "core/BusyPointer.h"
+#include "open/StagedFiles.h"
+#include "settings/IniFile.h"
+#include "settings/SettingsKeys.h"
+#include "ui/open/FrmOpen.h"
+#include "ui/open/OpenLocations.h"
+
+namespace nomra::ui {
+
+namespace {
+
+constexpr char kOwnSection[] = "frmOpen";
+constexpr char kRootTextKey[] = "DrvSelRoot";
+constexpr char kRootKey[] = "*AP*";
+constexpr char kSeparator = '/';
+
+QByteArray Bytes(const std::string& text) { return QByteArray(text.data(), static_cast<qsizetype>(text.size())); }
+
+std::string FromBytes(const QVariant& value) { return value.toByteArray().toStdString(); }
+
+QString Shown(const std::string& bytes) { return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size())); }
+
+// Without a separator at the end, except for the root itself.
+std::string Trimmed(std::string path) {
+  while (path.size() > 1 && path.back() == kSeparator) path.pop_back();
+  return path;
+}
+
+std::string ParentOf(const std::string& path) {
+  const std::size_t last = path.rfind(kSeparator);
+  if (last == std::string::npos || path == "/") return {};
+  return last == 0 ? std::string("/") : path.substr(0, last);
+}
+
+}  // namespace
+
+void FrmOpen::setPath(const std::string& path) {
+  std::string folder = path.empty() ? std::string() : Trimmed(services_.fileSystem.AbsolutePath(path));
+  // A folder that is gone gives way to the nearest one above it.
+  while (!folder.empty() && services_.fileSystem.Status(folder).kind != platform::EntryKind::Folder) {
+    folder = ParentOf(folder);
+  }
+  atLocations_ = folder.empty();
+  folder_ = folder;
+  path_->setText(Shown(folder_));
+  FillLocations();
+  Add2lstFiles();
+}
+
+void FrmOpen::FolderUp() {
+  if (atLocations_) return;
+  setPath(ParentOf(folder_));
+}
+
+// The root row, then the places, then one row for each level of the folder
+// shown, the last one open.
+void FrmOpen::FillLocations() {
+  const QSignalBlocker quiet(locations_);
+  locations_->clear();
+  const std::string rootText = services_.catalog.GetText(kOwnSection, kRootTextKey);
+  locations_->addItem(icons_.Computer(), rootText.empty() ? QString("Computer") : Shown(rootText), QByteArray(kRootKey));
+  for (const Location& place : ListLocations()) {
+    const QIcon icon = place.kind == LocationKind::Home ? icons_.Home() : icons_.Drive();
+    locations_->addItem(icon, place.text, place.path.toUtf8());
+  }
+  if (atLocations_) {
+    locations_->setCurrentIndex(0);
+    return;
+  }
+  std::vector<std::string> levels;
+  for (std::string level = folder_; !level.empty(); level = ParentOf(level)) levels.insert(levels.begin(), level);
+  for (std::size_t depth = 0; depth < levels.size(); ++depth) {
+    const std::string& level = levels[depth];
+    const std::string name = level == "/" ? level : level.substr(level.rfind(kSeparator) + 1);
+    const bool last = depth + 1 == levels.size();
+    locations_->addItem(last ? icons_.OpenFolder() : icons_.ClosedFolder(), Shown(name), Bytes(level));
+    locations_->setItemData(locations_->count() - 1, static_cast<int>(depth + 1), kDepthRole);
+  }
+  locations_->setCurrentIndex(locations_->count() - 1);
+}
+
+void FrmOpen::OnLocationChosen(int index) {
+  const std::string key = FromBytes(locations_->itemData(index));
+  setPath(key == kRootKey ? std::string() : key);
+}
+
+void FrmOpen::AddRow(const QIcon& icon, const QString& text, const std::string& key, bool folder) {
+  auto* item = new QListWidgetItem(icon, text, rows_);
+  item->setData(kKeyRole, Bytes(key));
+  item->setData(kFolderRole, folder);
+}
+
+// Folders first, then the files under the pattern; at the root the places.
+void FrmOpen::Add2lstFiles() {
+  {
+    const QSignalBlocker quiet(rows_);
+    rows_->clear();
+    if (atLocations_) {
+      for (const Location& place : ListLocations()) {
+        AddRow(place.kind == LocationKind::Home ? icons_.Home() : icons_.Drive(), place.text, place.path.toStdString(), true);
+      }
+    } else {
+      const std::string shown = AddBackslash(folder_);
+      for (const FolderRow& row : ListFolderRows(services_.fileSystem, folder_, open::CheckedPattern(filters_), showHiddenFiles_)) {
+        const QIcon icon = row.folder ? icons_.ClosedFolder() : icons_.ForFile(Shown(shown + row.key));
+        AddRow(icon, row.text, row.key, row.folder);
+      }
+    }
+  }
+  OnSelectionChanged();
+}
+
+void FrmOpen::OnRowActivated(QListWidgetItem* item) {
+  if (item == nullptr) return;
+  if (item->data(kFolderRole).toBool()) {
+    setPath(FromBytes(item->data(kKeyRole)));
+  } else {
+    cmdOpen();
+  }
+}
+
+void FrmOpen::OnSelectionChanged() {
+  QStringList quoted;
+  for (int row = 0; row < rows_->count(); ++row) {
+    const QListWidgetItem* item = rows_->item(row);
+    if (item->isSelected()) quoted << '"' + item->text() + '"';
+  }
+  names_->setText(quoted.join(' '));
+}
+
+void FrmOpen::SelectAllRows() { rows_->selectAll(); }
+
+void FrmOpen::InvertSelection() {
+  QItemSelection inverted;
+  for (int row = 0; row < rows_->count(); ++row) {
+    if (!rows_->item(row)->isSelected()) {
+      const QModelIndex index = rows_->model()->index(row, 0);
+      inverted.select(index, index);
+    }
+  }
+  rows_->selectionModel()->select(inverted, QItemSelectionModel::ClearAndSelect);
+}
+
+void FrmOpen::cmdOpen() {
+  BusyPointer busy(services_.frontEnd);
+  open::FolderSelection selection;
+  selection.folder = folder_;
+  for (int row = 0; row < rows_->count(); ++row) {
+    const QListWidgetItem* item = rows_->item(row);
+    const std::string key = FromBytes(item->data(kKeyRole));
+    if (item->data(kFolderRole).toBool()) {
+      if (item->isSelected()) selection.selectedFolders.push_back(key);
+      continue;
+    }
+    selection.listedFiles.push_back(key);
+    if (item->isSelected()) selection.selectedFiles.push_back(key);
+  }
+  // The locations are no folder whose files could be taken.
+  selection.allFiles = !atLocations_ && allFiles_->isChecked();
+  selection.subFolders = !atLocations_ && subFolders_->isEnabled() && subFolders_->isChecked();
+  selection.pattern = open::CheckedPattern(filters_);
+  selection.showHiddenFiles = showHiddenFiles_;
+  staged_ = open::StageFiles(selection, services_.fileSystem);
+
+  open::WritePowerFilters(filters_, services_.settingsFile);
+  accept();
+  if (!staged_.empty() && !atLocations_) {
+    settings::WriteIni(settings::kSettingsSection, settings::kLastPathKey, AddBackslash(folder_), services_.settingsFile);
+  }
+}
+
+}  // namespace nomra::ui

@@ -1,0 +1,16 @@
+#pragma once
+#include "ui/rename/ActionDialogWindow.h"
+
+namespace nomra::ui {
+
+// Prefix and suffix: txtPr and txtSu, with labels cut from the caption.
+class FrmPrefixSuffix final : public ActionDialogWindow {
+  Q_OBJECT
+ public:
+  explicit FrmPrefixSuffix(ActionWindowServices services);
+
+ protected:
+  void AfterLocalised() override;
+};
+
+}  // namespace nomra::ui

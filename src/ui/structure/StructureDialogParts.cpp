@@ -1,0 +1,73 @@
+#include "ui/structure/StructureDialogParts.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+namespace nomra::ui {
+
+QLabel* AddLabelledWidget(QGridLayout& grid, int row, const char* labelName, const char* label, QWidget& widget) {
+  auto* caption = new QLabel(label, widget.parentWidget());
+  caption->setObjectName(labelName);
+  caption->setBuddy(&widget);
+  grid.addWidget(caption, row, 0);
+  grid.addWidget(&widget, row, 1);
+  return caption;
+}
+
+QLineEdit* AddLabelledText(QGridLayout& grid, QWidget& parent, int row, const char* labelName, const char* label,
+                           const char* textName) {
+  auto* text = new QLineEdit(&parent);
+  text->setObjectName(textName);
+  AddLabelledWidget(grid, row, labelName, label, *text);
+  return text;
+}
+
+StructurePreview AddStructurePreview(QWidget& dialog, QBoxLayout& layout) {
+  auto* grid = new QGridLayout;
+  StructurePreview preview;
+  preview.fileName = AddLabelledText(*grid, dialog, 0, "lblExample", "Example:", "txtFileName");
+  preview.fileName->setReadOnly(true);
+  preview.row = new QScrollBar(Qt::Vertical, &dialog);
+  preview.row->setObjectName("VScroll1");
+  preview.row->setFixedHeight(preview.fileName->sizeHint().height());
+  grid->addWidget(preview.row, 0, 2);
+  preview.result = AddLabelledText(*grid, dialog, 1, "lblPreview", "Result:", "txtResult");
+  preview.result->setReadOnly(true);
+  grid->setColumnStretch(1, 1);
+  layout.addLayout(grid);
+  return preview;
+}
+
+void ShowTextsAndPreviewRow(const dialog::DialogModel& model, QWidget& dialog) {
+  for (const dialog::DialogInput& input : model.Inputs()) {
+    const QString name = QString::fromStdString(input.Key());
+    if (input.kind == dialog::InputKind::Text) {
+      auto* edit = dialog.findChild<QLineEdit*>(name);
+      const QString text = QString::fromStdString(input.text);
+      if (edit != nullptr && edit->text() != text) {
+        const QSignalBlocker block(edit);
+        edit->setText(text);
+      }
+    } else if (input.kind == dialog::InputKind::VerticalScrollBar) {
+      if (auto* bar = dialog.findChild<QScrollBar*>(name)) {
+        const QSignalBlocker block(bar);
+        bar->setRange(input.minimum, input.maximum);
+        bar->setValue(input.number);
+      }
+    }
+  }
+}
+
+int Utf16Position(const QString& text, int characters) {
+  int position = 0;
+  for (int n = 0; n < characters && position < text.size(); ++n) {
+    position += text.at(position).isHighSurrogate() && position + 1 < text.size() ? 2 : 1;
+  }
+  return position;
+}
+
+}  // namespace nomra::ui
