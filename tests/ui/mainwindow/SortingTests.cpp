@@ -5,7 +5,7 @@
 #include <QTest>
 
 #include "core/FileEntry.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

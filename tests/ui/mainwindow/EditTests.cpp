@@ -12,7 +12,7 @@
 #include "lang/MessageCatalog.h"
 #include "ui/mainwindow/EditManDialog.h"
 #include "ui/mainwindow/FileListModel.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

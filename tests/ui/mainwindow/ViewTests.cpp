@@ -10,7 +10,7 @@
 #include "core/WindowPlacement.h"
 #include "settings/IniFile.h"
 #include "ui/mainwindow/ThumbnailCache.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

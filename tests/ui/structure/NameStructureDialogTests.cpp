@@ -16,7 +16,7 @@
 #include "ui/common/DialogBinder.h"
 #include "ui/structure/FrmNameStructure.h"
 #include "ui/structure/FrmSelNamePart.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

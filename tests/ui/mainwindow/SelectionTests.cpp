@@ -7,7 +7,7 @@
 
 #include "core/FileEntry.h"
 #include "support/TempFolder.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

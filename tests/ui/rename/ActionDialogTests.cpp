@@ -9,11 +9,11 @@
 #include <QTest>
 
 #include "settings/IniFile.h"
-#include "ui/rename/ActionWindows.h"
 #include "ui/common/DialogBinder.h"
+#include "ui/rename/ActionWindows.h"
 #include "ui/rename/FrmPrefixSuffix.h"
 #include "ui/script/FrmScript.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

@@ -23,7 +23,7 @@
 #include "ui/fileops/FileOperationProgress.h"
 #include "ui/fileops/FrmSelAction.h"
 #include "ui/fileops/PropertiesDialog.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

@@ -9,7 +9,7 @@
 #include "settings/IniFile.h"
 #include "ui/open/FrmOpen.h"
 #include "ui/open/SystemOpenDialog.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

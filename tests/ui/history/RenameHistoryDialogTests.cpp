@@ -14,9 +14,9 @@
 #include "platform/posix/PosixFileSystem.h"
 #include "support/ProtocolFiles.h"
 #include "support/TempFolder.h"
-#include "ui/history/FrmHistory.h"
 #include "ui/common/QtFrontEnd.h"
-#include "ui/WindowFixture.h"
+#include "ui/history/FrmHistory.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

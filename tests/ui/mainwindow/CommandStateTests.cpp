@@ -7,7 +7,7 @@
 
 #include "core/CommandState.h"
 #include "core/FileEntry.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

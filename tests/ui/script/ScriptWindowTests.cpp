@@ -11,7 +11,7 @@
 #include <filesystem>
 
 #include "settings/IniFile.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

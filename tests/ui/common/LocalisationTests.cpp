@@ -9,9 +9,9 @@
 
 #include "lang/MessageCatalog.h"
 #include "support/TempFolder.h"
-#include "ui/mainwindow/FileListModel.h"
 #include "ui/common/QtLocalisation.h"
-#include "ui/WindowFixture.h"
+#include "ui/mainwindow/FileListModel.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 #include <QAction>
 #include <QApplication>

@@ -6,7 +6,7 @@
 #include "core/FileEntry.h"
 #include "support/TempFolder.h"
 #include "ui/common/QtLocalisation.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

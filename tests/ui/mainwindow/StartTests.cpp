@@ -7,7 +7,7 @@
 #include <QTableView>
 
 #include "core/WindowPlacement.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

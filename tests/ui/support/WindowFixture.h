@@ -15,7 +15,7 @@
 #include "platform/posix/PosixFileSystem.h"
 #include "support/TempFolder.h"
 #include "ui/mainwindow/MainWindow.h"
-#include "ui/ModalWatcher.h"
+#include "ui/support/ModalWatcher.h"
 
 class QAction;
 class QAbstractItemModel;

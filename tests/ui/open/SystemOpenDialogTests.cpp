@@ -12,7 +12,7 @@
 #include "open/FilterList.h"
 #include "support/TempFolder.h"
 #include "ui/open/SystemOpenDialog.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

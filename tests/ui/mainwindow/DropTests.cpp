@@ -7,7 +7,7 @@
 
 #include "core/FileEntry.h"
 #include "ui/mainwindow/FileListModel.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

@@ -5,7 +5,7 @@
 #include "core/FileEntry.h"
 #include "settings/IniFile.h"
 #include "support/TempFolder.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

@@ -3,7 +3,7 @@
 #include <QAction>
 
 #include "core/FileEntry.h"
-#include "ui/WindowFixture.h"
+#include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/ModalWatcher.h"
+#include "ui/support/ModalWatcher.h"
 
 #include <QAbstractButton>
 #include <QApplication>
