@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QWidget>
 
+#include "ui/common/FormNames.h"
 #include "ui/common/QtLocalisation.h"
 
 namespace nomra::ui {
@@ -17,7 +18,7 @@ void LocaliseDialog(QWidget& dialog, const lang::MessageCatalog& catalog, const 
       const auto* action = mainWindow->findChild<QAction*>(QString::fromUtf8(name.data(), static_cast<int>(name.size())));
       return action == nullptr ? std::string() : action->text().toStdString();
     };
-    if (const auto* scope = mainWindow->findChild<QComboBox*>("lstApplyTo")) {
+    if (const auto* scope = mainWindow->findChild<QComboBox*>(kApplyScopeListName)) {
       sources.applyScopeText = scope->currentText().toStdString();
     }
   }

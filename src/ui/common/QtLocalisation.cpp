@@ -170,7 +170,7 @@ class WidgetForm final : public lang::LocalisableForm {
       controls.push_back(std::make_unique<WidgetControl>(*widget));
     }
     for (QAction* action : form_.findChildren<QAction*>()) {
-      if (action->objectName().startsWith(QLatin1String("mnu"))) controls.push_back(std::make_unique<ActionControl>(*action));
+      if (action->objectName().startsWith(QLatin1String(kMenuEntryPrefix))) controls.push_back(std::make_unique<ActionControl>(*action));
     }
     for (auto& control : controls) visit(*control);
   }
@@ -187,6 +187,10 @@ QString ControlName(const QObject& object) {
   const QString name = object.objectName();
   const int bracket = name.indexOf(QLatin1Char('('));
   return bracket > 0 && name.endsWith(QLatin1Char(')')) ? name.left(bracket) : name;
+}
+
+QString ControlArrayMember(const QString& array, int index) {
+  return array + QLatin1Char('(') + QString::number(index) + QLatin1Char(')');
 }
 
 void LocaliseWidget(QWidget& form, const QString& section, const lang::MessageCatalog& catalog,

@@ -17,9 +17,14 @@ inline constexpr char kStyleProperty[] = "buttonStyle";
 inline constexpr char kTabKeysProperty[] = "tabKeys";
 inline constexpr char kHeaderTagsProperty[] = "headerTags";
 
+// Menu entries are the actions whose names begin with this.
+inline constexpr char kMenuEntryPrefix[] = "mnu";
+
 // A control array's member is named "opt1(2)"; its name for the language
 // file is "opt1".
 QString ControlName(const QObject& object);
+// The name of member `index` of a control array: "opt1(2)".
+QString ControlArrayMember(const QString& array, int index);
 
 // Puts the language's texts on a dialog or window: every widget and every
 // menu entry with an object name takes part, by the engine's rules.

@@ -21,6 +21,8 @@ namespace nomra::ui {
 
 namespace {
 
+constexpr char kTargetPathName[] = "txtTargetPath";
+
 QGroupBox* BuildFrameCopy(QWidget& dialog) {
   auto* frame = new QGroupBox("Which files get the new names?", &dialog);
   frame->setObjectName("frameCopy");
@@ -52,7 +54,7 @@ FrmSelAction::FrmSelAction(const QString& tag, MainModel& model, const lang::Mes
   auto* label = new QLabel("Target folder:", this);
   label->setObjectName("lblTargetDir");
   targetPath_ = new QLineEdit(this);
-  targetPath_->setObjectName("txtTargetPath");
+  targetPath_->setObjectName(kTargetPathName);
   label->setBuddy(targetPath_);
   auto* browse = new QPushButton("...", this);
   browse->setObjectName("cmdSelPath");
@@ -81,7 +83,7 @@ FrmSelAction::FrmSelAction(const QString& tag, MainModel& model, const lang::Mes
 }
 
 void FrmSelAction::OnTargetPathEdited(const QString& text) {
-  engine_.Model().SetText("txtTargetPath", text.toStdString());
+  engine_.Model().SetText(kTargetPathName, text.toStdString());
   engine_.txtTargetPath_Change(model_.fileSystem);
   ok_->setEnabled(engine_.OkEnabled());
 }

@@ -30,6 +30,7 @@
 #include "settings/SettingsKeys.h"
 #include "lang/LanguageKeys.h"
 #include "ui/common/ButtonIcons.h"
+#include "ui/common/FormNames.h"
 #include "ui/common/QtLocalisation.h"
 #include "ui/mainwindow/FileListModel.h"
 #include "ui/mainwindow/IconCellDelegate.h"
@@ -41,21 +42,21 @@ namespace nomra::ui {
 
 namespace {
 
-constexpr char kFrmMain[] = "FrmMain";
-
 // The controls the refresh switches off before it decides what to switch on.
 const QStringList& ManagedMenuNames() {
-  static const QStringList names = {"mnuDelList", "mnuEdit",     "mnuFindDuplications", "mnuSpecial",
-                                    "mnuRejectChanges", "mnuRename", "mnuScript", "mnuTakeChanges", "mnuUndo"};
+  static const QStringList names = {kDelListMenu,        kEditMenu,   kFindDuplicatesEntry, kSpecialMenu,
+                                    kRejectChangesEntry, kRenameMenu, kScriptMenu,          kTakeChangesMenu,
+                                    kUndoEntry};
   return names;
 }
 
 // Commands whose dialogs come with later work: visible, never enabled, never faked.
 const QStringList& CommandsNotYetBuilt() {
-  static const QStringList names = {
-      "mnuNewNamesFromFile", "mnuFileList",    "mnuMP3List",          "mnuEXIFList",    "mnuID3Data",
-      "mnuID3Data1",         "mnuID3Data2",    "mnuFileAttributes",   "mnuFindDuplications", "mnuSyncFolders",
-      "mnuUpdate",           "mnuHelpContent", "mnuImgPreview",       "mnuShowAssistant", "BtnBarMain/ImgPreview"};
+  static const QStringList names = {kNewNamesFromFileEntry, kFileListEntry,       kMp3ListEntry,
+                                    kExifListEntry,         kId3Entry,            kId3PopupEntry,
+                                    kId3AllPopupEntry,      kFileAttributesEntry, kFindDuplicatesEntry,
+                                    kSyncFoldersEntry,      kUpdateEntry,         kHelpContentEntry,
+                                    kImgPreviewEntry,       kShowAssistantEntry,  ToolName(kMainBar, kImgPreviewKey)};
   return names;
 }
 
@@ -71,16 +72,15 @@ MainWindow::MainWindow(Services services, QWidget* parent)
       appTitle_(services.appTitle),
       version_(services.version) {
   RegisterOwnPictures();
-  setObjectName("frmMain");
+  setObjectName(kMainWindowName);
   setWindowTitle(appTitle_);
   setWindowIcon(QIcon(":/icons/nomra.svg"));
   setAcceptDrops(true);
   for (const QString& name : CommandsNotYetBuilt()) notYetBuilt_.insert(name);
   for (int stepType = 1; stepType <= kActionMenuEntries; ++stepType) {
     if (HasActionWindow(stepType)) continue;
-    const QString number = QString("%1").arg(stepType, 2, 10, QLatin1Char('0'));
-    notYetBuilt_.insert("mnuRename" + number);
-    notYetBuilt_.insert("BtnBarMain/Rename" + number);
+    notYetBuilt_.insert(RenameMenuEntry(stepType));
+    notYetBuilt_.insert(ToolName(kMainBar, RenameToolKey(stepType)));
   }
   model_.committer = &committer_;
   frontEnd_.SetParentWindow(this);
@@ -125,7 +125,7 @@ void MainWindow::UseLanguage(const std::string& languageFile) {
   // The drop-down buttons go back to their base tips, so that a language
   // without a tip of its own doesn't take the variant in as part of the base.
   for (auto it = baseToolTips_.constBegin(); it != baseToolTips_.constEnd(); ++it) {
-    ToolAction("BtnBarMain", it.key())->setToolTip(it.value());
+    ToolAction(kMainBar, it.key())->setToolTip(it.value());
   }
   LocaliseWidget(*this, QString(), catalog_, lang::CaptionSources{});
   setLngalt();
@@ -136,42 +136,39 @@ void MainWindow::UseLanguage(const std::string& languageFile) {
 // Texts the localisation can't put by name: column heads, status texts, the
 // scope list, sort and size entries, and the tool tips of the variants.
 void MainWindow::setLngalt() {
-  for (int i = 0; i < 11; ++i) {
+  for (int i = 0; i < static_cast<int>(model_.statusTexts.size()); ++i) {
     model_.statusTexts[i] = catalog_.GetText(lang::kMessagesSection, QString("MsgStat%1").arg(i, 2, 10, QChar('0')).toStdString());
   }
   static const char* kDesignHeads[] = {"Picture", "Path", "Old name", "New name", "Created", "Modified", "EXIF date", "Size"};
   QStringList heads;
   for (int column = 0; column < FileListModel::kShownColumns; ++column) {
-    const std::string text = catalog_.GetText(kFrmMain, "lstColHead0" + std::to_string(column));
+    const std::string text = catalog_.GetText(kMainWindowName, "lstColHead0" + std::to_string(column));
     heads << (text.empty() ? QString(kDesignHeads[column]) : QString::fromStdString(text));
   }
   listModel_->SetHeaderTexts(heads);
-  for (int i = 0; i < 3; ++i) {
-    if (auto* caption = findChild<QLabel*>(QString("lblDetail%1").arg(i + 1))) caption->setText(heads[i + 1] + ':');
-  }
+  for (int i = 0; i < kDetailFields; ++i) detailCaptions_[i]->setText(heads[i + 1] + ':');
 
   const int scope = applyTo_->currentIndex();
   applyTo_->clear();
-  for (const char* name : {"mnuDelList1", "mnuDelList2", "mnuDelList3"}) {
-    applyTo_->addItem(MenuAction(name)->text().remove('&'));
-  }
+  // The scope is one of the first three removals: all, selected or unselected files.
+  for (int entry = 1; entry <= 3; ++entry) applyTo_->addItem(MenuAction(MenuEntryOf(EntryKey(kDelListKey, entry)))->text().remove('&'));
   applyTo_->setCurrentIndex(scope < 0 ? model_.applyScope : scope);
 
-  std::string ascending = catalog_.GetText(kFrmMain, "mnuViewSortingAsc");
-  std::string descending = catalog_.GetText(kFrmMain, "mnuViewSortingDesc");
+  std::string ascending = catalog_.GetText(kMainWindowName, "mnuViewSortingAsc");
+  std::string descending = catalog_.GetText(kMainWindowName, "mnuViewSortingDesc");
   if (ascending.empty()) ascending = "(ascending)";
   if (descending.empty()) descending = "(descending)";
-  for (int entry = 1; entry <= 14; ++entry) {
+  for (int entry = 1; entry <= kSortEntries; ++entry) {
     const QString head = heads[(entry + 1) / 2];
     const std::string& direction = entry % 2 == 1 ? ascending : descending;
-    MenuAction(QString("mnuViewSortingSorted(%1)").arg(entry))->setText(head + ' ' + QString::fromStdString(direction));
+    MenuAction(ControlArrayMember(kSortFamily, entry))->setText(head + ' ' + QString::fromStdString(direction));
   }
-  for (int entry = 1; entry <= 7; ++entry) MenuAction(QString("mnuViewPre(%1)").arg(entry))->setText(heads[entry]);
+  for (int entry = 1; entry <= kColumnEntries; ++entry) MenuAction(ControlArrayMember(kColumnFamily, entry))->setText(heads[entry]);
 
   // Picture sizes: an entry exists for each numbered key with a text.
   QStringList sizes;
   for (int entry = 1;; ++entry) {
-    const std::string text = catalog_.GetText(kFrmMain, "mnuViewIconSize" + std::to_string(entry));
+    const std::string text = catalog_.GetText(kMainWindowName, kIconSizeFamily + std::to_string(entry));
     if (text.empty()) break;
     sizes << QString::fromStdString(text);
   }
@@ -181,7 +178,7 @@ void MainWindow::setLngalt() {
   auto* group = new QActionGroup(iconSizeMenu_);
   for (int entry = 1; entry <= sizes.size(); ++entry) {
     QAction* action = iconSizeMenu_->addAction(sizes[entry - 1]);
-    const QString name = QString("mnuViewIconSize(%1)").arg(entry);
+    const QString name = ControlArrayMember(kIconSizeFamily, entry);
     action->setObjectName(name);
     action->setCheckable(true);
     action->setChecked(entry == iconSizeEntry_);
@@ -191,8 +188,8 @@ void MainWindow::setLngalt() {
   }
   if (iconSizeEntry_ > sizes.size()) iconSizeEntry_ = 1;
 
-  for (const QString& key : {QString("OpenFile"), QString("DelList"), QString("TakeChanges")}) {
-    baseToolTips_.insert(key, ToolAction("BtnBarMain", key)->toolTip());
+  for (const char* key : {kOpenFileKey, kDelListKey, kTakeChangesKey}) {
+    baseToolTips_.insert(key, ToolAction(kMainBar, key)->toolTip());
   }
   UpdateToolTips();
 }
@@ -206,7 +203,7 @@ int MainWindow::IconSize() const {
 // variant's text is a menu caption, whose shortcut marks a tip doesn't show.
 void MainWindow::UpdateToolTips() {
   for (auto it = baseToolTips_.constBegin(); it != baseToolTips_.constEnd(); ++it) {
-    QAction* button = ToolAction("BtnBarMain", it.key());
+    QAction* button = ToolAction(kMainBar, it.key());
     const QList<QAction*> entries = button->menu()->actions();
     // No variant chosen yet acts as the first one, so the tip names that.
     QString variant = variants_.value(it.key());
@@ -222,42 +219,45 @@ void MainWindow::UpdateToolTips() {
 }
 
 void MainWindow::LoadSettingsIntoWindow() {
-  MenuAction("mnuShowBtnBarMain")->setChecked(settings_.btnbarMain == 1);
-  MenuAction("mnuShowBtnBarScript")->setChecked(settings_.btnbarScript == 1);
+  MenuAction(kShowMainBarEntry)->setChecked(settings_.btnbarMain == 1);
+  MenuAction(kShowScriptBarEntry)->setChecked(settings_.btnbarScript == 1);
   mainBar_->setVisible(settings_.btnbarMain == 1);
   scriptBar_->setVisible(settings_.btnbarScript == 1);
 
   const double dpi = logicalDpiX();
-  for (int head = 1; head <= 8; ++head) {
+  for (int head = 1; head <= kColumnHeadCount; ++head) {
     long width = ColumnWidthToApply(head, settings_.columnWidths[head - 1]);
     // A date column without a stored width shows the whole date at any font size.
-    if (settings_.columnWidths[head - 1] < 0 && (head == 5 || head == 6)) {
+    const bool date = head - 1 == kColCreated || head - 1 == kColModified;
+    if (settings_.columnWidths[head - 1] < 0 && date) {
       width = std::max<long>(width, PixelsToTwips(fontMetrics().horizontalAdvance("0000-00-00 00:00:00") + 16, dpi));
     }
     if (width >= 0) details_->setColumnWidth(head - 1, TwipsToPixels(static_cast<int>(width), dpi));
     if (width == 0) details_->setColumnHidden(head - 1, true);
   }
   const auto checks = ColumnMenuChecks(settings_.columnWidths);
-  for (int entry = 1; entry <= 7; ++entry) MenuAction(QString("mnuViewPre(%1)").arg(entry))->setChecked(checks[entry - 1]);
+  for (int entry = 1; entry <= kColumnEntries; ++entry) {
+    MenuAction(ControlArrayMember(kColumnFamily, entry))->setChecked(checks[entry - 1]);
+  }
 
   if (settings_.previewSortKey >= 0) model_.list.sortKey = static_cast<int>(settings_.previewSortKey);
   if (settings_.previewSortOrder >= 0) model_.list.sortOrder = static_cast<int>(settings_.previewSortOrder);
 
   iconSizeEntry_ = settings_.previewImageSize > 0 ? static_cast<int>(settings_.previewImageSize) : 1;
-  if (settings_.previewStyle == "DetailsIcons") {
+  if (settings_.previewStyle == kDetailsIconsStyle) {
     view_ = ListView::DetailsIcons;
-  } else if (settings_.previewStyle == "Icons") {
+  } else if (settings_.previewStyle == kIconsStyle) {
     view_ = ListView::Icons;
   } else {
     view_ = ListView::Details;
   }
-  MenuAction("mnuGridLines")->setChecked(settings_.previewGridLines);
+  MenuAction(kGridLinesEntry)->setChecked(settings_.previewGridLines);
   details_->setShowGrid(settings_.previewGridLines);
 
-  variants_.insert("OpenFile", QString::fromStdString(OpenFileTagFromStyle(settings_.dialogueStyle)));
-  variants_.insert("TakeChanges", QString::fromStdString(TakeChangesTagFromStyle(settings_.renameStyle)));
-  variants_.insert("DelList", QString());
-  MenuAction("mnuShowSplash")->setChecked(settings_.splash != 0);
+  variants_.insert(kOpenFileKey, QString::fromStdString(OpenFileTagFromStyle(settings_.dialogueStyle)));
+  variants_.insert(kTakeChangesKey, QString::fromStdString(TakeChangesTagFromStyle(settings_.renameStyle)));
+  variants_.insert(kDelListKey, QString());
+  MenuAction(kShowSplashEntry)->setChecked(settings_.splash != 0);
 
   ApplyWindowPlacement();
 }
@@ -281,13 +281,13 @@ void MainWindow::ApplyWindowPlacement() {
 }
 
 void MainWindow::ApplyExpertMode() {
-  for (const char* name : {"mnuDeleteFiles1", "mnuDeleteFiles2", "mnuFileAttributes"}) {
+  for (const char* name : {kDeleteToTrashEntry, kDeleteEntry, kFileAttributesEntry}) {
     MenuAction(name)->setEnabled(model_.expertMode && !notYetBuilt_.contains(name));
   }
 }
 
 void MainWindow::RefreshPreview() {
-  const std::string refreshing = catalog_.GetText(kFrmMain, "RefreshPreview");
+  const std::string refreshing = catalog_.GetText(kMainWindowName, "RefreshPreview");
   if (!refreshing.empty()) status_->setText(QString::fromStdString(refreshing));
   model_.iconView = view_ == ListView::Icons;
   refreshPreview(model_);
@@ -310,8 +310,8 @@ void MainWindow::RefreshPreview() {
   const QSize cell(std::max(IconSize() + 48, 104), IconSize() + 3 * fontMetrics().height() + 10);
   icons_->setGridSize(cell);
   iconCells_->SetCellSize(cell - QSize(6, 6));
-  MenuAction(view_ == ListView::Details ? "mnuViewDetails"
-             : view_ == ListView::DetailsIcons ? "mnuViewDetailsIcons" : "mnuViewIcons")->setChecked(true);
+  MenuAction(view_ == ListView::Details ? kViewDetailsEntry
+             : view_ == ListView::DetailsIcons ? kViewDetailsIconsEntry : kViewIconsEntry)->setChecked(true);
 
   listModel_->Reload();
   RestoreSelection();
@@ -333,19 +333,21 @@ void MainWindow::ApplyCommandStates() {
   for (const std::string& key : MainToolBarKeys()) {
     if (key.empty()) continue;
     const QString name = QString::fromStdString(key);
-    ToolAction("BtnBarMain", name)->setEnabled(state.IsEnabled(key) && allowed("BtnBarMain/" + name));
+    ToolAction(kMainBar, name)->setEnabled(state.IsEnabled(key) && allowed(ToolName(kMainBar, name)));
   }
-  for (const char* key : {"RunSelectedScript", "StartRecordScript", "StartRunScript"}) {
-    ToolAction("btnbarScript", key)->setEnabled(state.IsEnabled(key) && allowed(QString("btnbarScript/") + key));
+  for (const char* key : {kRunSelectedKey, kStartRecordKey, kStartRunKey}) {
+    ToolAction(kScriptBar, key)->setEnabled(state.IsEnabled(key) && allowed(ToolName(kScriptBar, key)));
   }
   const bool recording = model_.script.recording != 0;
-  ToolAction("btnbarScript", "StopRecordScript")->setEnabled(recording);
-  MenuAction("mnuStartRecordScript")->setEnabled(!recording);
-  MenuAction("mnuStopRecordScript")->setEnabled(recording);
-  applyTo_->setEnabled(state.IsEnabled("lstApplyTo"));
-  ToolAction("btnBarLeft", "CancelAction")->setEnabled(loading_);
-  for (QAction* button : {ToolAction("BtnBarMain", "OpenFile"), ToolAction("BtnBarMain", "TakeChanges")}) {
-    for (QAction* entry : button->menu()->actions()) entry->setEnabled(allowed("BtnBarMain/" + entry->property(kKeyProperty).toString()));
+  ToolAction(kScriptBar, kStopRecordKey)->setEnabled(recording);
+  MenuAction(kStartRecordEntry)->setEnabled(!recording);
+  MenuAction(kStopRecordEntry)->setEnabled(recording);
+  applyTo_->setEnabled(state.IsEnabled(kApplyScopeListName));
+  ToolAction(kLeftBar, kCancelActionKey)->setEnabled(loading_);
+  for (QAction* button : {ToolAction(kMainBar, kOpenFileKey), ToolAction(kMainBar, kTakeChangesKey)}) {
+    for (QAction* entry : button->menu()->actions()) {
+      entry->setEnabled(allowed(ToolName(kMainBar, entry->property(kKeyProperty).toString())));
+    }
   }
   ApplyExpertMode();
 }
@@ -353,15 +355,16 @@ void MainWindow::ApplyCommandStates() {
 void MainWindow::UpdateSortIndicators() {
   QHeaderView* header = details_->horizontalHeader();
   const int column = model_.list.sortKey;
-  if (column >= 1 && column <= 7) {
+  // The heads after the first show an arrow; the first has no order.
+  if (column >= kColPath && column <= kColSize) {
     header->setSortIndicatorShown(true);
     header->setSortIndicator(column, model_.list.sortOrder == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
   } else {
     header->setSortIndicatorShown(false);
   }
   const int checked = CheckedSortMenuEntry(model_);
-  for (int entry = 1; entry <= 14; ++entry) MenuAction(QString("mnuViewSortingSorted(%1)").arg(entry))->setChecked(entry == checked);
-  MenuAction("mnuViewSortingUnsorted")->setChecked(checked == 0);
+  for (int entry = 1; entry <= kSortEntries; ++entry) MenuAction(ControlArrayMember(kSortFamily, entry))->setChecked(entry == checked);
+  MenuAction(kUnsortedEntry)->setChecked(checked == 0);
 }
 
 void MainWindow::RestoreSelection() {
@@ -407,13 +410,15 @@ void MainWindow::SelectionHandler() {
     detailFields_[1]->setText(QString::fromStdString(row[kColOldName]));
     detailFields_[2]->setText(QString::fromStdString(row[kColNewName]));
     const bool mp3 = QFileInfo(QString::fromStdString(row.key)).suffix().compare("mp3", Qt::CaseInsensitive) == 0;
-    for (const char* name : {"mnuID3Data", "mnuID3Data1"}) MenuAction(name)->setEnabled(mp3 && !notYetBuilt_.contains(name));
+    for (const char* name : {kId3Entry, kId3PopupEntry}) MenuAction(name)->setEnabled(mp3 && !notYetBuilt_.contains(name));
   }
   const bool hasRow = !detailFields_[0]->text().isEmpty();
-  ToolAction("btnBarLeft", "EditMan")->setEnabled(hasRow && !loading_);
-  ToolAction("btnBarLeft", "DelList")->setEnabled(hasRow && !loading_);
-  ToolAction("btnBarLeft", "Properties")->setEnabled(hasRow && !notYetBuilt_.contains("btnBarLeft/Properties"));
-  for (const char* name : {"mnuEditMan", "mnuCopyName1", "mnuCopyName2", "mnuCopyLink"}) MenuAction(name)->setEnabled(hasRow);
+  ToolAction(kLeftBar, kEditManKey)->setEnabled(hasRow && !loading_);
+  ToolAction(kLeftBar, kDelListKey)->setEnabled(hasRow && !loading_);
+  ToolAction(kLeftBar, kPropertiesKey)->setEnabled(hasRow && !notYetBuilt_.contains(ToolName(kLeftBar, kPropertiesKey)));
+  for (const char* name : {kEditManEntry, kCopyOldNameEntry, kCopyNewNameEntry, kCopyPathEntry}) {
+    MenuAction(name)->setEnabled(hasRow);
+  }
   picture_->clear();
   if (hasRow) {
     const QString path = QString::fromStdString(model_.list.Item(position).key);
@@ -456,18 +461,18 @@ void MainWindow::SetBusyLoading(bool loading) {
   mainBar_->setEnabled(!loading);
   scriptBar_->setEnabled(!loading);
   views_->setEnabled(!loading);
-  applyTo_->setEnabled(!loading && model_.commands.IsEnabled("lstApplyTo"));
+  applyTo_->setEnabled(!loading && model_.commands.IsEnabled(kApplyScopeListName));
   for (QAction* action : leftBar_->actions()) {
-    if (action->property(kKeyProperty).toString() != "CancelAction") action->setEnabled(!loading);
+    if (action->property(kKeyProperty).toString() != QLatin1String(kCancelActionKey)) action->setEnabled(!loading);
   }
-  ToolAction("btnBarLeft", "CancelAction")->setEnabled(loading);
+  ToolAction(kLeftBar, kCancelActionKey)->setEnabled(loading);
 }
 
 void MainWindow::CancelAction() { model_.cancelLoading = true; }
 
 void MainWindow::ShowAtStart() {
   show();
-  if (MenuAction("mnuShowSplash")->isChecked()) {
+  if (MenuAction(kShowSplashEntry)->isChecked()) {
     StartWindow start(catalog_, appTitle_, version_, this);
     start.exec();
   }

@@ -17,6 +17,7 @@
 #include "lang/MessageCatalog.h"
 #include "platform/FileSystem.h"
 #include "ui/common/QtFrontEnd.h"
+#include "ui/mainwindow/MainWindowNames.h"
 #include "ui/rename/ActionDialogWindow.h"
 
 class QAbstractItemView;
@@ -221,7 +222,8 @@ class MainWindow final : public QMainWindow {
   QLabel* status_ = nullptr;
   QLabel* selectedScript_ = nullptr;
   QLabel* picture_ = nullptr;
-  QLabel* detailFields_[3] = {nullptr, nullptr, nullptr};
+  QLabel* detailCaptions_[kDetailFields] = {};  // lblDetail1 to lblDetail3
+  QLabel* detailFields_[kDetailFields] = {};    // lbl2(1) to lbl2(3)
   QToolBar* mainBar_ = nullptr;
   QToolBar* leftBar_ = nullptr;
   QToolBar* scriptBar_ = nullptr;

@@ -16,58 +16,55 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <iterator>
 
 #include "core/CommandState.h"
 #include "ui/common/ButtonIcons.h"
+#include "ui/common/FormNames.h"
 #include "ui/common/QtLocalisation.h"
 #include "ui/mainwindow/FileListModel.h"
 #include "ui/mainwindow/IconCellDelegate.h"
 #include "ui/mainwindow/MainWindow.h"
 #include "ui/mainwindow/ThumbnailCache.h"
+#include "ui/rename/ActionWindows.h"
 
 namespace nomra::ui {
 
 namespace {
 
-struct DesignEntry {
-  const char* name;
-  const char* text;
+// The design captions of the rename commands mnuRename01 to mnuRename10, in
+// menu order.
+constexpr const char* kRenameTexts[] = {
+    "&Numbering...",        "&Renumbering...",        "File &extension...", "Upper and &lower case...",
+    "&Prefix and suffix...", "Replace and re&move...", "&Insert...",         "Mo&ve part of name...",
+    "&Date and time...",    "&Trim...",
 };
+static_assert(std::size(kRenameTexts) == kActionMenuEntries);
 
-// The design captions of the rename commands, in menu order.
-constexpr DesignEntry kRenameEntries[] = {
-    {"mnuRename01", "&Numbering..."},        {"mnuRename02", "&Renumbering..."},
-    {"mnuRename03", "File &extension..."},   {"mnuRename04", "Upper and &lower case..."},
-    {"mnuRename05", "&Prefix and suffix..."}, {"mnuRename06", "Replace and re&move..."},
-    {"mnuRename07", "&Insert..."},           {"mnuRename08", "Mo&ve part of name..."},
-    {"mnuRename09", "&Date and time..."},    {"mnuRename10", "&Trim..."},
-    {"mnuRenameStructure", "Name &structure..."},
+// The design captions of mnuDelList1 to mnuDelList5, which the entries of the
+// button DelList show too.
+constexpr const char* kDelListTexts[] = {
+    "&All files", "&Selected files", "&Unselected files", "Files &with pending changes",
+    "Files with&out pending changes",
 };
-
-constexpr DesignEntry kDelListEntries[] = {
-    {"mnuDelList1", "&All files"},
-    {"mnuDelList2", "&Selected files"},
-    {"mnuDelList3", "&Unselected files"},
-    {"mnuDelList4", "Files &with pending changes"},
-    {"mnuDelList5", "Files with&out pending changes"},
-};
+static_assert(std::size(kDelListTexts) == kDelListEntries);
 
 // Tool tips of the main bar before any language file speaks.
 QString DesignToolTip(const QString& key) {
   static const QHash<QString, QString> tips = {
-      {"OpenFile", "Open files"},          {"DelList", "Remove from list"},
-      {"TakeChanges", "Take changes"},     {"RejectChanges", "Reject changes"},
-      {"Undo", "Undo"},                    {"Rename01", "Numbering"},
-      {"Rename02", "Renumbering"},         {"Rename03", "File extension"},
-      {"Rename04", "Upper and lower case"}, {"Rename05", "Prefix and suffix"},
-      {"Rename06", "Replace and remove"},  {"Rename07", "Insert"},
-      {"Rename08", "Move part of name"},   {"Rename09", "Date and time"},
-      {"Rename10", "Trim"},                {"Rename99", "Name structure"},
-      {"ImgPreview", "Image preview"},     {"Options", "Options"},
-      {"EditMan", "Edit name"},            {"Properties", "Properties"},
-      {"CancelAction", "Cancel"},          {"StartRecordScript", "Record script"},
-      {"StopRecordScript", "Stop recording"}, {"StartRunScript", "Run script"},
-      {"RunSelectedScript", "Run selected script"},
+      {kOpenFileKey, "Open files"},          {kDelListKey, "Remove from list"},
+      {kTakeChangesKey, "Take changes"},     {kRejectChangesKey, "Reject changes"},
+      {kUndoKey, "Undo"},                    {"Rename01", "Numbering"},
+      {"Rename02", "Renumbering"},           {"Rename03", "File extension"},
+      {"Rename04", "Upper and lower case"},  {"Rename05", "Prefix and suffix"},
+      {"Rename06", "Replace and remove"},    {"Rename07", "Insert"},
+      {"Rename08", "Move part of name"},     {"Rename09", "Date and time"},
+      {"Rename10", "Trim"},                  {kNameStructureKey, "Name structure"},
+      {kImgPreviewKey, "Image preview"},     {kOptionsKey, "Options"},
+      {kEditManKey, "Edit name"},            {kPropertiesKey, "Properties"},
+      {kCancelActionKey, "Cancel"},          {kStartRecordKey, "Record script"},
+      {kStopRecordKey, "Stop recording"},    {kStartRunKey, "Run script"},
+      {kRunSelectedKey, "Run selected script"},
   };
   return tips.value(key, key);
 }
@@ -98,12 +95,12 @@ QAction* MainWindow::AddToolButton(QToolBar& bar, const QString& key, const QStr
   action->setProperty(kStyleProperty, lang::kButtonStyleDefault);
   action->setToolTip(designTip);
   bar.addAction(action);
-  toolActions_.insert(bar.objectName() + QLatin1Char('/') + key, action);
+  toolActions_.insert(ToolName(bar.objectName(), key), action);
   return action;
 }
 
 QAction* MainWindow::ToolAction(const QString& bar, const QString& key) const {
-  return toolActions_.value(bar + QLatin1Char('/') + key);
+  return toolActions_.value(ToolName(bar, key));
 }
 
 void MainWindow::BuildMenus() {
@@ -117,123 +114,126 @@ void MainWindow::BuildMenus() {
   };
 
   QMenu* file = topMenu("mnuFile", "&File");
-  AddMenuAction(*file, "mnuOpenFile", "&Open files...", QKeySequence::Open);
-  AddMenuAction(*file, "mnuOpenFromList", "Open from &playlist...");
+  AddMenuAction(*file, kOpenFileEntry, "&Open files...", QKeySequence::Open);
+  AddMenuAction(*file, kOpenFromListEntry, "Open from &playlist...");
   file->addSeparator();
-  QMenu* take = AddSubMenu(*file, "mnuTakeChanges", "&Take changes");
-  AddMenuAction(*take, "mnuTakeChanges1", "&Take changes", QKeySequence(Qt::CTRL | Qt::Key_Return));
-  AddMenuAction(*take, "mnuTakeChanges2", "Take changes and &copy or move files...");
-  AddMenuAction(*file, "mnuRejectChanges", "&Reject changes", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
-  AddMenuAction(*file, "mnuHistory", "Rename &history...");
+  QMenu* take = AddSubMenu(*file, kTakeChangesMenu, "&Take changes");
+  AddMenuAction(*take, MenuEntryOf(EntryKey(kTakeChangesKey, 1)), "&Take changes", QKeySequence(Qt::CTRL | Qt::Key_Return));
+  AddMenuAction(*take, MenuEntryOf(EntryKey(kTakeChangesKey, 2)), "Take changes and &copy or move files...");
+  AddMenuAction(*file, kRejectChangesEntry, "&Reject changes", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+  AddMenuAction(*file, kHistoryEntry, "Rename &history...");
   file->addSeparator();
-  AddMenuAction(*file, "mnuEnd", "E&xit", QKeySequence::Quit);
+  AddMenuAction(*file, kEndEntry, "E&xit", QKeySequence::Quit);
 
-  QMenu* edit = topMenu("mnuEdit", "&Edit");
-  AddMenuAction(*edit, "mnuUndo", "&Undo", QKeySequence::Undo);
-  AddMenuAction(*edit, "mnuEditMan", "&Edit name...", QKeySequence(Qt::Key_F2));
+  QMenu* edit = topMenu(kEditMenu, "&Edit");
+  AddMenuAction(*edit, kUndoEntry, "&Undo", QKeySequence::Undo);
+  AddMenuAction(*edit, kEditManEntry, "&Edit name...", QKeySequence(Qt::Key_F2));
   edit->addSeparator();
-  AddMenuAction(*edit, "mnuCopyName1", "Copy &old name");
-  AddMenuAction(*edit, "mnuCopyName2", "Copy &new name", QKeySequence::Copy);
-  AddMenuAction(*edit, "mnuCopyLink", "Copy full &path", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+  AddMenuAction(*edit, kCopyOldNameEntry, "Copy &old name");
+  AddMenuAction(*edit, kCopyNewNameEntry, "Copy &new name", QKeySequence::Copy);
+  AddMenuAction(*edit, kCopyPathEntry, "Copy full &path", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
   edit->addSeparator();
-  QMenu* remove = AddSubMenu(*edit, "mnuDelList", "&Remove from list");
-  for (const DesignEntry& entry : kDelListEntries) AddMenuAction(*remove, entry.name, entry.text);
-  menuActions_.value("mnuDelList2")->setShortcut(QKeySequence::Delete);
-  edit->addSeparator();
-  AddMenuAction(*edit, "mnuCopyFiles", "&Copy files to...");
-  AddMenuAction(*edit, "mnuMoveFiles", "&Move files to...");
-  AddMenuAction(*edit, "mnuDeleteFiles1", "&Delete files");
-  AddMenuAction(*edit, "mnuDeleteFiles2", "Delete files &permanently");
-
-  QMenu* rename = topMenu("mnuRename", "&Rename");
-  int number = 1;
-  for (const DesignEntry& entry : kRenameEntries) {
-    const QKeySequence shortcut = number <= 10 ? QKeySequence(Qt::CTRL | (Qt::Key_0 + number % 10)) : QKeySequence();
-    AddMenuAction(*rename, entry.name, entry.text, shortcut);
-    ++number;
+  QMenu* remove = AddSubMenu(*edit, kDelListMenu, "&Remove from list");
+  for (int entry = 1; entry <= kDelListEntries; ++entry) {
+    AddMenuAction(*remove, MenuEntryOf(EntryKey(kDelListKey, entry)), kDelListTexts[entry - 1]);
   }
+  // The removal of the selected files, which the pop-up menu offers too.
+  QAction* removeSelected = menuActions_.value(MenuEntryOf(EntryKey(kDelListKey, 2)));
+  removeSelected->setShortcut(QKeySequence::Delete);
+  edit->addSeparator();
+  AddMenuAction(*edit, kCopyFilesEntry, "&Copy files to...");
+  AddMenuAction(*edit, kMoveFilesEntry, "&Move files to...");
+  AddMenuAction(*edit, kDeleteToTrashEntry, "&Delete files");
+  AddMenuAction(*edit, kDeleteEntry, "Delete files &permanently");
+
+  QMenu* rename = topMenu(kRenameMenu, "&Rename");
+  for (int stepType = 1; stepType <= kActionMenuEntries; ++stepType) {
+    AddMenuAction(*rename, RenameMenuEntry(stepType), kRenameTexts[stepType - 1],
+                  QKeySequence(Qt::CTRL | (Qt::Key_0 + stepType % 10)));
+  }
+  AddMenuAction(*rename, kNameStructureEntry, "Name &structure...");
   rename->addSeparator();
-  AddMenuAction(*rename, "mnuNewNamesFromFile", "New names from a &file...");
+  AddMenuAction(*rename, kNewNamesFromFileEntry, "New names from a &file...");
 
   QMenu* view = topMenu("mnuView", "&View");
   BuildViewMenu(*view);
 
-  QMenu* script = topMenu("mnuScript", "&Script");
-  AddMenuAction(*script, "mnuStartRecordScript", "&Record script");
-  AddMenuAction(*script, "mnuStopRecordScript", "&Stop recording");
-  AddMenuAction(*script, "mnuStartRunScript", "R&un script...");
-  AddMenuAction(*script, "mnuRunSelectedScript", "Run &selected script");
+  QMenu* script = topMenu(kScriptMenu, "&Script");
+  AddMenuAction(*script, kStartRecordEntry, "&Record script");
+  AddMenuAction(*script, kStopRecordEntry, "&Stop recording");
+  AddMenuAction(*script, kStartRunEntry, "R&un script...");
+  AddMenuAction(*script, kRunSelectedEntry, "Run &selected script");
 
-  QMenu* special = topMenu("mnuSpecial", "S&pecial");
-  AddMenuAction(*special, "mnuFileList", "File &list...");
-  AddMenuAction(*special, "mnuMP3List", "&MP3 list...");
-  AddMenuAction(*special, "mnuEXIFList", "&EXIF list...");
+  QMenu* special = topMenu(kSpecialMenu, "S&pecial");
+  AddMenuAction(*special, kFileListEntry, "File &list...");
+  AddMenuAction(*special, kMp3ListEntry, "&MP3 list...");
+  AddMenuAction(*special, kExifListEntry, "&EXIF list...");
   special->addSeparator();
-  AddMenuAction(*special, "mnuID3Data", "&ID3 tags...");
-  AddMenuAction(*special, "mnuFileAttributes", "File &attributes and dates...");
-  AddMenuAction(*special, "mnuFindDuplications", "Find &duplicates...");
+  AddMenuAction(*special, kId3Entry, "&ID3 tags...");
+  AddMenuAction(*special, kFileAttributesEntry, "File &attributes and dates...");
+  AddMenuAction(*special, kFindDuplicatesEntry, "Find &duplicates...");
 
   QMenu* tools = topMenu("mnuTools", "&Tools");
-  AddMenuAction(*tools, "mnuSyncFolders", "&Compare and synchronise folders...");
+  AddMenuAction(*tools, kSyncFoldersEntry, "&Compare and synchronise folders...");
   tools->addSeparator();
-  AddMenuAction(*tools, "mnuOptions", "&Options...", QKeySequence::Preferences);
-  AddMenuAction(*tools, "mnuExperts", "&Expert mode");
-  AddMenuAction(*tools, "mnuUpdate", "Check for &updates...");
+  AddMenuAction(*tools, kOptionsEntry, "&Options...", QKeySequence::Preferences);
+  AddMenuAction(*tools, kExpertsEntry, "&Expert mode");
+  AddMenuAction(*tools, kUpdateEntry, "Check for &updates...");
 
   QMenu* help = topMenu("mnuHelp", "&Help");
-  AddMenuAction(*help, "mnuHelpContent", "&Contents", QKeySequence::HelpContents);
-  AddMenuAction(*help, "mnuInfo", "&About Nomra...");
+  AddMenuAction(*help, kHelpContentEntry, "&Contents", QKeySequence::HelpContents);
+  AddMenuAction(*help, kInfoEntry, "&About Nomra...");
 
   popup_ = new QMenu(this);
   popup_->setObjectName("mnuPopup1");
-  popup_->addAction(menuActions_.value("mnuEditMan"));
+  popup_->addAction(menuActions_.value(kEditManEntry));
   popup_->addSeparator();
-  popup_->addAction(menuActions_.value("mnuCopyName1"));
-  popup_->addAction(menuActions_.value("mnuCopyName2"));
-  popup_->addAction(menuActions_.value("mnuCopyLink"));
+  popup_->addAction(menuActions_.value(kCopyOldNameEntry));
+  popup_->addAction(menuActions_.value(kCopyNewNameEntry));
+  popup_->addAction(menuActions_.value(kCopyPathEntry));
   popup_->addSeparator();
-  AddMenuAction(*popup_, "mnuID3Data1", "&ID3 tags...");
-  AddMenuAction(*popup_, "mnuID3Data2", "ID3 tags of &all files...");
+  AddMenuAction(*popup_, kId3PopupEntry, "&ID3 tags...");
+  AddMenuAction(*popup_, kId3AllPopupEntry, "ID3 tags of &all files...");
   popup_->addSeparator();
-  popup_->addAction(menuActions_.value("mnuDelList2"));
+  popup_->addAction(removeSelected);
 }
 
 void MainWindow::BuildViewMenu(QMenu& menu) {
   viewGroup_ = new QActionGroup(this);
-  for (const auto& [name, text] : {std::pair{"mnuViewDetails", "&Details"},
-                                   std::pair{"mnuViewDetailsIcons", "Details with &pictures"},
-                                   std::pair{"mnuViewIcons", "&Pictures"}}) {
+  for (const auto& [name, text] : {std::pair{kViewDetailsEntry, "&Details"},
+                                   std::pair{kViewDetailsIconsEntry, "Details with &pictures"},
+                                   std::pair{kViewIconsEntry, "&Pictures"}}) {
     QAction* action = AddMenuAction(menu, name, text);
     action->setCheckable(true);
     viewGroup_->addAction(action);
   }
   iconSizeMenu_ = AddSubMenu(menu, "mnuViewIconSizeMain", "Picture &size");
-  QMenu* columns = AddSubMenu(menu, "mnuViewPre", "&Columns");
-  for (int entry = 1; entry <= 7; ++entry) {
-    QAction* action = AddMenuAction(*columns, QString("mnuViewPre(%1)").arg(entry), QString::number(entry));
+  QMenu* columns = AddSubMenu(menu, kColumnFamily, "&Columns");
+  for (int entry = 1; entry <= kColumnEntries; ++entry) {
+    QAction* action = AddMenuAction(*columns, ControlArrayMember(kColumnFamily, entry), QString::number(entry));
     action->setCheckable(true);
     action->setChecked(true);
   }
   QMenu* sorting = AddSubMenu(menu, "mnuViewSorting", "&Sorting");
-  AddMenuAction(*sorting, "mnuViewSortingUnsorted", "&Unsorted")->setCheckable(true);
+  AddMenuAction(*sorting, kUnsortedEntry, "&Unsorted")->setCheckable(true);
   sorting->addSeparator();
-  for (int entry = 1; entry <= 14; ++entry) {
-    AddMenuAction(*sorting, QString("mnuViewSortingSorted(%1)").arg(entry), QString::number(entry))->setCheckable(true);
+  for (int entry = 1; entry <= kSortEntries; ++entry) {
+    AddMenuAction(*sorting, ControlArrayMember(kSortFamily, entry), QString::number(entry))->setCheckable(true);
   }
   menu.addSeparator();
-  AddMenuAction(menu, "mnuGridLines", "&Grid lines")->setCheckable(true);
-  AddMenuAction(menu, "mnuImgPreview", "&Image preview")->setCheckable(true);
+  AddMenuAction(menu, kGridLinesEntry, "&Grid lines")->setCheckable(true);
+  AddMenuAction(menu, kImgPreviewEntry, "&Image preview")->setCheckable(true);
   menu.addSeparator();
   QMenu* bars = AddSubMenu(menu, "mnuShowBtnBars", "&Tool bars");
-  AddMenuAction(*bars, "mnuShowBtnBarMain", "&Main tool bar")->setCheckable(true);
-  AddMenuAction(*bars, "mnuShowBtnBarScript", "&Script tool bar")->setCheckable(true);
-  AddMenuAction(menu, "mnuShowSplash", "Start &window")->setCheckable(true);
-  AddMenuAction(menu, "mnuShowAssistant", "&Assistant")->setCheckable(true);
+  AddMenuAction(*bars, kShowMainBarEntry, "&Main tool bar")->setCheckable(true);
+  AddMenuAction(*bars, kShowScriptBarEntry, "&Script tool bar")->setCheckable(true);
+  AddMenuAction(menu, kShowSplashEntry, "Start &window")->setCheckable(true);
+  AddMenuAction(menu, kShowAssistantEntry, "&Assistant")->setCheckable(true);
 }
 
 void MainWindow::BuildToolBars() {
-  mainBar_ = new QToolBar("BtnBarMain", this);
-  mainBar_->setObjectName("BtnBarMain");
+  mainBar_ = new QToolBar(kMainBar, this);
+  mainBar_->setObjectName(kMainBar);
   addToolBar(Qt::TopToolBarArea, mainBar_);
   for (const std::string& key : MainToolBarKeys()) {
     if (key.empty()) {
@@ -244,7 +244,7 @@ void MainWindow::BuildToolBars() {
     AddToolButton(*mainBar_, name, DesignToolTip(name));
   }
   auto addDropDown = [&](const QString& key, const QStringList& entries, const QStringList& designTexts) {
-    QAction* button = ToolAction("BtnBarMain", key);
+    QAction* button = ToolAction(kMainBar, key);
     button->setProperty(kStyleProperty, lang::kButtonStyleDropDown);
     auto* menu = new QMenu(this);
     for (int i = 0; i < entries.size(); ++i) {
@@ -256,28 +256,32 @@ void MainWindow::BuildToolBars() {
       tool->setPopupMode(QToolButton::MenuButtonPopup);
     }
   };
-  addDropDown("OpenFile", {"OpenFile1", "OpenFile2"}, {"System open dialog", "Open dialog with filters"});
+  addDropDown(kOpenFileKey, {EntryKey(kOpenFileKey, 1), EntryKey(kOpenFileKey, 2)},
+              {"System open dialog", "Open dialog with filters"});
   QStringList delEntries, delTexts;
-  for (int i = 0; i < 5; ++i) {
-    delEntries << QString("DelList%1").arg(i + 1);
-    delTexts << QString(kDelListEntries[i].text).remove('&');
+  for (int entry = 1; entry <= kDelListEntries; ++entry) {
+    delEntries << EntryKey(kDelListKey, entry);
+    delTexts << QString(kDelListTexts[entry - 1]).remove('&');
   }
-  addDropDown("DelList", delEntries, delTexts);
-  addDropDown("TakeChanges", {"TakeChanges1", "TakeChanges2"}, {"Take changes", "Take changes and copy or move files"});
+  addDropDown(kDelListKey, delEntries, delTexts);
+  addDropDown(kTakeChangesKey, {EntryKey(kTakeChangesKey, 1), EntryKey(kTakeChangesKey, 2)},
+              {"Take changes", "Take changes and copy or move files"});
 
-  leftBar_ = new QToolBar("btnBarLeft", this);
-  leftBar_->setObjectName("btnBarLeft");
+  leftBar_ = new QToolBar(kLeftBar, this);
+  leftBar_->setObjectName(kLeftBar);
   leftBar_->setOrientation(Qt::Vertical);
   addToolBar(Qt::LeftToolBarArea, leftBar_);
-  for (const char* key : {"EditMan", "DelList", "Properties", "CancelAction"}) AddToolButton(*leftBar_, key, DesignToolTip(key));
+  for (const char* key : {kEditManKey, kDelListKey, kPropertiesKey, kCancelActionKey}) {
+    AddToolButton(*leftBar_, key, DesignToolTip(key));
+  }
 
-  scriptBar_ = new QToolBar("btnbarScript", this);
-  scriptBar_->setObjectName("btnbarScript");
+  scriptBar_ = new QToolBar(kScriptBar, this);
+  scriptBar_->setObjectName(kScriptBar);
   addToolBar(Qt::TopToolBarArea, scriptBar_);
-  for (const char* key : {"StartRecordScript", "StopRecordScript", "StartRunScript", "RunSelectedScript"}) {
+  for (const char* key : {kStartRecordKey, kStopRecordKey, kStartRunKey, kRunSelectedKey}) {
     AddToolButton(*scriptBar_, key, DesignToolTip(key));
   }
-  QAction* runSelected = ToolAction("btnbarScript", "RunSelectedScript");
+  QAction* runSelected = ToolAction(kScriptBar, kRunSelectedKey);
   runSelected->setProperty(kStyleProperty, lang::kButtonStyleDropDown);
   runSelected->setMenu(new QMenu(this));
   auto* frame = new QFrame(scriptBar_);
@@ -299,7 +303,7 @@ void MainWindow::BuildCentral() {
   auto* scopeLabel = new QLabel("Apply actions to:", central);
   scopeLabel->setObjectName("lblApplyTo");
   applyTo_ = new QComboBox(central);
-  applyTo_->setObjectName("lstApplyTo");
+  applyTo_->setObjectName(kApplyScopeListName);
   scopeLabel->setBuddy(applyTo_);
   scopeRow->addWidget(scopeLabel);
   scopeRow->addWidget(applyTo_);
@@ -363,13 +367,13 @@ void MainWindow::BuildCentral() {
   bold.setBold(true);
   heading->setFont(bold);
   grid->addWidget(heading, 0, 0, 1, 2);
-  for (int i = 0; i < 3; ++i) {
-    auto* caption = new QLabel(detail);
-    caption->setObjectName(QString("lblDetail%1").arg(i + 1));
+  for (int i = 0; i < kDetailFields; ++i) {
+    detailCaptions_[i] = new QLabel(detail);
+    detailCaptions_[i]->setObjectName(QString("lblDetail%1").arg(i + 1));
     detailFields_[i] = new QLabel(detail);
-    detailFields_[i]->setObjectName(QString("lbl2(%1)").arg(i + 1));
+    detailFields_[i]->setObjectName(ControlArrayMember("lbl2", i + 1));
     detailFields_[i]->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    grid->addWidget(caption, i + 1, 0);
+    grid->addWidget(detailCaptions_[i], i + 1, 0);
     grid->addWidget(detailFields_[i], i + 1, 1);
   }
   grid->setColumnStretch(1, 1);

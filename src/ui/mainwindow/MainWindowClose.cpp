@@ -17,8 +17,10 @@ void MainWindow::CollectLayout() {
     const int column = head - 1;
     settings_.columnWidths[column] = details_->isColumnHidden(column) ? 0 : PixelsToTwips(details_->columnWidth(column), dpi);
   }
-  settings_.previewStyle = view_ == ListView::Details ? "Details" : view_ == ListView::DetailsIcons ? "DetailsIcons" : "Icons";
-  settings_.previewGridLines = MenuAction("mnuGridLines")->isChecked();
+  settings_.previewStyle = view_ == ListView::Details        ? kDetailsStyle
+                           : view_ == ListView::DetailsIcons ? kDetailsIconsStyle
+                                                             : kIconsStyle;
+  settings_.previewGridLines = MenuAction(kGridLinesEntry)->isChecked();
   settings_.ws = isMaximized() ? 2 : isMinimized() ? 1 : 0;
   if (settings_.ws == 0) {
     settings_.x = PixelsToTwips(x(), dpi);
@@ -26,13 +28,13 @@ void MainWindow::CollectLayout() {
     settings_.w = PixelsToTwips(width(), dpi);
     settings_.h = PixelsToTwips(height(), dpi);
   }
-  settings_.splash = MenuAction("mnuShowSplash")->isChecked() ? 1 : 0;
-  settings_.btnbarMain = MenuAction("mnuShowBtnBarMain")->isChecked() ? 1 : 0;
-  settings_.btnbarScript = MenuAction("mnuShowBtnBarScript")->isChecked() ? 1 : 0;
+  settings_.splash = MenuAction(kShowSplashEntry)->isChecked() ? 1 : 0;
+  settings_.btnbarMain = MenuAction(kShowMainBarEntry)->isChecked() ? 1 : 0;
+  settings_.btnbarScript = MenuAction(kShowScriptBarEntry)->isChecked() ? 1 : 0;
   settings_.previewSortKey = model_.list.sortKey;
   settings_.previewSortOrder = model_.list.sortOrder;
-  settings_.openFileTag = variants_.value("OpenFile").toStdString();
-  settings_.takeChangesTag = variants_.value("TakeChanges").toStdString();
+  settings_.openFileTag = variants_.value(kOpenFileKey).toStdString();
+  settings_.takeChangesTag = variants_.value(kTakeChangesKey).toStdString();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

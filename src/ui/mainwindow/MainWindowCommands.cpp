@@ -88,7 +88,7 @@ void MainWindow::takeChanges() {
     return dialog.Choice();
   };
   services.showSelectAction = [this] { RunSelAction(this, model_, catalog_, "frmSelAction"); };
-  nomra::takeChanges(model_, variants_.value("TakeChanges").toStdString(), services);
+  nomra::takeChanges(model_, variants_.value(kTakeChangesKey).toStdString(), services);
   RefreshPreview();
 }
 
@@ -102,20 +102,20 @@ void MainWindow::mnuEditMan() {
 }
 
 void MainWindow::mnuInfo() {
-  InfoDialog dialog(catalog_, appTitle_, version_, MenuAction("mnuInfo")->text(), this);
+  InfoDialog dialog(catalog_, appTitle_, version_, MenuAction(kInfoEntry)->text(), this);
   dialog.exec();
 }
 
 void MainWindow::mnuOptions() {
-  LanguageDialog dialog(paths_.appFolder, paths_.settingsPath, catalog_, MenuAction("mnuOptions")->text(), this);
+  LanguageDialog dialog(paths_.appFolder, paths_.settingsPath, catalog_, MenuAction(kOptionsEntry)->text(), this);
   if (dialog.exec() == QDialog::Accepted && !dialog.ChosenFile().empty()) UseLanguage(dialog.ChosenFile());
 }
 
 void MainWindow::mnuExperts() {
   if (model_.expertMode) return;
-  const QString text = frontEnd_.TextOf({"MsgText33", "", MessageStyle::YesNoWarningDefaultNo, {}}) + '\n' +
-                       frontEnd_.TextOf({"MsgText34", "", MessageStyle::YesNoWarningDefaultNo, {}});
-  const Answer answer = frontEnd_.AskText({"MsgText33", "msgCapAttention", MessageStyle::YesNoWarningDefaultNo, {}}, text);
+  const Message question{"MsgText33", "msgCapAttention", MessageStyle::YesNoWarningDefaultNo, {}};
+  const Message warning{"MsgText34", "", MessageStyle::YesNoWarningDefaultNo, {}};
+  const Answer answer = frontEnd_.AskText(question, frontEnd_.TextOf(question) + '\n' + frontEnd_.TextOf(warning));
   if (answer != Answer::Yes) return;
   model_.expertMode = true;
   ApplyExpertMode();
@@ -145,9 +145,9 @@ void MainWindow::SetIconSizeEntry(int entry) {
 
 // Entry i shows or hides head i + 1, which is Qt's column i.
 void MainWindow::ToggleColumn(int entry) {
-  const bool show = MenuAction(QString("mnuViewPre(%1)").arg(entry))->isChecked();
+  const bool show = MenuAction(ControlArrayMember(kColumnFamily, entry))->isChecked();
   details_->setColumnHidden(entry, !show);
-  if (show) details_->setColumnWidth(entry, TwipsToPixels(entry == 7 ? 1400 : 1800, logicalDpiX()));
+  if (show) details_->setColumnWidth(entry, TwipsToPixels(entry == kColSize ? 1400 : 1800, logicalDpiX()));
 }
 
 void MainWindow::SetGridLines(bool on) { details_->setShowGrid(on); }

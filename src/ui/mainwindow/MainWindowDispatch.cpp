@@ -23,12 +23,8 @@ namespace nomra::ui {
 
 namespace {
 
-constexpr char kMainBar[] = "BtnBarMain";
-constexpr char kLeftBar[] = "btnBarLeft";
-constexpr char kScriptBar[] = "btnbarScript";
-
 // "mnuViewPre(3)" is entry 3 of the family "mnuViewPre"; other names have number 0.
-std::pair<QString, int> SplitNumberedName(const QString& name) {
+std::pair<QString, int> SplitControlArrayMember(const QString& name) {
   const qsizetype open = name.lastIndexOf(QLatin1Char('('));
   if (open <= 0 || !name.endsWith(QLatin1Char(')'))) return {name, 0};
   bool ok = false;
@@ -36,8 +32,6 @@ std::pair<QString, int> SplitNumberedName(const QString& name) {
   if (!ok || number <= 0) return {name, 0};
   return {name.left(open), number};
 }
-
-QString ToolName(const QString& bar, const QString& key) { return bar + QLatin1Char('/') + key; }
 
 }  // namespace
 
@@ -62,122 +56,121 @@ void MainWindow::BuildCommandTables() {
     tool(kMainBar, entry, [this, button, entry] { RunDropDownEntry(button, entry); });
   };
 
-  mainTool("OpenFile", [this] { mnuOpenFile(); });
-  mainTool("DelList", [this] {
-    model_.delListTag = variants_.value("DelList").toStdString();
+  mainTool(kOpenFileKey, [this] { mnuOpenFile(); });
+  mainTool(kDelListKey, [this] {
+    model_.delListTag = variants_.value(kDelListKey).toStdString();
     UpdateToolTips();
     deleteFromList(model_);
     if (model_.list.Empty()) picture_->clear();
     RefreshPreview();
   });
-  mainTool("TakeChanges", [this] { takeChanges(); });
-  mainTool("RejectChanges", [this] {
+  mainTool(kTakeChangesKey, [this] { takeChanges(); });
+  mainTool(kRejectChangesKey, [this] {
     mnuRejectChanges(model_);
     RefreshPreview();
   });
-  mainTool("Undo", [this] {
+  mainTool(kUndoKey, [this] {
     mnuUndo(model_);
     RefreshPreview();
   });
-  mainTool("Options", [this] { mnuOptions(); });
-  dropDownEntry("OpenFile", "OpenFile1");
-  dropDownEntry("OpenFile", "OpenFile2");
-  for (int entry = 1; entry <= 5; ++entry) dropDownEntry("DelList", QString("DelList%1").arg(entry));
-  dropDownEntry("TakeChanges", "TakeChanges1");
-  dropDownEntry("TakeChanges", "TakeChanges2");
+  mainTool(kOptionsKey, [this] { mnuOptions(); });
+  for (int entry = 1; entry <= kOpenFileEntries; ++entry) dropDownEntry(kOpenFileKey, EntryKey(kOpenFileKey, entry));
+  // The submenus mnuDelList and mnuTakeChanges hold the entries of their buttons.
+  for (const auto& [key, entries] : {std::pair{kDelListKey, kDelListEntries}, std::pair{kTakeChangesKey, kTakeChangesEntries}}) {
+    const QString button = key;
+    for (int entry = 1; entry <= entries; ++entry) {
+      const QString entryKey = EntryKey(key, entry);
+      dropDownEntry(button, entryKey);
+      menu(MenuEntryOf(entryKey), [this, button, entryKey] { RunDropDownEntry(button, entryKey); });
+    }
+  }
 
   for (int stepType = 1; stepType <= kActionMenuEntries; ++stepType) {
     if (!HasActionWindow(stepType)) continue;
-    const QString number = QString("%1").arg(stepType, 2, 10, QLatin1Char('0'));
-    mainTool("Rename" + number, [this, stepType] { OpenAction(stepType); });
-    menu("mnuRename" + number, [this, number] { RunMainToolKey("Rename" + number); });
+    const QString key = RenameToolKey(stepType);
+    mainTool(key, [this, stepType] { OpenAction(stepType); });
+    menu(RenameMenuEntry(stepType), [this, key] { RunMainToolKey(key); });
   }
 
-  mainTool("Rename99", [this] { OpenNameStructure(ActionServices()); });
-  menu("mnuRenameStructure", [this] { RunMainToolKey("Rename99"); });
+  mainTool(kNameStructureKey, [this] { OpenNameStructure(ActionServices()); });
+  menu(kNameStructureEntry, [this] { RunMainToolKey(kNameStructureKey); });
 
-  tool(kScriptBar, "StartRecordScript", [this] { mnuStartRecordScript(); });
-  tool(kScriptBar, "StopRecordScript", [this] { mnuStopRecordScript(); });
-  tool(kScriptBar, "StartRunScript", [this] { mnuStartRunScript(); });
-  tool(kScriptBar, "RunSelectedScript", [this] { RunSelectedScriptButton(); });
-  menu("mnuStartRecordScript", [this] { RunToolCommand(kScriptBar, "StartRecordScript"); });
-  menu("mnuStopRecordScript", [this] { RunToolCommand(kScriptBar, "StopRecordScript"); });
-  menu("mnuStartRunScript", [this] { RunToolCommand(kScriptBar, "StartRunScript"); });
+  tool(kScriptBar, kStartRecordKey, [this] { mnuStartRecordScript(); });
+  tool(kScriptBar, kStopRecordKey, [this] { mnuStopRecordScript(); });
+  tool(kScriptBar, kStartRunKey, [this] { mnuStartRunScript(); });
+  tool(kScriptBar, kRunSelectedKey, [this] { RunSelectedScriptButton(); });
+  menu(kStartRecordEntry, [this] { RunToolCommand(kScriptBar, kStartRecordKey); });
+  menu(kStopRecordEntry, [this] { RunToolCommand(kScriptBar, kStopRecordKey); });
+  menu(kStartRunEntry, [this] { RunToolCommand(kScriptBar, kStartRunKey); });
   // The entry is there and does nothing of its own; the button plays.
-  menu("mnuRunSelectedScript", [] {});
+  menu(kRunSelectedEntry, [] {});
 
-  tool(kLeftBar, "EditMan", [this] { mnuEditMan(); });
-  tool(kLeftBar, "DelList", [this] {
+  tool(kLeftBar, kEditManKey, [this] { mnuEditMan(); });
+  tool(kLeftBar, kDelListKey, [this] {
     const int position = SelectedPosition();
     if (position > 0) btnBarLeftDel1File(model_, position);
     RefreshPreview();
   });
-  tool(kLeftBar, "CancelAction", [this] { CancelAction(); });
-  tool(kLeftBar, "Properties", [this] {
+  tool(kLeftBar, kCancelActionKey, [this] { CancelAction(); });
+  tool(kLeftBar, kPropertiesKey, [this] {
     const int position = SelectedPosition();
     if (position > 0) ShowProperties(this, frontEnd_, catalog_, model_.list.Item(position).key);
   });
 
-  menu("mnuOpenFile", [this] { RunMainToolKey("OpenFile"); });
-  menu("mnuOpenFromList", [this] { OpenFilesDialog(open::OpenMode::Playlists); });
-  menu("mnuTakeChanges1", [this] { RunDropDownEntry("TakeChanges", "TakeChanges1"); });
-  menu("mnuTakeChanges2", [this] { RunDropDownEntry("TakeChanges", "TakeChanges2"); });
-  menu("mnuCopyFiles", [this] {
+  menu(kOpenFileEntry, [this] { RunMainToolKey(kOpenFileKey); });
+  menu(kOpenFromListEntry, [this] { OpenFilesDialog(open::OpenMode::Playlists); });
+  menu(kCopyFilesEntry, [this] {
     RunSelAction(this, model_, catalog_, "frmCopyFiles");
     RefreshPreview();
   });
-  menu("mnuMoveFiles", [this] {
+  menu(kMoveFilesEntry, [this] {
     RunSelAction(this, model_, catalog_, "frmMoveFiles");
     RefreshPreview();
   });
-  menu("mnuDeleteFiles1", [this] {
+  menu(kDeleteToTrashEntry, [this] {
     DeleteListFiles(this, model_, catalog_, true);
     RefreshPreview();
   });
-  menu("mnuDeleteFiles2", [this] {
+  menu(kDeleteEntry, [this] {
     DeleteListFiles(this, model_, catalog_, false);
     RefreshPreview();
   });
-  menu("mnuRejectChanges", [this] { RunMainToolKey("RejectChanges"); });
-  menu("mnuUndo", [this] { RunMainToolKey("Undo"); });
-  for (int entry = 1; entry <= 5; ++entry) {
-    const QString key = QString("DelList%1").arg(entry);
-    menu("mnu" + key, [this, key] { RunDropDownEntry("DelList", key); });
-  }
-  menu("mnuEditMan", [this] { mnuEditMan(); });
-  menu("mnuCopyName1", [this] { mnuCopyText(kColOldName); });
-  menu("mnuCopyName2", [this] { mnuCopyText(kColNewName); });
-  menu("mnuCopyLink", [this] { mnuCopyText(-1); });
-  menu("mnuInfo", [this] { mnuInfo(); });
-  menu("mnuHistory", [this] {
+  menu(kRejectChangesEntry, [this] { RunMainToolKey(kRejectChangesKey); });
+  menu(kUndoEntry, [this] { RunMainToolKey(kUndoKey); });
+  menu(kEditManEntry, [this] { mnuEditMan(); });
+  menu(kCopyOldNameEntry, [this] { mnuCopyText(kColOldName); });
+  menu(kCopyNewNameEntry, [this] { mnuCopyText(kColNewName); });
+  menu(kCopyPathEntry, [this] { mnuCopyText(-1); });
+  menu(kInfoEntry, [this] { mnuInfo(); });
+  menu(kHistoryEntry, [this] {
     ShowRenameHistory(this, model_, frontEnd_, catalog_, appTitle_);
     RefreshPreview();
   });
-  menu("mnuOptions", [this] { RunMainToolKey("Options"); });
-  menu("mnuExperts", [this] { mnuExperts(); });
-  menu("mnuEnd", [this] { close(); });
-  menu("mnuViewDetails", [this] { SetView(ListView::Details); });
-  menu("mnuViewDetailsIcons", [this] { SetView(ListView::DetailsIcons); });
-  menu("mnuViewIcons", [this] { SetView(ListView::Icons); });
-  menu("mnuGridLines", [this] { SetGridLines(MenuAction("mnuGridLines")->isChecked()); });
-  menu("mnuShowBtnBarMain", [this] { mainBar_->setVisible(MenuAction("mnuShowBtnBarMain")->isChecked()); });
-  menu("mnuShowBtnBarScript", [this] { scriptBar_->setVisible(MenuAction("mnuShowBtnBarScript")->isChecked()); });
+  menu(kOptionsEntry, [this] { RunMainToolKey(kOptionsKey); });
+  menu(kExpertsEntry, [this] { mnuExperts(); });
+  menu(kEndEntry, [this] { close(); });
+  menu(kViewDetailsEntry, [this] { SetView(ListView::Details); });
+  menu(kViewDetailsIconsEntry, [this] { SetView(ListView::DetailsIcons); });
+  menu(kViewIconsEntry, [this] { SetView(ListView::Icons); });
+  menu(kGridLinesEntry, [this] { SetGridLines(MenuAction(kGridLinesEntry)->isChecked()); });
+  menu(kShowMainBarEntry, [this] { mainBar_->setVisible(MenuAction(kShowMainBarEntry)->isChecked()); });
+  menu(kShowScriptBarEntry, [this] { scriptBar_->setVisible(MenuAction(kShowScriptBarEntry)->isChecked()); });
   // The check is all there is to it: the close stores it.
-  menu("mnuShowSplash", [] {});
-  menu("mnuViewSortingUnsorted", [this] {
+  menu(kShowSplashEntry, [] {});
+  menu(kUnsortedEntry, [this] {
     mnuViewSortingUnsorted(model_);
     listModel_->Reload();
     RestoreSelection();
     UpdateSortIndicators();
   });
-  numberedMenuCommands_.insert("mnuViewSortingSorted", [this](int entry) {
+  numberedMenuCommands_.insert(kSortFamily, [this](int entry) {
     mnuViewSortingSorted(model_, entry);
     listModel_->Reload();
     RestoreSelection();
     UpdateSortIndicators();
   });
-  numberedMenuCommands_.insert("mnuViewPre", [this](int entry) { ToggleColumn(entry); });
-  numberedMenuCommands_.insert("mnuViewIconSize", [this](int entry) { SetIconSizeEntry(entry); });
+  numberedMenuCommands_.insert(kColumnFamily, [this](int entry) { ToggleColumn(entry); });
+  numberedMenuCommands_.insert(kIconSizeFamily, [this](int entry) { SetIconSizeEntry(entry); });
 }
 
 void MainWindow::RunMenuCommand(const QString& name) {
@@ -186,7 +179,7 @@ void MainWindow::RunMenuCommand(const QString& name) {
     run();
     return;
   }
-  const auto [family, number] = SplitNumberedName(name);
+  const auto [family, number] = SplitControlArrayMember(name);
   if (const std::function<void(int)> run = numberedMenuCommands_.value(family)) run(number);
 }
 
@@ -211,7 +204,7 @@ void MainWindow::RunDropDownEntry(const QString& buttonKey, const QString& entry
 bool MainWindow::HasMenuCommand(const QString& name) const {
   if (!menuActions_.contains(name)) return false;
   if (menuCommands_.contains(name)) return true;
-  const auto [family, number] = SplitNumberedName(name);
+  const auto [family, number] = SplitControlArrayMember(name);
   return number > 0 && numberedMenuCommands_.contains(family);
 }
 
@@ -225,7 +218,7 @@ bool MainWindow::IsNotYetBuilt(const QString& bar, const QString& key) const {
 
 QAction* MainWindow::ToolEntry(const QString& bar, const QString& key) const {
   if (QAction* button = ToolAction(bar, key)) return button;
-  const QString prefix = bar + QLatin1Char('/');
+  const QString prefix = ToolName(bar, QString());
   for (auto it = toolActions_.constBegin(); it != toolActions_.constEnd(); ++it) {
     if (!it.key().startsWith(prefix) || it.value()->menu() == nullptr) continue;
     for (QAction* entry : it.value()->menu()->actions()) {
@@ -237,7 +230,7 @@ QAction* MainWindow::ToolEntry(const QString& bar, const QString& key) const {
 
 QStringList MainWindow::ToolKeys(const QString& bar) const {
   QStringList keys;
-  const QString prefix = bar + QLatin1Char('/');
+  const QString prefix = ToolName(bar, QString());
   for (auto it = toolActions_.constBegin(); it != toolActions_.constEnd(); ++it) {
     if (!it.key().startsWith(prefix)) continue;
     keys << it.key().mid(prefix.size());

@@ -9,6 +9,7 @@
 #include "open/StagedFiles.h"
 #include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
+#include "ui/common/FormNames.h"
 #include "ui/mainwindow/MainWindow.h"
 #include "ui/open/FrmOpen.h"
 #include "ui/open/SystemOpenDialog.h"
@@ -16,8 +17,6 @@
 namespace nomra::ui {
 
 namespace {
-
-constexpr char kFrmOpen[] = "FrmOpen";
 
 // The playlist dialog's filters, each row "text (pattern)".
 std::vector<open::FilterRow> PlaylistFilters() {
@@ -43,7 +42,7 @@ QString DialogTitle(const QAction* entry) { return entry->text().remove('&').rem
 
 // The button's variant picks the dialog; no variant yet acts as the first.
 void MainWindow::mnuOpenFile() {
-  if (variants_.value("OpenFile") == QLatin1String("OpenFile2")) {
+  if (variants_.value(kOpenFileKey) == EntryKey(kOpenFileKey, 2)) {
     ShowFrmOpen();
   } else {
     OpenFilesDialog(open::OpenMode::Files);
@@ -62,18 +61,18 @@ void MainWindow::OpenFilesDialog(open::OpenMode mode) {
     // A damaged index shows the first row, as a missing one does.
   }
   if (mode == open::OpenMode::Files) {
-    std::string allRows = catalog_.GetText(kFrmOpen, "FilterAll");
+    std::string allRows = catalog_.GetText(kOpenDialogName, "FilterAll");
     if (allRows.empty()) allRows = "All files (*.*)";
-    const std::string label = catalog_.GetText(kFrmOpen, "AllFiles");
+    const std::string label = catalog_.GetText(kOpenDialogName, "AllFiles");
     setup.filters = open::BuildFilterList(paths_.settingsPath, allRows);
-    setup.title = DialogTitle(MenuAction("mnuOpenFile"));
+    setup.title = DialogTitle(MenuAction(kOpenFileEntry));
     setup.allFilesLabel = label.empty() ? QString("(All files)") : QString::fromStdString(label);
     setup.allFiles = settings_.chkAll == 1;
     setup.subFolders = settings_.chkSub == 1;
     setup.filterIndex = filesFilterIndex;
   } else {
     setup.filters = PlaylistFilters();
-    setup.title = DialogTitle(MenuAction("mnuOpenFromList"));
+    setup.title = DialogTitle(MenuAction(kOpenFromListEntry));
   }
   const std::vector<open::FilterRow> filters = setup.filters;
   SystemOpenDialog dialog(setup, catalog_, this);

@@ -18,8 +18,6 @@ namespace nomra::ui {
 
 namespace {
 
-constexpr char kScriptBar[] = "btnbarScript";
-constexpr char kRunSelectedKey[] = "RunSelectedScript";
 // The file name an entry of the drop-down stands for; not a dispatch key,
 // as these entries come and go with the stored scripts.
 constexpr char kScriptFileProperty[] = "scriptFile";

@@ -17,6 +17,18 @@
 
 namespace nomra::ui {
 
+namespace {
+
+// The controls, each named once for its widget and its input of the model.
+constexpr char kNotRenamedList[] = "lstNotRenamed";
+constexpr char kRenamedList[] = "lstRenamed";
+constexpr char kChoiceLabel[] = "lblSelAction";
+constexpr char kNoActionOption[] = "optNoAction";
+constexpr char kRemoveRenamedOption[] = "optRemoveRenamed";
+constexpr char kChoiceGroup[] = "choice";
+
+}  // namespace
+
 QString ReportRowText(const ReportRow& row, const lang::MessageCatalog& catalog) {
   std::string text = catalog.GetText(lang::kMessagesSection, row.textKey, row.arguments);
   if (text.empty()) return QString::fromStdString(row.Describe());
@@ -27,12 +39,12 @@ QString ReportRowText(const ReportRow& row, const lang::MessageCatalog& catalog)
 
 NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::MessageCatalog& catalog, QWidget* parent)
     : QDialog(parent) {
-  setObjectName("frmNotRenamed");
+  setObjectName(kName);
   setWindowTitle("Not renamed");
   resize(720, 420);
   auto* layout = new QVBoxLayout(this);
   auto* notRenamed = new QTreeWidget(this);
-  notRenamed->setObjectName("lstNotRenamed");
+  notRenamed->setObjectName(kNotRenamedList);
   notRenamed->setColumnCount(2);
   notRenamed->setHeaderLabels({"No.", "Message"});
   notRenamed->setRootIsDecorated(false);
@@ -48,18 +60,18 @@ NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::Messa
   layout->addWidget(notRenamed, 3);
 
   auto* renamed = new QListWidget(this);
-  renamed->setObjectName("lstRenamed");
+  renamed->setObjectName(kRenamedList);
   for (const std::string& key : result.renamed) renamed->addItem(QString::fromStdString(key));
   layout->addWidget(renamed, 1);
 
   auto* what = new QLabel("What should happen with the renamed files:", this);
-  what->setObjectName("lblSelAction");
+  what->setObjectName(kChoiceLabel);
   layout->addWidget(what);
   noAction_ = new QRadioButton("Leave them in the list", this);
-  noAction_->setObjectName("optNoAction");
+  noAction_->setObjectName(kNoActionOption);
   noAction_->setChecked(true);
   removeRenamed_ = new QRadioButton("Remove them from the list", this);
-  removeRenamed_->setObjectName("optRemoveRenamed");
+  removeRenamed_->setObjectName(kRemoveRenamedOption);
   layout->addWidget(noAction_);
   layout->addWidget(removeRenamed_);
 
@@ -72,10 +84,10 @@ NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::Messa
     }
     accept();
   });
-  for (const char* name : {"lblSelAction", "lstNotRenamed"}) model_.AddNoValue(name);
-  model_.AddList("lstRenamed", {}, false);
-  model_.AddOption("optNoAction", "choice");
-  model_.AddOption("optRemoveRenamed", "choice");
+  for (const char* name : {kChoiceLabel, kNotRenamedList}) model_.AddNoValue(name);
+  model_.AddList(kRenamedList, {}, false);
+  model_.AddOption(kNoActionOption, kChoiceGroup);
+  model_.AddOption(kRemoveRenamedOption, kChoiceGroup);
   for (const char* name : {"cmdOK", "cmdCancel"}) model_.AddNoValue(name);
 
   LocaliseDialog(*this, catalog, parent, QString());

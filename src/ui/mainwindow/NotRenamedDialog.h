@@ -21,6 +21,9 @@ QString ReportRowText(const ReportRow& row, const lang::MessageCatalog& catalog)
 class NotRenamedDialog final : public QDialog {
   Q_OBJECT
  public:
+  // The form's name, which is also the section of its remembered choice.
+  static constexpr char kName[] = "frmNotRenamed";
+
   NotRenamedDialog(const CommitResult& result, const lang::MessageCatalog& catalog, QWidget* parent = nullptr);
 
   // What cmdOK chose; cmdCancel always gives NoAction.
@@ -31,7 +34,7 @@ class NotRenamedDialog final : public QDialog {
   void RememberChoiceIn(const ScriptSession& session, FrontEnd& frontEnd);
 
  private:
-  dialog::DialogModel model_{"frmNotRenamed"};
+  dialog::DialogModel model_{kName};
   const ScriptSession* session_ = nullptr;
   QRadioButton* noAction_ = nullptr;
   QRadioButton* removeRenamed_ = nullptr;

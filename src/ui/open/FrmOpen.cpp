@@ -17,6 +17,7 @@
 
 #include "ui/common/ButtonIcons.h"
 #include "ui/common/DialogTexts.h"
+#include "ui/common/FormNames.h"
 #include "ui/common/QtLocalisation.h"
 
 namespace nomra::ui {
@@ -56,7 +57,7 @@ class IndentedRows final : public QStyledItemDelegate {
 }  // namespace
 
 FrmOpen::FrmOpen(Services services, QWidget* parent) : QDialog(parent), services_(std::move(services)) {
-  setObjectName("FrmOpen");
+  setObjectName(kOpenDialogName);
   setWindowTitle("Open files");
   filters_ = open::ReadPowerFilters(services_.settingsFile);
   BuildLayout();
@@ -151,9 +152,12 @@ QToolBar* FrmOpen::BuildFilterBar() {
   filterBar_ = new QToolBar(this);
   filterBar_->setObjectName("BtnBarFilter");
   filterBar_->setIconSize(QSize(16, 16));
-  connect(AddBarButton(*filterBar_, "Add", "Add filter"), &QAction::triggered, this, &FrmOpen::AddFilter);
-  connect(AddBarButton(*filterBar_, "EditMan", "Edit filter"), &QAction::triggered, this, &FrmOpen::EditFilter);
-  connect(AddBarButton(*filterBar_, "DelList", "Delete filter"), &QAction::triggered, this, &FrmOpen::DeleteFilter);
+  addFilter_ = AddBarButton(*filterBar_, "Add", "Add filter");
+  editFilter_ = AddBarButton(*filterBar_, "EditMan", "Edit filter");
+  deleteFilter_ = AddBarButton(*filterBar_, "DelList", "Delete filter");
+  connect(addFilter_, &QAction::triggered, this, &FrmOpen::AddFilter);
+  connect(editFilter_, &QAction::triggered, this, &FrmOpen::EditFilter);
+  connect(deleteFilter_, &QAction::triggered, this, &FrmOpen::DeleteFilter);
   connect(filterList_, &QListWidget::itemChanged, this, &FrmOpen::OnFilterItemChanged);
   connect(filterList_, &QListWidget::currentRowChanged, this, &FrmOpen::UpdateFilterButtons);
   return filterBar_;

@@ -9,6 +9,7 @@
 #include "platform/FileSystem.h"
 #include "ui/open/FolderListing.h"
 
+class QAction;
 class QCheckBox;
 class QComboBox;
 class QLineEdit;
@@ -99,6 +100,9 @@ class FrmOpen final : public QDialog {
   QLineEdit* names_ = nullptr;      // txtFiles
   QListWidget* filterList_ = nullptr;  // lstFilters
   QToolBar* filterBar_ = nullptr;   // BtnBarFilter
+  QAction* addFilter_ = nullptr;    // its buttons Add, EditMan and DelList
+  QAction* editFilter_ = nullptr;
+  QAction* deleteFilter_ = nullptr;
   QToolBar* navigation_ = nullptr;  // BtnBar
   QCheckBox* allFiles_ = nullptr;   // chkAllFiles
   QCheckBox* subFolders_ = nullptr; // chkSubFolders

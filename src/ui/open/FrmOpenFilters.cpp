@@ -2,10 +2,8 @@
 #include <QAction>
 #include <QInputDialog>
 #include <QListWidget>
-#include <QToolBar>
 #include <algorithm>
 
-#include "ui/common/QtLocalisation.h"
 #include "ui/open/FrmOpen.h"
 
 namespace nomra::ui {
@@ -14,13 +12,6 @@ namespace {
 
 // The prompt of the filter editor is the system's own text in every language.
 constexpr char kFilterPrompt[] = "Filter:";
-
-QAction* BarButton(const QToolBar& bar, const QString& key) {
-  for (QAction* action : bar.actions()) {
-    if (action->property(kKeyProperty).toString() == key) return action;
-  }
-  return nullptr;
-}
 
 }  // namespace
 
@@ -41,8 +32,8 @@ void FrmOpen::FillFilterList() {
 // edited nor deleted.
 void FrmOpen::UpdateFilterButtons() {
   const bool other = filterList_->currentRow() > 0;
-  BarButton(*filterBar_, "EditMan")->setEnabled(other);
-  BarButton(*filterBar_, "DelList")->setEnabled(other);
+  editFilter_->setEnabled(other);
+  deleteFilter_->setEnabled(other);
 }
 
 void FrmOpen::OnFilterItemChanged(QListWidgetItem* item) {
@@ -68,7 +59,7 @@ bool FrmOpen::AskFilter(const QString& title, QString& text) {
 
 void FrmOpen::AddFilter() {
   QString text;
-  if (!AskFilter(BarButton(*filterBar_, "Add")->toolTip(), text)) return;
+  if (!AskFilter(addFilter_->toolTip(), text)) return;
   filters_.push_back({false, text.toStdString()});
   open::SetFilterChecked(filters_, static_cast<int>(filters_.size()) - 1, true);
   FillFilterList();
@@ -80,7 +71,7 @@ void FrmOpen::EditFilter() {
   const int index = filterList_->currentRow();
   if (index <= 0 || index >= static_cast<int>(filters_.size())) return;
   QString text = QString::fromStdString(filters_[index].pattern);
-  if (!AskFilter(BarButton(*filterBar_, "EditMan")->toolTip(), text)) return;
+  if (!AskFilter(editFilter_->toolTip(), text)) return;
   filters_[index].pattern = text.toStdString();
   FillFilterList();
   Add2lstFiles();

@@ -10,6 +10,7 @@
 #include "open/StagedFiles.h"
 #include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
+#include "ui/common/FormNames.h"
 #include "ui/open/FrmOpen.h"
 #include "ui/open/OpenLocations.h"
 
@@ -17,7 +18,6 @@ namespace nomra::ui {
 
 namespace {
 
-constexpr char kOwnSection[] = "frmOpen";
 constexpr char kRootTextKey[] = "DrvSelRoot";
 constexpr char kRootKey[] = "*AP*";
 constexpr char kSeparator = '/';
@@ -65,7 +65,7 @@ void FrmOpen::FolderUp() {
 void FrmOpen::FillLocations() {
   const QSignalBlocker quiet(locations_);
   locations_->clear();
-  const std::string rootText = services_.catalog.GetText(kOwnSection, kRootTextKey);
+  const std::string rootText = services_.catalog.GetText(kOpenDialogName, kRootTextKey);
   locations_->addItem(icons_.Computer(), rootText.empty() ? QString("Computer") : Shown(rootText), QByteArray(kRootKey));
   for (const Location& place : ListLocations()) {
     const QIcon icon = place.kind == LocationKind::Home ? icons_.Home() : icons_.Drive();

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "ui/common/FormNames.h"
 #include "ui/common/QtLocalisation.h"
 
 namespace nomra::ui {
@@ -69,8 +70,8 @@ void SystemOpenDialog::BuildPanel(const lang::MessageCatalog& catalog) {
   subFolders_ = new QCheckBox("Include subfolders", panel_);
   subFolders_->setObjectName("chkSub");
   // The boxes say what those of Nomra's own open dialog say.
-  allFiles_->setProperty(kTagProperty, QStringLiteral("chkAllFiles|frmOpen"));
-  subFolders_->setProperty(kTagProperty, QStringLiteral("chkSubFolders|frmOpen"));
+  allFiles_->setProperty(kTagProperty, QStringLiteral("chkAllFiles|") + kOpenDialogName);
+  subFolders_->setProperty(kTagProperty, QStringLiteral("chkSubFolders|") + kOpenDialogName);
   row->addWidget(allFiles_);
   row->addWidget(subFolders_);
   row->addStretch(1);
@@ -79,7 +80,7 @@ void SystemOpenDialog::BuildPanel(const lang::MessageCatalog& catalog) {
   } else if (layout() != nullptr) {
     layout()->addWidget(panel_);
   }
-  LocaliseWidget(*panel_, QStringLiteral("frmOpen"), catalog, lang::CaptionSources{});
+  LocaliseWidget(*panel_, kOpenDialogName, catalog, lang::CaptionSources{});
 
   allFiles_->setChecked(setup_.allFiles);
   subFolders_->setChecked(setup_.subFolders);

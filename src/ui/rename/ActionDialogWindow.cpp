@@ -11,12 +11,12 @@
 #include "rename/ActionFrame.h"
 #include "ui/common/DialogBinder.h"
 #include "ui/common/DialogTexts.h"
+#include "ui/common/FormNames.h"
 
 namespace nomra::ui {
 
 namespace {
 
-constexpr char kScriptSection[] = "frmScript";
 constexpr char kRunCaptionKey[] = "FrmRunCaption";
 
 QPushButton* AddFrameButton(QHBoxLayout& row, QWidget& parent, const char* name, const QString& text) {
@@ -77,7 +77,7 @@ void ActionDialogWindow::OnFirstActivation() {
   const ScriptSession& session = services_.model.script;
   const bool playing = session.runMode == 1 || session.runMode == 2;
   if (playing) {
-    const std::string runCaption = services_.catalog.GetText(kScriptSection, kRunCaptionKey);
+    const std::string runCaption = services_.catalog.GetText(kScriptDialogName, kRunCaptionKey);
     setWindowTitle(QString::fromStdString(runCaption) + ": " + usualCaption_);
     ok_->setFocus();
   }

@@ -32,32 +32,32 @@ FrmFileExtension::FrmFileExtension(ActionWindowServices services)
     : ActionDialogWindow(std::make_unique<ExtensionDialog>(), std::move(services)) {
   setWindowTitle("File extension");
   auto* grid = new QGridLayout;
-  auto* change = new QRadioButton("&Change the extension to:", this);
-  change->setObjectName("optFE(1)");
-  auto* extension = new QLineEdit(this);
-  extension->setObjectName("txtFE");
-  extension->installEventFilter(new NameKeyFilter(this));
-  extension->installEventFilter(new ExtensionKeyFilter(this));
-  auto* keepOld = new QCheckBox("&Keep the old extension in front of the new one", this);
-  keepOld->setObjectName("chkAddOldFE");
+  change_ = new QRadioButton("&Change the extension to:", this);
+  change_->setObjectName("optFE(1)");
+  extension_ = new QLineEdit(this);
+  extension_->setObjectName("txtFE");
+  extension_->installEventFilter(new NameKeyFilter(this));
+  extension_->installEventFilter(new ExtensionKeyFilter(this));
+  keepOld_ = new QCheckBox("&Keep the old extension in front of the new one", this);
+  keepOld_->setObjectName("chkAddOldFE");
   auto* remove = new QRadioButton("&Remove the extension", this);
   remove->setObjectName("optFE(2)");
-  grid->addWidget(change, 0, 0);
-  grid->addWidget(extension, 0, 1);
-  grid->addWidget(keepOld, 1, 0, 1, 2, Qt::AlignLeft);
+  grid->addWidget(change_, 0, 0);
+  grid->addWidget(extension_, 0, 1);
+  grid->addWidget(keepOld_, 1, 0, 1, 2, Qt::AlignLeft);
   grid->setColumnMinimumWidth(0, 40);
   grid->addWidget(remove, 2, 0, 1, 2);
   InputArea().addLayout(grid);
-  connect(change, &QRadioButton::toggled, this, &FrmFileExtension::FollowChoice);
+  connect(change_, &QRadioButton::toggled, this, &FrmFileExtension::FollowChoice);
   FinishBuilding();
 }
 
 void FrmFileExtension::AfterInputsShown() { FollowChoice(); }
 
 void FrmFileExtension::FollowChoice() {
-  const bool changing = findChild<QRadioButton*>("optFE(1)")->isChecked();
-  findChild<QCheckBox*>("chkAddOldFE")->setEnabled(changing);
-  findChild<QLineEdit*>("txtFE")->setEnabled(changing);
+  const bool changing = change_->isChecked();
+  keepOld_->setEnabled(changing);
+  extension_->setEnabled(changing);
 }
 
 }  // namespace nomra::ui

@@ -1,6 +1,10 @@
 #pragma once
 #include "ui/rename/ActionDialogWindow.h"
 
+class QCheckBox;
+class QLineEdit;
+class QRadioButton;
+
 namespace nomra::ui {
 
 // File extension: change it (optFE(1)), keep the old one in front
@@ -15,6 +19,10 @@ class FrmFileExtension final : public ActionDialogWindow {
 
  private:
   void FollowChoice();
+
+  QRadioButton* change_ = nullptr;  // optFE(1)
+  QLineEdit* extension_ = nullptr;  // txtFE
+  QCheckBox* keepOld_ = nullptr;    // chkAddOldFE
 };
 
 }  // namespace nomra::ui

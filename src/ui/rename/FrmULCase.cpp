@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "rename/CaseAction.h"
+#include "ui/common/QtLocalisation.h"
 
 namespace nomra::ui {
 
@@ -13,6 +14,9 @@ namespace {
 
 // The dialog's own language section: the conversions are read as optOpt1 and on.
 constexpr char kLanguageSection[] = "frmULCASE";
+// The control array of the conversions and how many it has.
+constexpr char kConversionOptions[] = "opt1";
+constexpr int kConversions = 5;
 
 QGroupBox* AddOptionGroup(QWidget& parent, const char* frameName, const QString& title, const char* name,
                           const QStringList& texts) {
@@ -21,7 +25,7 @@ QGroupBox* AddOptionGroup(QWidget& parent, const char* frameName, const QString&
   auto* layout = new QVBoxLayout(frame);
   for (int index = 1; index <= texts.size(); ++index) {
     auto* option = new QRadioButton(texts[index - 1], frame);
-    option->setObjectName(QString("%1(%2)").arg(name).arg(index));
+    option->setObjectName(ControlArrayMember(name, index));
     layout->addWidget(option);
   }
   return frame;
@@ -33,7 +37,7 @@ FrmULCase::FrmULCase(ActionWindowServices services)
     : ActionDialogWindow(std::make_unique<CaseDialog>(), std::move(services)) {
   setWindowTitle("Upper/lower case");
   auto* row = new QHBoxLayout;
-  row->addWidget(AddOptionGroup(*this, "frameOpt", "Conversion", "opt1",
+  row->addWidget(AddOptionGroup(*this, "frameOpt", "Conversion", kConversionOptions,
                                 {"&First letter upper case", "Each &word capitalized", "&UPPER CASE", "&lower case",
                                  "&Swap case"}));
   row->addWidget(AddOptionGroup(*this, "frameapply", "Apply to", "opt2",
@@ -43,10 +47,10 @@ FrmULCase::FrmULCase(ActionWindowServices services)
 }
 
 void FrmULCase::AfterLocalised() {
-  for (int index = 1; index <= 5; ++index) {
+  for (int index = 1; index <= kConversions; ++index) {
     const std::string text =
         Services().catalog.GetText(kLanguageSection, "optOpt" + std::to_string(index));
-    if (!text.empty()) findChild<QRadioButton*>(QString("opt1(%1)").arg(index))->setText(QString::fromStdString(text));
+    if (!text.empty()) findChild<QRadioButton*>(ControlArrayMember(kConversionOptions, index))->setText(QString::fromStdString(text));
   }
 }
 

@@ -10,13 +10,14 @@
 
 #include "ui/common/DialogBinder.h"
 #include "ui/common/DialogTexts.h"
+#include "ui/common/FormNames.h"
 
 namespace nomra::ui {
 
 FrmScript::FrmScript(MainModel& model, const lang::MessageCatalog& catalog, QWidget* mainWindow,
                      const QString& appTitle)
     : QDialog(mainWindow), chooser_(model) {
-  setObjectName("frmScript");
+  setObjectName(kScriptDialogName);
   setWindowTitle("Scripts");
   resize(480, 360);
   auto* layout = new QVBoxLayout(this);

@@ -28,11 +28,13 @@ QPushButton* AddButton(QWidget& parent, QBoxLayout& row, const char* name, const
 }
 
 QTreeWidget* MakeStructureList(QWidget& parent) {
+  // The first head takes the list's own text.
+  const QString name = QStringLiteral("lstStructures");
   auto* list = new QTreeWidget(&parent);
-  list->setObjectName("lstStructures");
+  list->setObjectName(name);
   list->setColumnCount(2);
   list->setHeaderLabels({"Name", "Structure"});
-  list->setProperty(kHeaderTagsProperty, QStringList{"lstStructures", "lstColHead02"});
+  list->setProperty(kHeaderTagsProperty, QStringList{name, "lstColHead02"});
   list->setRootIsDecorated(false);
   list->setUniformRowHeights(true);
   list->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -81,8 +83,8 @@ FrmNameStructure::FrmNameStructure(ActionWindowServices services)
 
   LocaliseDialog(*this, services_.catalog, services_.mainWindow, services_.appTitle);
   editor_.Load();
-  findChild<StructureTagList*>("lstElements")->ShowChoices(editor_.Elements());
-  findChild<StructureTagList*>("lstFunctions")->ShowChoices(editor_.Functions());
+  elements_->ShowChoices(editor_.Elements());
+  functions_->ShowChoices(editor_.Functions());
   ShowEditor();
 
   connect(structures_, &QTreeWidget::currentItemChanged, this, [this] {
@@ -134,10 +136,10 @@ QGroupBox* FrmNameStructure::BuildFrameEdit() {
   layout->addLayout(grid);
 
   auto* lists = new QHBoxLayout;
-  lists->addLayout(LabelledTagList(*frame, "lblAvailableElements", "E&lements:",
-                                   *new StructureTagList("lstElements", "Element", frame)));
-  lists->addLayout(LabelledTagList(*frame, "lblAvailableFunctions", "F&unctions:",
-                                   *new StructureTagList("lstFunctions", "Function", frame)));
+  elements_ = new StructureTagList("lstElements", "Element", frame);
+  functions_ = new StructureTagList("lstFunctions", "Function", frame);
+  lists->addLayout(LabelledTagList(*frame, "lblAvailableElements", "E&lements:", *elements_));
+  lists->addLayout(LabelledTagList(*frame, "lblAvailableFunctions", "F&unctions:", *functions_));
   layout->addLayout(lists, 1);
 
   auto* row = new QHBoxLayout;

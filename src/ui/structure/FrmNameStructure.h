@@ -12,6 +12,8 @@ class QTreeWidget;
 
 namespace nomra::ui {
 
+class StructureTagList;
+
 // frmNameStructure: the stored name structures (frameMain), the editor of
 // one of them (frameEdit) with the tags on offer and a preview on the file
 // list, and applying the chosen structure.
@@ -47,6 +49,8 @@ class FrmNameStructure final : public QDialog {
   QTreeWidget* structures_ = nullptr;
   QLineEdit* name_ = nullptr;
   QLineEdit* structure_ = nullptr;
+  StructureTagList* elements_ = nullptr;   // lstElements
+  StructureTagList* functions_ = nullptr;  // lstFunctions
   QPushButton* edit_ = nullptr;
   QPushButton* delete_ = nullptr;
   QPushButton* structureOk_ = nullptr;
