@@ -25,4 +25,6 @@ void LocaliseDialog(QWidget& dialog, const lang::MessageCatalog& catalog, const 
   LocaliseWidget(dialog, QString(), catalog, sources);
 }
 
+QString DialogTitleOf(const QString& menuCaption) { return QString(menuCaption).remove('&').remove("..."); }
+
 }  // namespace nomra::ui

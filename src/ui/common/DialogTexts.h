@@ -12,4 +12,8 @@ namespace nomra::ui {
 void LocaliseDialog(QWidget& dialog, const lang::MessageCatalog& catalog, const QWidget* mainWindow,
                     const QString& appTitle);
 
+// The title of a dialog that a menu entry opens: the entry's caption without
+// its shortcut mark and its "...".
+QString DialogTitleOf(const QString& menuCaption);
+
 }  // namespace nomra::ui

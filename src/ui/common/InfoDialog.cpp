@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QSysInfo>
 
+#include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
 #include "ui/common/ProductLabels.h"
 
@@ -22,26 +23,23 @@ InfoDialog::InfoDialog(const lang::MessageCatalog& catalog, const QString& appTi
   about->setObjectName("Label1");
   about->setWordWrap(true);
   grid->addWidget(about, 1, 1);
-  auto* versionLabel = new QLabel(this);
-  versionLabel->setObjectName("lblVers");
+  QLabel* versionLabel = VersionLabel(*this);
   grid->addWidget(versionLabel, 2, 1);
   auto* build = new QLabel(this);
   build->setObjectName("lblBuild");
   grid->addWidget(build, 3, 1);
-  auto* copyright = new QLabel(QString::fromUtf8("\u00a9 The Nomra developers"), this);
-  copyright->setObjectName("lblCopy");
-  grid->addWidget(copyright, 4, 1);
+  grid->addWidget(CopyrightLabel(*this), 4, 1);
   auto* link = new QLabel(this);
   link->setObjectName("lblWebLink");
   grid->addWidget(link, 5, 1);
-  auto* ok = new QPushButton("OK", this);
-  ok->setObjectName("cmdOK");
+  QPushButton* ok = OkButton(*this);
   ok->setDefault(true);
   grid->addWidget(ok, 6, 1, Qt::AlignRight);
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
 
   LocaliseDialog(*this, catalog, parent, appTitle);
-  versionLabel->setText("Version " + version);
+  ShowVersion(*versionLabel, version);
+  // Qt's version is plain ASCII, no engine text.
   build->setText(QString("Qt %1, %2").arg(QString::fromLatin1(qVersion()), QSysInfo::prettyProductName()));
 }
 

@@ -12,6 +12,7 @@
 #include "settings/SettingsKeys.h"
 #include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
+#include "ui/common/NamedControls.h"
 
 namespace nomra::ui {
 
@@ -19,11 +20,9 @@ LanguageDialog::LanguageDialog(const std::string& appFolder, std::string setting
                                const lang::MessageCatalog& catalog, const QString& menuCaption, QWidget* parent)
     : QDialog(parent), settingsFile_(std::move(settingsFile)), files_(lang::ListLanguageFiles(appFolder)) {
   setObjectName("frmOptions");
-  setWindowTitle(menuCaption.isEmpty() ? QString("Options") : QString(menuCaption).remove('&').remove("..."));
+  setWindowTitle(menuCaption.isEmpty() ? QString("Options") : DialogTitleOf(menuCaption));
   auto* layout = new QVBoxLayout(this);
-  auto* label = new QLabel("Language:", this);
-  label->setObjectName("lblLng");
-  layout->addWidget(label);
+  QLabel* label = AddNamedLabel(*layout, *this, "lblLng", "Language:");
   choices_ = new QComboBox(this);
   choices_->setObjectName("cmbLngSel");
   label->setBuddy(choices_);

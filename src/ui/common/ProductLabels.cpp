@@ -1,13 +1,14 @@
 #include "ui/common/ProductLabels.h"
 
-#include <QIcon>
 #include <QLabel>
 
 namespace nomra::ui {
 
+QIcon ProgramIcon() { return QIcon(QStringLiteral(":/icons/nomra.svg")); }
+
 QLabel* ProgramPicture(QWidget& parent) {
   auto* picture = new QLabel(&parent);
-  picture->setPixmap(QIcon(":/icons/nomra.svg").pixmap(64, 64));
+  picture->setPixmap(ProgramIcon().pixmap(64, 64));
   return picture;
 }
 
@@ -19,6 +20,20 @@ QLabel* ProductNameLabel(QWidget& parent, const QString& appTitle, double scale)
   big.setBold(true);
   name->setFont(big);
   return name;
+}
+
+QLabel* VersionLabel(QWidget& parent) {
+  auto* label = new QLabel(&parent);
+  label->setObjectName("lblVers");
+  return label;
+}
+
+void ShowVersion(QLabel& label, const QString& version) { label.setText("Version " + version); }
+
+QLabel* CopyrightLabel(QWidget& parent) {
+  auto* copyright = new QLabel(QStringLiteral("\u00a9 The Nomra developers"), &parent);
+  copyright->setObjectName("lblCopy");
+  return copyright;
 }
 
 }  // namespace nomra::ui

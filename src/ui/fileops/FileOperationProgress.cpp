@@ -10,6 +10,7 @@
 
 #include "fileops/MessageKeys.h"
 #include "lang/LanguageKeys.h"
+#include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
 
 namespace nomra::ui {
@@ -54,12 +55,7 @@ FileOperationProgress::FileOperationProgress(const lang::MessageCatalog& catalog
   layout->addWidget(step_);
   layout->addWidget(file_);
   layout->addWidget(bar_);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  auto* cancel = new QPushButton("Cancel", this);
-  cancel->setObjectName("cmdCancel");
-  buttons->addWidget(cancel);
-  layout->addLayout(buttons);
+  QPushButton* cancel = AddCancelButton(*AddButtonRow(*layout), *this);
   connect(cancel, &QPushButton::clicked, this, [this] { cancelled_ = true; });
   LocaliseDialog(*this, catalog, parent, QString());
 }

@@ -7,14 +7,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "base/Fault.h"
 #include "lang/LanguageKeys.h"
 #include "ui/common/DialogBinder.h"
 #include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
+#include "ui/common/NamedControls.h"
+#include "ui/common/RunShowingFault.h"
 #include "ui/fileops/FileOperationProgress.h"
 
 namespace nomra::ui {
@@ -24,17 +24,10 @@ namespace {
 constexpr char kTargetPathName[] = "txtTargetPath";
 
 QGroupBox* BuildFrameCopy(QWidget& dialog) {
-  auto* frame = new QGroupBox("Which files get the new names?", &dialog);
-  frame->setObjectName("frameCopy");
-  auto* options = new QVBoxLayout(frame);
-  for (const auto& [name, text] : {std::pair{"optRenOriginal", "The originals (the copies keep the old names)"},
-                                   std::pair{"optRenCopy", "Only the copies"},
-                                   std::pair{"optRenBoth", "Originals and copies"}}) {
-    auto* option = new QRadioButton(text, frame);
-    option->setObjectName(name);
-    options->addWidget(option);
-  }
-  return frame;
+  return NamedOptionGroup(dialog, "frameCopy", "Which files get the new names?",
+                          {{"optRenOriginal", "The originals (the copies keep the old names)"},
+                           {"optRenCopy", "Only the copies"},
+                           {"optRenBoth", "Originals and copies"}});
 }
 
 }  // namespace
@@ -56,8 +49,7 @@ FrmSelAction::FrmSelAction(const QString& tag, MainModel& model, const lang::Mes
   targetPath_ = new QLineEdit(this);
   targetPath_->setObjectName(kTargetPathName);
   label->setBuddy(targetPath_);
-  auto* browse = new QPushButton("...", this);
-  browse->setObjectName("cmdSelPath");
+  QPushButton* browse = NamedButton(*this, "cmdSelPath", "...");
   target->addWidget(label, 0, 0, 1, 2);
   target->addWidget(targetPath_, 1, 0);
   target->addWidget(browse, 1, 1);
@@ -108,11 +100,9 @@ void FrmSelAction::cmdOK() {
   ReadWidgetsIntoModel(engine_.Model(), *this);
   FileOperationProgress progress(catalog_, this);
   fileops::OperationServices services{system_, model_.frontEnd, progress};
-  try {
+  RunShowingFault(model_.frontEnd, [&] {
     if (engine_.cmdOK(model_, services)) accept();
-  } catch (const RuntimeFault& fault) {
-    model_.frontEnd.ShowFault(fault.what());
-  }
+  });
 }
 
 }  // namespace nomra::ui

@@ -8,6 +8,7 @@
 
 #include "base/DateText.h"
 #include "base/NumberText.h"
+#include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
 
 namespace nomra::ui {
@@ -74,13 +75,8 @@ PropertiesDialog::PropertiesDialog(const fileops::FileProperties& p, const lang:
     form->addRow(label, value);
   }
   layout->addLayout(form);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  auto* close = new QPushButton("OK", this);
-  close->setObjectName("cmdOK");
+  QPushButton* close = AddOkButton(*AddButtonRow(*layout), *this);
   close->setDefault(true);
-  buttons->addWidget(close);
-  layout->addLayout(buttons);
   connect(close, &QPushButton::clicked, this, &QDialog::accept);
   LocaliseDialog(*this, catalog, parent, QString());
 }

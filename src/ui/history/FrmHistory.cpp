@@ -9,11 +9,12 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "base/Fault.h"
 #include "history/LoadHistory.h"
+#include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
 #include "ui/common/QtFrontEnd.h"
 #include "ui/common/QtLocalisation.h"
+#include "ui/common/RunShowingFault.h"
 #include "ui/mainwindow/NotRenamedDialog.h"
 
 namespace nomra::ui {
@@ -44,13 +45,6 @@ QTreeWidget* MakeFileList(QWidget& parent) {
   return files;
 }
 
-QPushButton* AddButton(QWidget& frame, QHBoxLayout& row, const char* name, const char* caption) {
-  auto* button = new QPushButton(caption, &frame);
-  button->setObjectName(name);
-  row.addWidget(button);
-  return button;
-}
-
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
 }  // namespace
@@ -75,10 +69,10 @@ FrmHistory::FrmHistory(MainModel& model, QtFrontEnd& frontEnd, const lang::Messa
   frame->setObjectName("FrameButtom");
   auto* buttons = new QHBoxLayout(frame);
   buttons->setContentsMargins(0, 0, 0, 0);
-  undo_ = AddButton(*frame, *buttons, "cmdUndoRenaming", "&Undo renaming");
-  delete_ = AddButton(*frame, *buttons, "cmdDeleteHistory", "&Delete history");
+  undo_ = AddNamedButton(*buttons, *frame, "cmdUndoRenaming", "&Undo renaming");
+  delete_ = AddNamedButton(*buttons, *frame, "cmdDeleteHistory", "&Delete history");
   buttons->addStretch(1);
-  QPushButton* close = AddButton(*frame, *buttons, "cmdClose", "&Close");
+  QPushButton* close = AddNamedButton(*buttons, *frame, "cmdClose", "&Close");
   layout->addWidget(frame);
 
   connect(files_, &QTreeWidget::itemSelectionChanged, this, &FrmHistory::TakeSelection);
@@ -93,11 +87,7 @@ FrmHistory::FrmHistory(MainModel& model, QtFrontEnd& frontEnd, const lang::Messa
 }
 
 void FrmHistory::Run(const std::function<void()>& command) {
-  try {
-    command();
-  } catch (const RuntimeFault& fault) {
-    frontEnd_.ShowFault(fault.what());
-  }
+  RunShowingFault(frontEnd_, command);
   ShowRows();
 }
 

@@ -1,15 +1,15 @@
 #include "ui/mainwindow/EditManDialog.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "core/ManualEdit.h"
 #include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
+#include "ui/common/NameKeyFilter.h"
+#include "ui/common/NamedControls.h"
 
 namespace nomra::ui {
 
@@ -18,13 +18,11 @@ EditManDialog::EditManDialog(const QString& pendingName, const lang::MessageCata
   setObjectName("frmEditMan");
   setWindowTitle("Edit name");
   auto* layout = new QVBoxLayout(this);
-  auto* label = new QLabel("New name:", this);
-  label->setObjectName("lbl1");
-  layout->addWidget(label);
+  QLabel* label = AddNamedLabel(*layout, *this, "lbl1", "New name:");
   name_ = new QLineEdit(pendingName, this);
   name_->setObjectName("txtFileName");
   name_->setMinimumWidth(420);
-  name_->installEventFilter(this);
+  name_->installEventFilter(new NameKeyFilter(this));
   label->setBuddy(name_);
   layout->addWidget(name_);
   QPushButton* ok = AddOkCancelRow(*this, *layout);
@@ -37,15 +35,5 @@ EditManDialog::EditManDialog(const QString& pendingName, const lang::MessageCata
 }
 
 QString EditManDialog::Text() const { return name_->text(); }
-
-bool EditManDialog::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == name_ && event->type() == QEvent::KeyPress) {
-    const QString typed = static_cast<QKeyEvent*>(event)->text();
-    for (const QChar character : typed) {
-      if (!AcceptsNameCharacter(character.unicode())) return true;
-    }
-  }
-  return QDialog::eventFilter(watched, event);
-}
 
 }  // namespace nomra::ui

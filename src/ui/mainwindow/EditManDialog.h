@@ -15,9 +15,6 @@ class EditManDialog final : public QDialog {
   EditManDialog(const QString& pendingName, const lang::MessageCatalog& catalog, QWidget* parent = nullptr);
   QString Text() const;
 
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
  private:
   QLineEdit* name_ = nullptr;
 };

@@ -18,7 +18,6 @@
 #include <QToolBar>
 #include <QToolButton>
 
-#include "base/Fault.h"
 #include "commit/CommitRecovery.h"
 #include "core/AddFile.h"
 #include "core/CommandState.h"
@@ -31,6 +30,8 @@
 #include "lang/LanguageKeys.h"
 #include "ui/common/ButtonIcons.h"
 #include "ui/common/FormNames.h"
+#include "ui/common/ProductLabels.h"
+#include "ui/common/RunShowingFault.h"
 #include "ui/common/QtLocalisation.h"
 #include "ui/mainwindow/FileListModel.h"
 #include "ui/mainwindow/IconCellDelegate.h"
@@ -74,7 +75,7 @@ MainWindow::MainWindow(Services services, QWidget* parent)
   RegisterOwnPictures();
   setObjectName(kMainWindowName);
   setWindowTitle(appTitle_);
-  setWindowIcon(QIcon(":/icons/nomra.svg"));
+  setWindowIcon(ProgramIcon());
   setAcceptDrops(true);
   for (const QString& name : CommandsNotYetBuilt()) notYetBuilt_.insert(name);
   for (int stepType = 1; stepType <= kActionMenuEntries; ++stepType) {
@@ -104,11 +105,7 @@ MainWindow::MainWindow(Services services, QWidget* parent)
   ShowUnresolved(frontEnd_, interrupted);
 
   if (paths_.dataFolderUsable) ResetScriptTemp(model_.script);
-  LocaliseWidget(*this, QString(), catalog_, lang::CaptionSources{});
-  setLngalt();
-  // The entries are the scripts' own names, never language texts.
-  FillScriptMenu();
-  RefreshPreview();
+  ShowLanguageTexts();
 }
 
 MainWindow::~MainWindow() {
@@ -127,8 +124,13 @@ void MainWindow::UseLanguage(const std::string& languageFile) {
   for (auto it = baseToolTips_.constBegin(); it != baseToolTips_.constEnd(); ++it) {
     ToolAction(kMainBar, it.key())->setToolTip(it.value());
   }
+  ShowLanguageTexts();
+}
+
+void MainWindow::ShowLanguageTexts() {
   LocaliseWidget(*this, QString(), catalog_, lang::CaptionSources{});
   setLngalt();
+  // The entries are the scripts' own names, never language texts.
   FillScriptMenu();
   RefreshPreview();
 }
@@ -433,24 +435,18 @@ void MainWindow::SelectionHandler() {
 }
 
 void MainWindow::AddPaths(const QStringList& paths) {
-  SetBusyLoading(true);
-  model_.cancelLoading = false;
-  for (const QString& path : paths) {
-    // The cancel button is let through by the pump inside the loader.
-    if (model_.cancelLoading) break;
-    // A path that vanished since it was dropped is passed over, as the
-    // existence check would.
-    if (!QFileInfo::exists(path)) continue;
-    std::string text = path.toStdString();
-    try {
-      AddFile(model_, text);
-    } catch (const RuntimeFault& fault) {
-      frontEnd_.ShowFault(fault.what());
+  RunLoad([&] {
+    for (const QString& path : paths) {
+      // The cancel button is let through by the pump inside the loader.
+      if (model_.cancelLoading) break;
+      // A path that vanished since it was dropped is passed over, as the
+      // existence check would.
+      if (!QFileInfo::exists(path)) continue;
+      std::string text = path.toStdString();
+      // A path that fails is told, and the next one loads.
+      RunShowingFault(frontEnd_, [&] { AddFile(model_, text); });
     }
-  }
-  model_.cancelLoading = false;
-  SetBusyLoading(false);
-  RefreshPreview();
+  });
 }
 
 // While files load, the cancel button is the one control meant to be used.

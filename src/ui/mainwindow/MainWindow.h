@@ -147,6 +147,9 @@ class MainWindow final : public QMainWindow {
   void LoadSettingsIntoWindow();
   void ApplyWindowPlacement();
   void setLngalt();
+  // The texts of the language in force on every control, then the script
+  // drop-down and the refresh.
+  void ShowLanguageTexts();
 
   // Refresh parts.
   void ApplyCommandStates();

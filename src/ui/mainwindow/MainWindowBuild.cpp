@@ -21,6 +21,7 @@
 #include "core/CommandState.h"
 #include "ui/common/ButtonIcons.h"
 #include "ui/common/FormNames.h"
+#include "ui/common/NamedControls.h"
 #include "ui/common/QtLocalisation.h"
 #include "ui/mainwindow/FileListModel.h"
 #include "ui/mainwindow/IconCellDelegate.h"
@@ -300,12 +301,10 @@ void MainWindow::BuildCentral() {
   layout->setContentsMargins(4, 4, 4, 4);
 
   auto* scopeRow = new QHBoxLayout;
-  auto* scopeLabel = new QLabel("Apply actions to:", central);
-  scopeLabel->setObjectName("lblApplyTo");
+  QLabel* scopeLabel = AddNamedLabel(*scopeRow, *central, "lblApplyTo", "Apply actions to:");
   applyTo_ = new QComboBox(central);
   applyTo_->setObjectName(kApplyScopeListName);
   scopeLabel->setBuddy(applyTo_);
-  scopeRow->addWidget(scopeLabel);
   scopeRow->addWidget(applyTo_);
   scopeRow->addStretch(1);
   layout->addLayout(scopeRow);

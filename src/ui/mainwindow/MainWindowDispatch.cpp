@@ -6,12 +6,12 @@
 #include <QToolBar>
 #include <utility>
 
-#include "base/Fault.h"
 #include "core/NameHistory.h"
 #include "core/RemoveRows.h"
 #include "core/SortFileList.h"
 #include "open/OpenCommand.h"
 #include "ui/common/QtLocalisation.h"
+#include "ui/common/RunShowingFault.h"
 #include "ui/fileops/FileOperationCommands.h"
 #include "ui/history/FrmHistory.h"
 #include "ui/mainwindow/FileListModel.h"
@@ -44,12 +44,7 @@ void MainWindow::BuildCommandTables() {
   // control ran it: the button, its drop-down or the menu entry behind it.
   auto mainTool = [this, &tool](const QString& key, Command run) {
     tool(kMainBar, key, [this, run = std::move(run)] {
-      try {
-        run();
-      } catch (const RuntimeFault& fault) {
-        frontEnd_.ShowFault(fault.what());
-        RefreshPreview();
-      }
+      if (!RunShowingFault(frontEnd_, run)) RefreshPreview();
     });
   };
   auto dropDownEntry = [this, &tool](const QString& button, const QString& entry) {

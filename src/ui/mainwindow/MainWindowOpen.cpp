@@ -9,7 +9,9 @@
 #include "open/StagedFiles.h"
 #include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
+#include "ui/common/DialogTexts.h"
 #include "ui/common/FormNames.h"
+#include "ui/common/RunShowingFault.h"
 #include "ui/mainwindow/MainWindow.h"
 #include "ui/open/FrmOpen.h"
 #include "ui/open/SystemOpenDialog.h"
@@ -35,8 +37,6 @@ std::vector<open::FilterRow> PlaylistFilters() {
   }
   return rows;
 }
-
-QString DialogTitle(const QAction* entry) { return entry->text().remove('&').remove("..."); }
 
 }  // namespace
 
@@ -65,14 +65,14 @@ void MainWindow::OpenFilesDialog(open::OpenMode mode) {
     if (allRows.empty()) allRows = "All files (*.*)";
     const std::string label = catalog_.GetText(kOpenDialogName, "AllFiles");
     setup.filters = open::BuildFilterList(paths_.settingsPath, allRows);
-    setup.title = DialogTitle(MenuAction(kOpenFileEntry));
+    setup.title = DialogTitleOf(MenuAction(kOpenFileEntry)->text());
     setup.allFilesLabel = label.empty() ? QString("(All files)") : QString::fromStdString(label);
     setup.allFiles = settings_.chkAll == 1;
     setup.subFolders = settings_.chkSub == 1;
     setup.filterIndex = filesFilterIndex;
   } else {
     setup.filters = PlaylistFilters();
-    setup.title = DialogTitle(MenuAction(kOpenFromListEntry));
+    setup.title = DialogTitleOf(MenuAction(kOpenFromListEntry)->text());
   }
   const std::vector<open::FilterRow> filters = setup.filters;
   SystemOpenDialog dialog(setup, catalog_, this);
@@ -111,11 +111,7 @@ void MainWindow::RunCommandLine(const std::vector<std::string>& arguments) {
 void MainWindow::RunLoad(const std::function<void()>& load) {
   SetBusyLoading(true);
   model_.cancelLoading = false;
-  try {
-    load();
-  } catch (const RuntimeFault& fault) {
-    frontEnd_.ShowFault(fault.what());
-  }
+  RunShowingFault(frontEnd_, load);
   // A stop the loader left standing is spent here, so the next load runs.
   model_.cancelLoading = false;
   SetBusyLoading(false);

@@ -5,11 +5,11 @@
 #include <QLabel>
 #include <QMenu>
 
-#include "base/Fault.h"
 #include "base/LocalClock.h"
 #include "script/ScriptFiles.h"
 #include "script/ScriptPlayback.h"
 #include "script/ScriptRecording.h"
+#include "ui/common/RunShowingFault.h"
 #include "ui/mainwindow/MainWindow.h"
 #include "ui/rename/ActionWindows.h"
 #include "ui/script/FrmScript.h"
@@ -31,11 +31,7 @@ ActionWindowServices MainWindow::ActionServices() {
 void MainWindow::OpenAction(int stepType) { OpenActionWindow(stepType, ActionServices()); }
 
 void MainWindow::PlayScriptSteps() {
-  try {
-    PlayScript(model_.script, [this](int stepType) { OpenAction(stepType); });
-  } catch (const RuntimeFault& fault) {
-    frontEnd_.ShowFault(fault.what());
-  }
+  RunShowingFault(frontEnd_, [this] { PlayScript(model_.script, [this](int stepType) { OpenAction(stepType); }); });
   RefreshPreview();
 }
 
@@ -50,11 +46,9 @@ void MainWindow::mnuStopRecordScript() {
 }
 
 void MainWindow::EndRecording() {
-  try {
+  RunShowingFault(frontEnd_, [this] {
     if (EndScriptRecording(model_, LocalTimeNow)) FillScriptMenu();
-  } catch (const RuntimeFault& fault) {
-    frontEnd_.ShowFault(fault.what());
-  }
+  });
 }
 
 void MainWindow::mnuStartRunScript() {
@@ -65,11 +59,9 @@ void MainWindow::mnuStartRunScript() {
 }
 
 void MainWindow::RunSelectedScriptButton() {
-  try {
+  RunShowingFault(frontEnd_, [this] {
     RunSelectedScript(model_, selectedScriptFile_.toStdString(), [this](int stepType) { OpenAction(stepType); });
-  } catch (const RuntimeFault& fault) {
-    frontEnd_.ShowFault(fault.what());
-  }
+  });
   selectedScript_->setText(QString::fromStdString(model_.selectedScriptLabel));
   RefreshPreview();
 }

@@ -14,6 +14,7 @@
 #include "ui/common/DialogBinder.h"
 #include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
+#include "ui/common/NamedControls.h"
 
 namespace nomra::ui {
 
@@ -64,9 +65,7 @@ NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::Messa
   for (const std::string& key : result.renamed) renamed->addItem(QString::fromStdString(key));
   layout->addWidget(renamed, 1);
 
-  auto* what = new QLabel("What should happen with the renamed files:", this);
-  what->setObjectName(kChoiceLabel);
-  layout->addWidget(what);
+  AddNamedLabel(*layout, *this, kChoiceLabel, "What should happen with the renamed files:");
   noAction_ = new QRadioButton("Leave them in the list", this);
   noAction_->setObjectName(kNoActionOption);
   noAction_->setChecked(true);

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
 #include "ui/common/ProductLabels.h"
 
@@ -25,23 +26,19 @@ StartWindow::StartWindow(const lang::MessageCatalog& catalog, const QString& app
   subtitle->setObjectName("lblSV");
   subtitle->setAlignment(Qt::AlignCenter);
   layout->addWidget(subtitle);
-  auto* versionLabel = new QLabel(this);
-  versionLabel->setObjectName("lblVers");
+  QLabel* versionLabel = VersionLabel(*this);
   versionLabel->setAlignment(Qt::AlignCenter);
   layout->addWidget(versionLabel);
-  auto* copyright = new QLabel(QString::fromUtf8("\u00a9 The Nomra developers"), this);
-  copyright->setObjectName("lblCopy");
+  QLabel* copyright = CopyrightLabel(*this);
   copyright->setAlignment(Qt::AlignCenter);
   layout->addWidget(copyright);
-  auto* ok = new QPushButton("OK", this);
-  ok->setObjectName("cmdOK");
+  QPushButton* ok = OkButton(*this);
   ok->setDefault(true);
   layout->addWidget(ok, 0, Qt::AlignCenter);
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
 
   LocaliseDialog(*this, catalog, parent, appTitle);
-  // The version is the program's own, whatever the language file says.
-  versionLabel->setText("Version " + version);
+  ShowVersion(*versionLabel, version);
 
   timer_.setObjectName("Zeit1");
   timer_.setSingleShot(true);

@@ -16,8 +16,10 @@
 #include <QVBoxLayout>
 
 #include "ui/common/ButtonIcons.h"
+#include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
 #include "ui/common/FormNames.h"
+#include "ui/common/NamedControls.h"
 #include "ui/common/QtLocalisation.h"
 
 namespace nomra::ui {
@@ -30,13 +32,6 @@ QAction* AddBarButton(QToolBar& bar, const QString& key, const QString& designTi
   action->setProperty(kStyleProperty, lang::kButtonStyleDefault);
   action->setObjectName(bar.objectName() + key);
   return action;
-}
-
-QLabel* AddLabel(QBoxLayout& layout, QWidget& parent, const QString& name, const QString& designText) {
-  auto* label = new QLabel(designText, &parent);
-  label->setObjectName(name);
-  layout.addWidget(label);
-  return label;
 }
 
 // The open list of DrvSel shows the levels of the folder indented; the
@@ -69,7 +64,7 @@ void FrmOpen::BuildLayout() {
   auto* layout = new QVBoxLayout(this);
 
   auto* top = new QHBoxLayout;
-  QLabel* lookIn = AddLabel(*top, *this, "lblLookIn", "Look &in:");
+  QLabel* lookIn = AddNamedLabel(*top, *this, "lblLookIn", "Look &in:");
   locations_ = new QComboBox(this);
   locations_->setObjectName("DrvSel");
   locations_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -103,7 +98,7 @@ void FrmOpen::BuildLayout() {
   rows_->installEventFilter(this);
   middle->addWidget(rows_, 3);
   auto* filterColumn = new QVBoxLayout;
-  QLabel* type = AddLabel(*filterColumn, *this, "lblType", "&Filters:");
+  QLabel* type = AddNamedLabel(*filterColumn, *this, "lblType", "&Filters:");
   filterList_ = new QListWidget(this);
   filterList_->setObjectName("lstFilters");
   type->setBuddy(filterList_);
@@ -113,7 +108,7 @@ void FrmOpen::BuildLayout() {
   layout->addLayout(middle, 1);
 
   auto* selected = new QHBoxLayout;
-  QLabel* names = AddLabel(*selected, *this, "lblSelected", "File &names:");
+  QLabel* names = AddNamedLabel(*selected, *this, "lblSelected", "File &names:");
   names_ = new QLineEdit(this);
   names_->setObjectName("txtFiles");
   names_->setReadOnly(true);
@@ -130,14 +125,10 @@ void FrmOpen::BuildLayout() {
   bottom->addWidget(allFiles_);
   bottom->addWidget(subFolders_);
   bottom->addStretch(1);
-  auto* open = new QPushButton("&Open", this);
-  open->setObjectName("cmdOpen");
+  QPushButton* open = AddNamedButton(*bottom, *this, "cmdOpen", "&Open");
   open->setDefault(true);
-  auto* cancel = new QPushButton("Cancel", this);
-  cancel->setObjectName("cmdCancel");
+  QPushButton* cancel = AddCancelButton(*bottom, *this);
   cancel->setAutoDefault(false);
-  bottom->addWidget(open);
-  bottom->addWidget(cancel);
   layout->addLayout(bottom);
 
   connect(locations_, &QComboBox::activated, this, &FrmOpen::OnLocationChosen);

@@ -1,30 +1,23 @@
 #include "ui/rename/ActionDialogWindow.h"
 
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "base/Fault.h"
 #include "rename/ActionFrame.h"
 #include "ui/common/DialogBinder.h"
+#include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
 #include "ui/common/FormNames.h"
+#include "ui/common/RunShowingFault.h"
 
 namespace nomra::ui {
 
 namespace {
 
 constexpr char kRunCaptionKey[] = "FrmRunCaption";
-
-QPushButton* AddFrameButton(QHBoxLayout& row, QWidget& parent, const char* name, const QString& text) {
-  auto* button = new QPushButton(text, &parent);
-  button->setObjectName(name);
-  row.addWidget(button);
-  return button;
-}
 
 }  // namespace
 
@@ -37,20 +30,13 @@ ActionDialogWindow::ActionDialogWindow(std::unique_ptr<ActionDialog> action, Act
   layout->addLayout(inputArea_);
   layout->addStretch(1);
 
-  auto* buttons = new QHBoxLayout;
-  QPushButton* help = AddFrameButton(*buttons, *this, "cmdHelp", "&Help");
-  // The help pages come later; the button shows where they will open.
-  help->setEnabled(false);
-  buttons->addStretch(1);
-  apply_ = AddFrameButton(*buttons, *this, "cmdApply", "&Apply");
-  ok_ = AddFrameButton(*buttons, *this, "cmdOK", "OK");
-  QPushButton* cancel = AddFrameButton(*buttons, *this, "cmdCancel", "Cancel");
-  layout->addLayout(buttons);
+  const ActionButtons buttons = AddActionButtonRow(*this, *layout);
+  apply_ = buttons.apply;
+  ok_ = buttons.ok;
   ok_->setDefault(true);
 
   connect(apply_, &QPushButton::clicked, this, &ActionDialogWindow::cmdApply);
   connect(ok_, &QPushButton::clicked, this, &ActionDialogWindow::cmdOK);
-  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 ActionDialogWindow::~ActionDialogWindow() = default;
@@ -96,11 +82,7 @@ void ActionDialogWindow::cmdApply() {
     apply_->setEnabled(false);
     ok_->setEnabled(false);
   }
-  try {
-    ApplyActionDialog(*action_, services_.model);
-  } catch (const RuntimeFault& fault) {
-    services_.model.frontEnd.ShowFault(fault.what());
-  }
+  RunShowingFault(services_.model.frontEnd, [this] { ApplyActionDialog(*action_, services_.model); });
   // An action may tidy its inputs while it runs; the dialog shows them so.
   ShowModelInWidgets(action_->Model(), *this);
   AfterInputsShown();

@@ -1,6 +1,8 @@
 #pragma once
 #include "ui/rename/ActionDialogWindow.h"
 
+class QLabel;
+
 namespace nomra::ui {
 
 // Prefix and suffix: txtPr and txtSu, with labels cut from the caption.
@@ -11,6 +13,10 @@ class FrmPrefixSuffix final : public ActionDialogWindow {
 
  protected:
   void AfterLocalised() override;
+
+ private:
+  QLabel* prefixLabel_ = nullptr;  // lblPrefix
+  QLabel* suffixLabel_ = nullptr;  // lblSuffix
 };
 
 }  // namespace nomra::ui

@@ -3,9 +3,9 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QRadioButton>
-#include <QVBoxLayout>
 
 #include "rename/CaseAction.h"
+#include "ui/common/NamedControls.h"
 #include "ui/common/QtLocalisation.h"
 
 namespace nomra::ui {
@@ -18,17 +18,12 @@ constexpr char kLanguageSection[] = "frmULCASE";
 constexpr char kConversionOptions[] = "opt1";
 constexpr int kConversions = 5;
 
+// A frame of options that form a control array: "opt2(1)", "opt2(2)", ...
 QGroupBox* AddOptionGroup(QWidget& parent, const char* frameName, const QString& title, const char* name,
                           const QStringList& texts) {
-  auto* frame = new QGroupBox(title, &parent);
-  frame->setObjectName(frameName);
-  auto* layout = new QVBoxLayout(frame);
-  for (int index = 1; index <= texts.size(); ++index) {
-    auto* option = new QRadioButton(texts[index - 1], frame);
-    option->setObjectName(ControlArrayMember(name, index));
-    layout->addWidget(option);
-  }
-  return frame;
+  std::vector<std::pair<QString, QString>> options;
+  for (int index = 1; index <= texts.size(); ++index) options.emplace_back(ControlArrayMember(name, index), texts[index - 1]);
+  return NamedOptionGroup(parent, frameName, title, options);
 }
 
 }  // namespace

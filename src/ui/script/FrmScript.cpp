@@ -5,12 +5,13 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "ui/common/DialogBinder.h"
+#include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
 #include "ui/common/FormNames.h"
+#include "ui/common/NamedControls.h"
 
 namespace nomra::ui {
 
@@ -21,36 +22,21 @@ FrmScript::FrmScript(MainModel& model, const lang::MessageCatalog& catalog, QWid
   setWindowTitle("Scripts");
   resize(480, 360);
   auto* layout = new QVBoxLayout(this);
-  auto* label = new QLabel("S&cripts:", this);
-  label->setObjectName("lblScript");
-  layout->addWidget(label);
+  QLabel* label = AddNamedLabel(*layout, *this, "lblScript", "S&cripts:");
   scripts_ = new QListWidget(this);
   scripts_->setObjectName("lstScript");
   label->setBuddy(scripts_);
   layout->addWidget(scripts_, 1);
 
-  auto* options = new QGroupBox("Action", this);
-  options->setObjectName("fraOptRun");
-  auto* optionsLayout = new QVBoxLayout(options);
-  for (const auto& [name, text] : {std::pair{"optRunAll", "Run &all steps"},
-                                   std::pair{"optRunSingleSteps", "Run s&tep by step"},
-                                   std::pair{"optDelete", "&Delete the script"}}) {
-    auto* option = new QRadioButton(text, options);
-    option->setObjectName(name);
-    optionsLayout->addWidget(option);
-  }
-  layout->addWidget(options);
+  layout->addWidget(NamedOptionGroup(*this, "fraOptRun", "Action",
+                                     {{"optRunAll", "Run &all steps"},
+                                      {"optRunSingleSteps", "Run s&tep by step"},
+                                      {"optDelete", "&Delete the script"}}));
 
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  start_ = new QPushButton("&Start", this);
-  start_->setObjectName("cmdStart");
+  QHBoxLayout* buttons = AddButtonRow(*layout);
+  start_ = AddNamedButton(*buttons, *this, "cmdStart", "&Start");
   start_->setDefault(true);
-  auto* cancel = new QPushButton("Cancel", this);
-  cancel->setObjectName("cmdCancel");
-  buttons->addWidget(start_);
-  buttons->addWidget(cancel);
-  layout->addLayout(buttons);
+  QPushButton* cancel = AddCancelButton(*buttons, *this);
 
   connect(start_, &QPushButton::clicked, this, &FrmScript::cmdStart);
   connect(cancel, &QPushButton::clicked, this, &FrmScript::cmdCancel);

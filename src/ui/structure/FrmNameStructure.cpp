@@ -11,21 +11,16 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "base/Fault.h"
+#include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
+#include "ui/common/NamedControls.h"
 #include "ui/common/QtLocalisation.h"
+#include "ui/common/RunShowingFault.h"
 #include "ui/structure/StructureTagList.h"
 
 namespace nomra::ui {
 
 namespace {
-
-QPushButton* AddButton(QWidget& parent, QBoxLayout& row, const char* name, const char* caption) {
-  auto* button = new QPushButton(caption, &parent);
-  button->setObjectName(name);
-  row.addWidget(button);
-  return button;
-}
 
 QTreeWidget* MakeStructureList(QWidget& parent) {
   // The first head takes the list's own text.
@@ -46,10 +41,7 @@ QTreeWidget* MakeStructureList(QWidget& parent) {
 // A tag list under its label, as one column of the editor.
 QVBoxLayout* LabelledTagList(QWidget& parent, const char* labelName, const char* label, StructureTagList& list) {
   auto* column = new QVBoxLayout;
-  auto* caption = new QLabel(label, &parent);
-  caption->setObjectName(labelName);
-  caption->setBuddy(&list);
-  column->addWidget(caption);
+  AddNamedLabel(*column, parent, labelName, label)->setBuddy(&list);
   column->addWidget(&list, 1);
   return column;
 }
@@ -69,17 +61,9 @@ FrmNameStructure::FrmNameStructure(ActionWindowServices services)
   layout->addWidget(frameEdit_, 1);
   preview_ = AddStructurePreview(*this, *layout);
 
-  auto* buttons = new QHBoxLayout;
-  // The help pages come later; the button shows where they will open.
-  AddButton(*this, *buttons, "cmdHelp", "&Help")->setEnabled(false);
-  buttons->addStretch(1);
-  QPushButton* apply = AddButton(*this, *buttons, "cmdApply", "&Apply");
-  QPushButton* ok = AddButton(*this, *buttons, "cmdOK", "OK");
-  QPushButton* cancel = AddButton(*this, *buttons, "cmdCancel", "Cancel");
-  layout->addLayout(buttons);
-  connect(apply, &QPushButton::clicked, this, &FrmNameStructure::cmdApply);
-  connect(ok, &QPushButton::clicked, this, &FrmNameStructure::cmdOK);
-  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+  const ActionButtons buttons = AddActionButtonRow(*this, *layout);
+  connect(buttons.apply, &QPushButton::clicked, this, &FrmNameStructure::cmdApply);
+  connect(buttons.ok, &QPushButton::clicked, this, &FrmNameStructure::cmdOK);
 
   LocaliseDialog(*this, services_.catalog, services_.mainWindow, services_.appTitle);
   editor_.Load();
@@ -115,10 +99,10 @@ QGroupBox* FrmNameStructure::BuildFrameMain() {
   structures_ = MakeStructureList(*frame);
   layout->addWidget(structures_, 1);
   auto* row = new QHBoxLayout;
-  connect(AddButton(*frame, *row, "cmdStructureAdd", "&New"), &QPushButton::clicked, this,
+  connect(AddNamedButton(*row, *frame, "cmdStructureAdd", "&New"), &QPushButton::clicked, this,
           &FrmNameStructure::cmdStructureAdd);
-  edit_ = AddButton(*frame, *row, "cmdStructureEdit", "&Edit");
-  delete_ = AddButton(*frame, *row, "cmdStructureDel", "&Delete");
+  edit_ = AddNamedButton(*row, *frame, "cmdStructureEdit", "&Edit");
+  delete_ = AddNamedButton(*row, *frame, "cmdStructureDel", "&Delete");
   row->addStretch(1);
   layout->addLayout(row);
   connect(edit_, &QPushButton::clicked, this, &FrmNameStructure::cmdStructureEdit);
@@ -144,8 +128,8 @@ QGroupBox* FrmNameStructure::BuildFrameEdit() {
 
   auto* row = new QHBoxLayout;
   row->addStretch(1);
-  structureOk_ = AddButton(*frame, *row, "cmdStructureOK", "OK");
-  QPushButton* cancel = AddButton(*frame, *row, "cmdStructureCancel", "Cancel");
+  structureOk_ = AddNamedButton(*row, *frame, "cmdStructureOK", "OK");
+  QPushButton* cancel = AddNamedButton(*row, *frame, "cmdStructureCancel", "Cancel");
   layout->addLayout(row);
   connect(structureOk_, &QPushButton::clicked, this, &FrmNameStructure::cmdStructureOK);
   connect(cancel, &QPushButton::clicked, this, &FrmNameStructure::cmdStructureCancel);
@@ -211,11 +195,7 @@ void FrmNameStructure::cmdStructureCancel() {
 
 bool FrmNameStructure::RunApply() {
   bool passed = true;
-  try {
-    passed = editor_.Apply();
-  } catch (const RuntimeFault& fault) {
-    services_.model.frontEnd.ShowFault(fault.what());
-  }
+  RunShowingFault(services_.model.frontEnd, [&] { passed = editor_.Apply(); });
   if (services_.afterRun) services_.afterRun();
   ShowEditor();
   if (!passed) FocusFailedStructure();

@@ -13,6 +13,7 @@
 #include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
 #include "ui/common/NameKeyFilter.h"
+#include "ui/common/NamedControls.h"
 #include "ui/structure/StructureDialogParts.h"
 
 namespace nomra::ui {

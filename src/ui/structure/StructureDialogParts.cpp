@@ -2,29 +2,13 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
+#include "ui/common/NamedControls.h"
+
 namespace nomra::ui {
-
-QLabel* AddLabelledWidget(QGridLayout& grid, int row, const char* labelName, const char* label, QWidget& widget) {
-  auto* caption = new QLabel(label, widget.parentWidget());
-  caption->setObjectName(labelName);
-  caption->setBuddy(&widget);
-  grid.addWidget(caption, row, 0);
-  grid.addWidget(&widget, row, 1);
-  return caption;
-}
-
-QLineEdit* AddLabelledText(QGridLayout& grid, QWidget& parent, int row, const char* labelName, const char* label,
-                           const char* textName) {
-  auto* text = new QLineEdit(&parent);
-  text->setObjectName(textName);
-  AddLabelledWidget(grid, row, labelName, label, *text);
-  return text;
-}
 
 StructurePreview AddStructurePreview(QWidget& dialog, QBoxLayout& layout) {
   auto* grid = new QGridLayout;

@@ -5,19 +5,11 @@
 #include "dialog/DialogModel.h"
 
 class QBoxLayout;
-class QGridLayout;
-class QLabel;
 class QLineEdit;
 class QScrollBar;
 class QWidget;
 
 namespace nomra::ui {
-
-// A row of a dialog's grid: the label (its buddy the widget) and the widget.
-QLabel* AddLabelledWidget(QGridLayout& grid, int row, const char* labelName, const char* label, QWidget& widget);
-// The same with a new text box as the widget.
-QLineEdit* AddLabelledText(QGridLayout& grid, QWidget& parent, int row, const char* labelName, const char* label,
-                           const char* textName);
 
 // The preview both structure dialogs show: the pending name of a row of the
 // file list (txtFileName), VScroll1 beside it to pick the row, and what the
