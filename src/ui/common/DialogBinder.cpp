@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QWidget>
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -17,7 +18,7 @@ using dialog::DialogInput;
 using dialog::InputKind;
 
 QWidget* WidgetOf(const DialogInput& input, const QWidget& window) {
-  const QString key = QString::fromStdString(input.Key());
+  const QString key = ToQString(input.Key());
   if (window.objectName() == key) return const_cast<QWidget*>(&window);
   return window.findChild<QWidget*>(key);
 }
@@ -34,7 +35,7 @@ void ShowRows(QListWidget& list, const DialogInput& input) {
   const QSignalBlocker block(&list);
   if (list.count() != static_cast<int>(input.rows.size())) {
     list.clear();
-    for (const std::string& row : input.rows) list.addItem(QString::fromStdString(row));
+    for (const std::string& row : input.rows) list.addItem(ToQString(row));
   }
   if (input.kind == InputKind::MultiSelectionList) {
     for (int row = 0; row < list.count(); ++row) {
@@ -49,7 +50,7 @@ void ShowRows(QListWidget& list, const DialogInput& input) {
 void ShowInput(const DialogInput& input, QWidget& widget) {
   switch (input.kind) {
     case InputKind::Text:
-      if (auto* edit = qobject_cast<QLineEdit*>(&widget)) edit->setText(QString::fromStdString(input.text));
+      if (auto* edit = qobject_cast<QLineEdit*>(&widget)) edit->setText(ToQString(input.text));
       return;
     case InputKind::OptionButton:
       if (auto* option = qobject_cast<QRadioButton*>(&widget)) {
@@ -76,10 +77,10 @@ void ShowInput(const DialogInput& input, QWidget& widget) {
       if (auto* combo = qobject_cast<QComboBox*>(&widget)) {
         if (combo->count() != static_cast<int>(input.rows.size())) {
           combo->clear();
-          for (const std::string& row : input.rows) combo->addItem(QString::fromStdString(row));
+          for (const std::string& row : input.rows) combo->addItem(ToQString(row));
         }
         combo->setCurrentIndex(input.number);
-        if (combo->isEditable() && input.number < 0) combo->setEditText(QString::fromStdString(input.text));
+        if (combo->isEditable() && input.number < 0) combo->setEditText(ToQString(input.text));
       }
       return;
     case InputKind::SingleSelectionList:
@@ -101,7 +102,7 @@ int ChosenComboRow(const QComboBox& combo) {
 void ReadInput(DialogInput& input, const QWidget& widget) {
   switch (input.kind) {
     case InputKind::Text:
-      if (auto* edit = qobject_cast<const QLineEdit*>(&widget)) input.text = edit->text().toStdString();
+      if (auto* edit = qobject_cast<const QLineEdit*>(&widget)) input.text = ToEngineText(edit->text());
       return;
     case InputKind::OptionButton:
       if (auto* option = qobject_cast<const QRadioButton*>(&widget)) input.selected = option->isChecked();
@@ -115,9 +116,9 @@ void ReadInput(DialogInput& input, const QWidget& widget) {
     case InputKind::ComboBox:
       if (auto* combo = qobject_cast<const QComboBox*>(&widget)) {
         input.rows.clear();
-        for (int row = 0; row < combo->count(); ++row) input.rows.push_back(combo->itemText(row).toStdString());
+        for (int row = 0; row < combo->count(); ++row) input.rows.push_back(ToEngineText(combo->itemText(row)));
         input.number = ChosenComboRow(*combo);
-        input.text = combo->currentText().toStdString();
+        input.text = ToEngineText(combo->currentText());
       }
       return;
     case InputKind::SingleSelectionList:
@@ -126,7 +127,7 @@ void ReadInput(DialogInput& input, const QWidget& widget) {
         input.rows.clear();
         input.rowSelected.assign(list->count(), false);
         for (int row = 0; row < list->count(); ++row) {
-          input.rows.push_back(list->item(row)->text().toStdString());
+          input.rows.push_back(ToEngineText(list->item(row)->text()));
           input.rowSelected[row] = list->item(row)->isSelected();
         }
         input.number = list->selectedItems().isEmpty() ? -1 : list->currentRow();
@@ -154,7 +155,7 @@ void ReadWidgetsIntoModel(dialog::DialogModel& model, const QWidget& window) {
 QStringList InputsWithoutWidget(const dialog::DialogModel& model, const QWidget& window) {
   QStringList missing;
   for (const DialogInput& input : model.Inputs()) {
-    if (WidgetOf(input, window) == nullptr) missing << QString::fromStdString(input.Key());
+    if (WidgetOf(input, window) == nullptr) missing << ToQString(input.Key());
   }
   return missing;
 }

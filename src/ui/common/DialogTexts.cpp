@@ -6,20 +6,21 @@
 
 #include "ui/common/FormNames.h"
 #include "ui/common/QtLocalisation.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
 void LocaliseDialog(QWidget& dialog, const lang::MessageCatalog& catalog, const QWidget* mainWindow,
                     const QString& appTitle) {
   lang::CaptionSources sources;
-  sources.appTitle = appTitle.toStdString();
+  sources.appTitle = ToEngineText(appTitle);
   if (mainWindow != nullptr) {
     sources.menuCaption = [mainWindow](std::string_view name) {
-      const auto* action = mainWindow->findChild<QAction*>(QString::fromUtf8(name.data(), static_cast<int>(name.size())));
-      return action == nullptr ? std::string() : action->text().toStdString();
+      const auto* action = mainWindow->findChild<QAction*>(ToQString(name));
+      return action == nullptr ? std::string() : ToEngineText(action->text());
     };
     if (const auto* scope = mainWindow->findChild<QComboBox*>(kApplyScopeListName)) {
-      sources.applyScopeText = scope->currentText().toStdString();
+      sources.applyScopeText = ToEngineText(scope->currentText());
     }
   }
   LocaliseWidget(dialog, QString(), catalog, sources);

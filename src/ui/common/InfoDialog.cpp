@@ -39,8 +39,7 @@ InfoDialog::InfoDialog(const lang::MessageCatalog& catalog, const QString& appTi
 
   LocaliseDialog(*this, catalog, parent, appTitle);
   ShowVersion(*versionLabel, version);
-  // Qt's version is plain ASCII, no engine text.
-  build->setText(QString("Qt %1, %2").arg(QString::fromLatin1(qVersion()), QSysInfo::prettyProductName()));
+  build->setText(QString("Qt %1, %2").arg(QLatin1String(qVersion()), QSysInfo::prettyProductName()));
 }
 
 }  // namespace nomra::ui

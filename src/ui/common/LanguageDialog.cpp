@@ -13,6 +13,7 @@
 #include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
 #include "ui/common/NamedControls.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -30,8 +31,8 @@ LanguageDialog::LanguageDialog(const std::string& appFolder, std::string setting
   const QLocale desktop = QLocale::system();
   const QStringList desktopNames = {desktop.nativeLanguageName(), QLocale::languageToString(desktop.language())};
   for (const lang::LanguageFile& file : files_) {
-    const QString name = QString::fromStdString(file.languageName);
-    choices_->addItem(name.isEmpty() ? QFileInfo(QString::fromStdString(file.path)).completeBaseName() : name);
+    const QString name = ToQString(file.languageName);
+    choices_->addItem(name.isEmpty() ? QFileInfo(ToQString(file.path)).completeBaseName() : name);
     const bool current = catalog.FilePath().empty() ? desktopNames.contains(name, Qt::CaseInsensitive)
                                                     : file.path == catalog.FilePath();
     if (current) choices_->setCurrentIndex(choices_->count() - 1);

@@ -6,6 +6,7 @@
 #include <QMessageBox>
 
 #include "lang/LanguageKeys.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -76,13 +77,13 @@ QString QtFrontEnd::TextOf(const Message& message) const {
   std::string text = catalog_.GetText(lang::kMessagesSection, message.textKey, message.arguments);
   // Without a language text the key still says which question this is.
   if (text.empty()) text = message.textKey;
-  return QString::fromStdString(text);
+  return ToQString(text);
 }
 
 QString QtFrontEnd::CaptionOf(const Message& message) const {
   if (message.captionKey.empty()) return appTitle_;
   const std::string caption = catalog_.GetText(lang::kMessagesSection, message.captionKey);
-  return caption.empty() ? appTitle_ : QString::fromStdString(caption);
+  return caption.empty() ? appTitle_ : ToQString(caption);
 }
 
 Answer QtFrontEnd::Ask(const Message& message) { return AskText(message, TextOf(message)); }
@@ -103,10 +104,10 @@ void QtFrontEnd::ShowPlainMessage(const std::string& text) {
   Message plain;
   plain.style = MessageStyle::OkInformation;
   if (answerer_) {
-    answerer_(plain, appTitle_, QString::fromStdString(text));
+    answerer_(plain, appTitle_, ToQString(text));
     return;
   }
-  QMessageBox box(QMessageBox::NoIcon, appTitle_, QString::fromStdString(text), QMessageBox::Ok, window_);
+  QMessageBox box(QMessageBox::NoIcon, appTitle_, ToQString(text), QMessageBox::Ok, window_);
   box.exec();
 }
 
@@ -115,23 +116,23 @@ std::string QtFrontEnd::AskInput(const Message& prompt, const std::string& prese
   if (busyDepth_ > 0) QApplication::setOverrideCursor(Qt::ArrowCursor);
   bool ok = false;
   const QString answer = QInputDialog::getText(window_, CaptionOf(prompt), TextOf(prompt), QLineEdit::Normal,
-                                               QString::fromStdString(preset), &ok);
+                                               ToQString(preset), &ok);
   if (busyDepth_ > 0) QApplication::restoreOverrideCursor();
-  return ok ? answer.toStdString() : std::string();
+  return ok ? ToEngineText(answer) : std::string();
 }
 
 void QtFrontEnd::ShowFault(const std::string& text) {
   Message fault;
   fault.style = MessageStyle::OkStop;
   if (answerer_) {
-    answerer_(fault, appTitle_, QString::fromStdString(text));
+    answerer_(fault, appTitle_, ToQString(text));
     return;
   }
-  QMessageBox::critical(window_, appTitle_, QString::fromStdString(text));
+  QMessageBox::critical(window_, appTitle_, ToQString(text));
 }
 
 void QtFrontEnd::SetStatusText(const std::string& text) {
-  if (status_) status_->setText(QString::fromStdString(text));
+  if (status_) status_->setText(ToQString(text));
 }
 
 void QtFrontEnd::Pump() { QCoreApplication::processEvents(); }

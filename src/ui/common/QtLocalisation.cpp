@@ -19,6 +19,8 @@
 #include <memory>
 #include <vector>
 
+#include "ui/common/TextConversion.h"
+
 namespace nomra::ui {
 
 namespace {
@@ -26,16 +28,13 @@ namespace {
 using lang::ControlKind;
 using lang::LocalisableControl;
 
-std::string Std(const QString& text) { return text.toStdString(); }
-QString Qt(const std::string& text) { return QString::fromStdString(text); }
-
 class ActionControl final : public LocalisableControl {
  public:
   explicit ActionControl(QAction& action) : action_(action) {}
   ControlKind Kind() const override { return ControlKind::Menu; }
-  std::string Name() const override { return Std(ControlName(action_)); }
-  std::string Tag() const override { return Std(action_.property(kTagProperty).toString()); }
-  void SetCaption(const std::string& text) override { action_.setText(Qt(text)); }
+  std::string Name() const override { return ToEngineText(ControlName(action_)); }
+  std::string Tag() const override { return ToEngineText(action_.property(kTagProperty).toString()); }
+  void SetCaption(const std::string& text) override { action_.setText(ToQString(text)); }
 
  private:
   QAction& action_;
@@ -54,8 +53,8 @@ class WidgetControl final : public LocalisableControl {
     if (qobject_cast<QToolBar*>(&widget_)) return ControlKind::Toolbar;
     return ControlKind::Other;
   }
-  std::string Name() const override { return Std(ControlName(widget_)); }
-  std::string Tag() const override { return Std(widget_.property(kTagProperty).toString()); }
+  std::string Name() const override { return ToEngineText(ControlName(widget_)); }
+  std::string Tag() const override { return ToEngineText(widget_.property(kTagProperty).toString()); }
 
   bool IsGraphicalWithoutCaption() const override {
     auto* button = qobject_cast<QPushButton*>(&widget_);
@@ -63,7 +62,7 @@ class WidgetControl final : public LocalisableControl {
   }
 
   void SetCaption(const std::string& text) override {
-    const QString caption = Qt(text);
+    const QString caption = ToQString(text);
     if (auto* label = qobject_cast<QLabel*>(&widget_)) {
       label->setText(caption);
     } else if (auto* button = qobject_cast<QAbstractButton*>(&widget_)) {
@@ -73,22 +72,22 @@ class WidgetControl final : public LocalisableControl {
     }
     // Other widgets have no caption; setting one is not an error.
   }
-  void SetToolTip(const std::string& text) override { widget_.setToolTip(Qt(text)); }
+  void SetToolTip(const std::string& text) override { widget_.setToolTip(ToQString(text)); }
 
   std::vector<std::string> HeaderTags() const override {
     std::vector<std::string> tags;
-    for (const QString& tag : widget_.property(kHeaderTagsProperty).toStringList()) tags.push_back(Std(tag));
+    for (const QString& tag : widget_.property(kHeaderTagsProperty).toStringList()) tags.push_back(ToEngineText(tag));
     return tags;
   }
   void SetHeaderText(int index, const std::string& text) override {
     if (auto* tree = qobject_cast<QTreeWidget*>(&widget_)) {
-      tree->headerItem()->setText(index, Qt(text));
+      tree->headerItem()->setText(index, ToQString(text));
     } else if (auto* table = qobject_cast<QTableWidget*>(&widget_)) {
       auto* item = table->horizontalHeaderItem(index);
       if (item == nullptr) table->setHorizontalHeaderItem(index, item = new QTableWidgetItem);
-      item->setText(Qt(text));
+      item->setText(ToQString(text));
     } else if (auto* view = qobject_cast<QAbstractItemView*>(&widget_)) {
-      if (view->model() != nullptr) view->model()->setHeaderData(index, Qt::Horizontal, Qt(text));
+      if (view->model() != nullptr) view->model()->setHeaderData(index, Qt::Horizontal, ToQString(text));
     }
   }
 
@@ -98,12 +97,12 @@ class WidgetControl final : public LocalisableControl {
     if (bar == nullptr) return buttons;
     for (QAction* action : ToolActions()) {
       lang::ToolbarButton button;
-      button.key = Std(action->property(kKeyProperty).toString());
+      button.key = ToEngineText(action->property(kKeyProperty).toString());
       button.style = action->isSeparator() ? lang::kButtonStyleSeparator
                                             : action->property(kStyleProperty).toInt();
       if (action->menu() != nullptr) {
         for (QAction* entry : action->menu()->actions()) {
-          button.entryKeys.push_back(Std(entry->property(kKeyProperty).toString()));
+          button.entryKeys.push_back(ToEngineText(entry->property(kKeyProperty).toString()));
         }
       }
       buttons.push_back(std::move(button));
@@ -112,34 +111,34 @@ class WidgetControl final : public LocalisableControl {
   }
   void SetButtonToolTip(int button, const std::string& text) override {
     const auto actions = ToolActions();
-    if (button >= 0 && button < actions.size()) actions[button]->setToolTip(Qt(text));
+    if (button >= 0 && button < actions.size()) actions[button]->setToolTip(ToQString(text));
   }
   void SetEntryText(int button, int entry, const std::string& text) override {
     const auto actions = ToolActions();
     if (button < 0 || button >= actions.size() || actions[button]->menu() == nullptr) return;
     const auto entries = actions[button]->menu()->actions();
-    if (entry >= 0 && entry < entries.size()) entries[entry]->setText(Qt(text));
+    if (entry >= 0 && entry < entries.size()) entries[entry]->setText(ToQString(text));
   }
 
   std::vector<std::string> TabKeys() const override {
     std::vector<std::string> keys;
     if (auto* tabs = qobject_cast<QTabBar*>(&widget_)) {
-      for (int i = 0; i < tabs->count(); ++i) keys.push_back(Std(tabs->tabData(i).toString()));
+      for (int i = 0; i < tabs->count(); ++i) keys.push_back(ToEngineText(tabs->tabData(i).toString()));
     }
     return keys;
   }
   void SetTabCaption(int tab, const std::string& text) override {
-    if (auto* tabs = qobject_cast<QTabBar*>(&widget_)) tabs->setTabText(tab, Qt(text));
+    if (auto* tabs = qobject_cast<QTabBar*>(&widget_)) tabs->setTabText(tab, ToQString(text));
   }
 
   void ReplaceRows(const std::vector<std::string>& rows) override {
     if (auto* combo = qobject_cast<QComboBox*>(&widget_)) {
       combo->clear();
-      for (const std::string& row : rows) combo->addItem(Qt(row));
+      for (const std::string& row : rows) combo->addItem(ToQString(row));
       combo->setCurrentIndex(rows.empty() ? -1 : 0);
     } else if (auto* list = qobject_cast<QListWidget*>(&widget_)) {
       list->clear();
-      for (const std::string& row : rows) list->addItem(Qt(row));
+      for (const std::string& row : rows) list->addItem(ToQString(row));
       if (!rows.empty()) list->setCurrentRow(0);
     }
   }
@@ -161,7 +160,7 @@ class WidgetForm final : public lang::LocalisableForm {
  public:
   explicit WidgetForm(QWidget& form) : form_(form) {}
 
-  std::string Name() const override { return Std(form_.objectName()); }
+  std::string Name() const override { return ToEngineText(form_.objectName()); }
 
   void ForEachControl(const std::function<void(LocalisableControl&)>& visit) override {
     std::vector<std::unique_ptr<LocalisableControl>> controls;
@@ -175,7 +174,7 @@ class WidgetForm final : public lang::LocalisableForm {
     for (auto& control : controls) visit(*control);
   }
 
-  void SetCaption(const std::string& text) override { form_.setWindowTitle(Qt(text)); }
+  void SetCaption(const std::string& text) override { form_.setWindowTitle(ToQString(text)); }
 
  private:
   QWidget& form_;
@@ -196,7 +195,7 @@ QString ControlArrayMember(const QString& array, int index) {
 void LocaliseWidget(QWidget& form, const QString& section, const lang::MessageCatalog& catalog,
                     const lang::CaptionSources& sources) {
   WidgetForm adapter(form);
-  lang::LocaliseForm(adapter, Std(section), catalog, sources);
+  lang::LocaliseForm(adapter, ToEngineText(section), catalog, sources);
 }
 
 }  // namespace nomra::ui

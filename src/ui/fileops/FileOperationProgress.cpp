@@ -12,6 +12,7 @@
 #include "lang/LanguageKeys.h"
 #include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -70,8 +71,8 @@ bool FileOperationProgress::Report(const fileops::ProgressStep& step) {
   const std::vector<std::string> numbers = {std::to_string(step.index), std::to_string(step.count)};
   std::string text = catalog_.GetText(lang::kMessagesSection, StepKeyOf(step.kind), numbers);
   if (text.empty()) text = std::to_string(step.index) + " / " + std::to_string(step.count);
-  step_->setText(QString::fromStdString(text));
-  file_->setText(QString::fromStdString(step.path));
+  step_->setText(ToQString(text));
+  file_->setText(ToQString(step.path));
   // Bytes where there are any, so one large file moves the bar too; files otherwise.
   const double done = step.bytesTotal > 0 ? static_cast<double>(step.bytesDone) / static_cast<double>(step.bytesTotal)
                       : step.count > 0   ? static_cast<double>(step.index - 1) / step.count

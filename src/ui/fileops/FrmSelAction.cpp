@@ -15,6 +15,7 @@
 #include "ui/common/DialogTexts.h"
 #include "ui/common/NamedControls.h"
 #include "ui/common/RunShowingFault.h"
+#include "ui/common/TextConversion.h"
 #include "ui/fileops/FileOperationProgress.h"
 
 namespace nomra::ui {
@@ -34,7 +35,7 @@ QGroupBox* BuildFrameCopy(QWidget& dialog) {
 
 FrmSelAction::FrmSelAction(const QString& tag, MainModel& model, const lang::MessageCatalog& catalog,
                            fileops::OperationSystem& system, QWidget* parent)
-    : QDialog(parent), engine_(tag.toStdString()), model_(model), catalog_(catalog), system_(system) {
+    : QDialog(parent), engine_(ToEngineText(tag)), model_(model), catalog_(catalog), system_(system) {
   setObjectName(tag);
   setWindowTitle("Copy files");
   resize(560, 0);
@@ -75,14 +76,14 @@ FrmSelAction::FrmSelAction(const QString& tag, MainModel& model, const lang::Mes
 }
 
 void FrmSelAction::OnTargetPathEdited(const QString& text) {
-  engine_.Model().SetText(kTargetPathName, text.toStdString());
+  engine_.Model().SetText(kTargetPathName, ToEngineText(text));
   engine_.txtTargetPath_Change(model_.fileSystem);
   ok_->setEnabled(engine_.OkEnabled());
 }
 
 void FrmSelAction::cmdSelPath() {
   const std::string title = catalog_.GetText(lang::kMessagesSection, "MsgText22");
-  QFileDialog browser(this, QString::fromStdString(title), targetPath_->text());
+  QFileDialog browser(this, ToQString(title), targetPath_->text());
   browser.setObjectName("dlgSelPath");
   browser.setFileMode(QFileDialog::Directory);
   browser.setOption(QFileDialog::ShowDirsOnly);
@@ -91,7 +92,7 @@ void FrmSelAction::cmdSelPath() {
   const QString chosen = browser.exec() == QDialog::Accepted && !browser.selectedFiles().isEmpty()
                              ? browser.selectedFiles().constFirst()
                              : QString();
-  engine_.cmdSelPath(chosen.toStdString(), model_.fileSystem);
+  engine_.cmdSelPath(ToEngineText(chosen), model_.fileSystem);
   ShowModelInWidgets(engine_.Model(), *this);
   ok_->setEnabled(engine_.OkEnabled());
 }

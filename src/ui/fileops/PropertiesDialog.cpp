@@ -10,6 +10,7 @@
 #include "base/NumberText.h"
 #include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -67,7 +68,7 @@ PropertiesDialog::PropertiesDialog(const fileops::FileProperties& p, const lang:
   for (const auto& [name, content] : rows) {
     auto* label = new QLabel(content.first, this);
     label->setObjectName(name);
-    auto* value = new QLabel(QString::fromStdString(content.second), this);
+    auto* value = new QLabel(ToQString(content.second), this);
     value->setObjectName(QString(name) + kValueSuffix);
     value->setTextFormat(Qt::PlainText);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);

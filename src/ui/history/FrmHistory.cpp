@@ -15,6 +15,7 @@
 #include "ui/common/QtFrontEnd.h"
 #include "ui/common/QtLocalisation.h"
 #include "ui/common/RunShowingFault.h"
+#include "ui/common/TextConversion.h"
 #include "ui/mainwindow/NotRenamedDialog.h"
 
 namespace nomra::ui {
@@ -44,8 +45,6 @@ QTreeWidget* MakeFileList(QWidget& parent) {
   files->setColumnWidth(2, 160);
   return files;
 }
-
-QString Text(const std::string& text) { return QString::fromStdString(text); }
 
 }  // namespace
 
@@ -99,10 +98,10 @@ void FrmHistory::ShowRows() {
   for (const history::HistoryRow& row : list_.rows) {
     auto* item = new QTreeWidgetItem;
     for (int column = 0; column < history::kHistoryColumnCount; ++column) {
-      item->setText(column, Text(row.ColumnText(column)));
+      item->setText(column, ToQString(row.ColumnText(column)));
       item->setForeground(column, QBrush(row.present ? kPresentColour : kMissingColour));
     }
-    item->setData(0, Qt::UserRole, Text(row.time));
+    item->setData(0, Qt::UserRole, ToQString(row.time));
     items << item;
   }
   files_->addTopLevelItems(items);

@@ -4,15 +4,10 @@
 #include <QUrl>
 
 #include "core/FileEntry.h"
+#include "ui/common/TextConversion.h"
 #include "ui/mainwindow/ThumbnailCache.h"
 
 namespace nomra::ui {
-
-namespace {
-
-QString Text(const std::string& text) { return QString::fromStdString(text); }
-
-}  // namespace
 
 FileListModel::FileListModel(MainModel& model, ThumbnailCache& thumbnails, QObject* parent)
     : QAbstractTableModel(parent), model_(model), thumbnails_(thumbnails) {}
@@ -29,11 +24,11 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
   const int column = index.column();
   switch (role) {
     case Qt::DisplayRole:
-      return Text(row[column]);
+      return ToQString(row[column]);
     case Qt::EditRole:
-      return Text(row[kColNewName]);
+      return ToQString(row[kColNewName]);
     case Qt::ToolTipRole:
-      return column == kColDisplay ? Text(row.key) : QVariant();
+      return column == kColDisplay ? ToQString(row.key) : QVariant();
     case Qt::ForegroundRole:
       if (row.colour == RowColour::DarkRed) return PendingColour();
       return {};
@@ -99,7 +94,7 @@ bool FileListModel::dropMimeData(const QMimeData* data, Qt::DropAction, int row,
   if (data->hasUrls()) {
     QStringList paths;
     for (const QUrl& url : data->urls()) {
-      if (url.isLocalFile()) paths << url.toLocalFile();
+      if (url.isLocalFile()) paths << LocalFilePath(url);
     }
     if (!paths.isEmpty()) emit pathsDropped(paths);
     return !paths.isEmpty();

@@ -18,6 +18,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "base/NumberText.h"
 #include "commit/CommitRecovery.h"
 #include "core/AddFile.h"
 #include "core/CommandState.h"
@@ -31,8 +32,9 @@
 #include "ui/common/ButtonIcons.h"
 #include "ui/common/FormNames.h"
 #include "ui/common/ProductLabels.h"
-#include "ui/common/RunShowingFault.h"
 #include "ui/common/QtLocalisation.h"
+#include "ui/common/RunShowingFault.h"
+#include "ui/common/TextConversion.h"
 #include "ui/mainwindow/FileListModel.h"
 #include "ui/mainwindow/IconCellDelegate.h"
 #include "ui/mainwindow/StartWindow.h"
@@ -139,13 +141,13 @@ void MainWindow::ShowLanguageTexts() {
 // scope list, sort and size entries, and the tool tips of the variants.
 void MainWindow::setLngalt() {
   for (int i = 0; i < static_cast<int>(model_.statusTexts.size()); ++i) {
-    model_.statusTexts[i] = catalog_.GetText(lang::kMessagesSection, QString("MsgStat%1").arg(i, 2, 10, QChar('0')).toStdString());
+    model_.statusTexts[i] = catalog_.GetText(lang::kMessagesSection, "MsgStat" + text::FormatPadded(i, 2));
   }
   static const char* kDesignHeads[] = {"Picture", "Path", "Old name", "New name", "Created", "Modified", "EXIF date", "Size"};
   QStringList heads;
   for (int column = 0; column < FileListModel::kShownColumns; ++column) {
     const std::string text = catalog_.GetText(kMainWindowName, "lstColHead0" + std::to_string(column));
-    heads << (text.empty() ? QString(kDesignHeads[column]) : QString::fromStdString(text));
+    heads << (text.empty() ? QString(kDesignHeads[column]) : ToQString(text));
   }
   listModel_->SetHeaderTexts(heads);
   for (int i = 0; i < kDetailFields; ++i) detailCaptions_[i]->setText(heads[i + 1] + ':');
@@ -163,7 +165,7 @@ void MainWindow::setLngalt() {
   for (int entry = 1; entry <= kSortEntries; ++entry) {
     const QString head = heads[(entry + 1) / 2];
     const std::string& direction = entry % 2 == 1 ? ascending : descending;
-    MenuAction(ControlArrayMember(kSortFamily, entry))->setText(head + ' ' + QString::fromStdString(direction));
+    MenuAction(ControlArrayMember(kSortFamily, entry))->setText(head + ' ' + ToQString(direction));
   }
   for (int entry = 1; entry <= kColumnEntries; ++entry) MenuAction(ControlArrayMember(kColumnFamily, entry))->setText(heads[entry]);
 
@@ -172,7 +174,7 @@ void MainWindow::setLngalt() {
   for (int entry = 1;; ++entry) {
     const std::string text = catalog_.GetText(kMainWindowName, kIconSizeFamily + std::to_string(entry));
     if (text.empty()) break;
-    sizes << QString::fromStdString(text);
+    sizes << ToQString(text);
   }
   if (sizes.isEmpty()) sizes = {"32", "48", "64", "96", "128"};
   for (const QAction* old : iconSizeMenu_->actions()) menuActions_.remove(old->objectName());
@@ -256,8 +258,8 @@ void MainWindow::LoadSettingsIntoWindow() {
   MenuAction(kGridLinesEntry)->setChecked(settings_.previewGridLines);
   details_->setShowGrid(settings_.previewGridLines);
 
-  variants_.insert(kOpenFileKey, QString::fromStdString(OpenFileTagFromStyle(settings_.dialogueStyle)));
-  variants_.insert(kTakeChangesKey, QString::fromStdString(TakeChangesTagFromStyle(settings_.renameStyle)));
+  variants_.insert(kOpenFileKey, ToQString(OpenFileTagFromStyle(settings_.dialogueStyle)));
+  variants_.insert(kTakeChangesKey, ToQString(TakeChangesTagFromStyle(settings_.renameStyle)));
   variants_.insert(kDelListKey, QString());
   MenuAction(kShowSplashEntry)->setChecked(settings_.splash != 0);
 
@@ -290,7 +292,7 @@ void MainWindow::ApplyExpertMode() {
 
 void MainWindow::RefreshPreview() {
   const std::string refreshing = catalog_.GetText(kMainWindowName, "RefreshPreview");
-  if (!refreshing.empty()) status_->setText(QString::fromStdString(refreshing));
+  if (!refreshing.empty()) status_->setText(ToQString(refreshing));
   model_.iconView = view_ == ListView::Icons;
   refreshPreview(model_);
 
@@ -319,7 +321,7 @@ void MainWindow::RefreshPreview() {
   RestoreSelection();
   UpdateSortIndicators();
   ApplyCommandStates();
-  selectedScript_->setText(QString::fromStdString(model_.selectedScriptLabel));
+  selectedScript_->setText(ToQString(model_.selectedScriptLabel));
   SelectionHandler();
 }
 
@@ -327,14 +329,14 @@ void MainWindow::ApplyCommandStates() {
   const CommandState& state = model_.commands;
   auto allowed = [&](const QString& name) { return !notYetBuilt_.contains(name); };
   for (const QString& name : ManagedMenuNames()) {
-    if (QAction* action = MenuAction(name)) action->setEnabled(state.IsEnabled(name.toStdString()) && allowed(name));
+    if (QAction* action = MenuAction(name)) action->setEnabled(state.IsEnabled(ToEngineText(name)) && allowed(name));
   }
   for (auto it = menuActions_.constBegin(); it != menuActions_.constEnd(); ++it) {
     if (!ManagedMenuNames().contains(it.key()) && !allowed(it.key())) it.value()->setEnabled(false);
   }
   for (const std::string& key : MainToolBarKeys()) {
     if (key.empty()) continue;
-    const QString name = QString::fromStdString(key);
+    const QString name = ToQString(key);
     ToolAction(kMainBar, name)->setEnabled(state.IsEnabled(key) && allowed(ToolName(kMainBar, name)));
   }
   for (const char* key : {kRunSelectedKey, kStartRecordKey, kStartRunKey}) {
@@ -408,10 +410,10 @@ void MainWindow::SelectionHandler() {
   if (position > 0) {
     lastSelectedIndex_ = position;
     const FileEntry& row = model_.list.Item(position);
-    detailFields_[0]->setText(QString::fromStdString(row[kColPath]));
-    detailFields_[1]->setText(QString::fromStdString(row[kColOldName]));
-    detailFields_[2]->setText(QString::fromStdString(row[kColNewName]));
-    const bool mp3 = QFileInfo(QString::fromStdString(row.key)).suffix().compare("mp3", Qt::CaseInsensitive) == 0;
+    detailFields_[0]->setText(ToQString(row[kColPath]));
+    detailFields_[1]->setText(ToQString(row[kColOldName]));
+    detailFields_[2]->setText(ToQString(row[kColNewName]));
+    const bool mp3 = QFileInfo(ToQString(row.key)).suffix().compare("mp3", Qt::CaseInsensitive) == 0;
     for (const char* name : {kId3Entry, kId3PopupEntry}) MenuAction(name)->setEnabled(mp3 && !notYetBuilt_.contains(name));
   }
   const bool hasRow = !detailFields_[0]->text().isEmpty();
@@ -423,7 +425,7 @@ void MainWindow::SelectionHandler() {
   }
   picture_->clear();
   if (hasRow) {
-    const QString path = QString::fromStdString(model_.list.Item(position).key);
+    const QString path = ToQString(model_.list.Item(position).key);
     QImageReader reader(path);
     if (reader.canRead()) {
       const QSize full = reader.size();
@@ -441,8 +443,8 @@ void MainWindow::AddPaths(const QStringList& paths) {
       if (model_.cancelLoading) break;
       // A path that vanished since it was dropped is passed over, as the
       // existence check would.
-      if (!QFileInfo::exists(path)) continue;
-      std::string text = path.toStdString();
+      std::string text = ToEngineText(path);
+      if (model_.fileSystem.Status(text).kind == platform::EntryKind::Missing) continue;
       // A path that fails is told, and the next one loads.
       RunShowingFault(frontEnd_, [&] { AddFile(model_, text); });
     }

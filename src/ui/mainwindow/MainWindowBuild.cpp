@@ -23,6 +23,7 @@
 #include "ui/common/FormNames.h"
 #include "ui/common/NamedControls.h"
 #include "ui/common/QtLocalisation.h"
+#include "ui/common/TextConversion.h"
 #include "ui/mainwindow/FileListModel.h"
 #include "ui/mainwindow/IconCellDelegate.h"
 #include "ui/mainwindow/MainWindow.h"
@@ -241,7 +242,7 @@ void MainWindow::BuildToolBars() {
       mainBar_->addSeparator();
       continue;
     }
-    const QString name = QString::fromStdString(key);
+    const QString name = ToQString(key);
     AddToolButton(*mainBar_, name, DesignToolTip(name));
   }
   auto addDropDown = [&](const QString& key, const QStringList& entries, const QStringList& designTexts) {

@@ -7,6 +7,7 @@
 
 #include "core/CloseQuestions.h"
 #include "core/WindowPlacement.h"
+#include "ui/common/TextConversion.h"
 #include "ui/mainwindow/MainWindow.h"
 
 namespace nomra::ui {
@@ -33,8 +34,8 @@ void MainWindow::CollectLayout() {
   settings_.btnbarScript = MenuAction(kShowScriptBarEntry)->isChecked() ? 1 : 0;
   settings_.previewSortKey = model_.list.sortKey;
   settings_.previewSortOrder = model_.list.sortOrder;
-  settings_.openFileTag = variants_.value(kOpenFileKey).toStdString();
-  settings_.takeChangesTag = variants_.value(kTakeChangesKey).toStdString();
+  settings_.openFileTag = ToEngineText(variants_.value(kOpenFileKey));
+  settings_.takeChangesTag = ToEngineText(variants_.value(kTakeChangesKey));
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -22,6 +22,7 @@
 #include "ui/common/InfoDialog.h"
 #include "ui/common/LanguageDialog.h"
 #include "ui/common/QtLocalisation.h"
+#include "ui/common/TextConversion.h"
 #include "ui/fileops/FileOperationCommands.h"
 #include "ui/mainwindow/EditManDialog.h"
 #include "ui/mainwindow/FileListModel.h"
@@ -88,15 +89,15 @@ void MainWindow::takeChanges() {
     return dialog.Choice();
   };
   services.showSelectAction = [this] { RunSelAction(this, model_, catalog_, "frmSelAction"); };
-  nomra::takeChanges(model_, variants_.value(kTakeChangesKey).toStdString(), services);
+  nomra::takeChanges(model_, ToEngineText(variants_.value(kTakeChangesKey)), services);
   RefreshPreview();
 }
 
 void MainWindow::mnuEditMan() {
   const int position = SelectedPosition();
   if (position <= 0) return;
-  EditManDialog dialog(QString::fromStdString(model_.list.Item(position)[kColNewName]), catalog_, this);
-  if (dialog.exec() == QDialog::Accepted && ApplyManualEdit(model_, position, dialog.Text().toStdString())) {
+  EditManDialog dialog(ToQString(model_.list.Item(position)[kColNewName]), catalog_, this);
+  if (dialog.exec() == QDialog::Accepted && ApplyManualEdit(model_, position, ToEngineText(dialog.Text()))) {
     RefreshPreview();
   }
 }
@@ -126,7 +127,7 @@ void MainWindow::mnuCopyText(int column) {
   const int position = SelectedPosition();
   if (position <= 0) return;
   const FileEntry& row = model_.list.Item(position);
-  QApplication::clipboard()->setText(QString::fromStdString(column < 0 ? row.key : row[column]));
+  QApplication::clipboard()->setText(ToQString(column < 0 ? row.key : row[column]));
 }
 
 void MainWindow::SetView(ListView view) {
@@ -170,7 +171,7 @@ void MainWindow::OnRowDropped(int dragged, int target) {
 
 void MainWindow::OnLabelEdited(int position, const QString& text) {
   labelEditing_ = false;
-  ApplyLabelEdit(model_, position, text.toStdString());
+  ApplyLabelEdit(model_, position, ToEngineText(text));
   RefreshPreview();
 }
 
@@ -215,7 +216,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 void MainWindow::dropEvent(QDropEvent* event) {
   QStringList paths;
   for (const QUrl& url : event->mimeData()->urls()) {
-    if (url.isLocalFile()) paths << url.toLocalFile();
+    if (url.isLocalFile()) paths << LocalFilePath(url);
   }
   if (paths.isEmpty()) return;
   event->acceptProposedAction();

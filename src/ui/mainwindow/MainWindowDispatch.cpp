@@ -12,6 +12,7 @@
 #include "open/OpenCommand.h"
 #include "ui/common/QtLocalisation.h"
 #include "ui/common/RunShowingFault.h"
+#include "ui/common/TextConversion.h"
 #include "ui/fileops/FileOperationCommands.h"
 #include "ui/history/FrmHistory.h"
 #include "ui/mainwindow/FileListModel.h"
@@ -53,7 +54,7 @@ void MainWindow::BuildCommandTables() {
 
   mainTool(kOpenFileKey, [this] { mnuOpenFile(); });
   mainTool(kDelListKey, [this] {
-    model_.delListTag = variants_.value(kDelListKey).toStdString();
+    model_.delListTag = ToEngineText(variants_.value(kDelListKey));
     UpdateToolTips();
     deleteFromList(model_);
     if (model_.list.Empty()) picture_->clear();

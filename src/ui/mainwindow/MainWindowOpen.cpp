@@ -12,6 +12,7 @@
 #include "ui/common/DialogTexts.h"
 #include "ui/common/FormNames.h"
 #include "ui/common/RunShowingFault.h"
+#include "ui/common/TextConversion.h"
 #include "ui/mainwindow/MainWindow.h"
 #include "ui/open/FrmOpen.h"
 #include "ui/open/SystemOpenDialog.h"
@@ -52,7 +53,7 @@ void MainWindow::mnuOpenFile() {
 void MainWindow::OpenFilesDialog(open::OpenMode mode) {
   SystemOpenDialog::Setup setup;
   setup.mode = mode;
-  setup.folder = QString::fromStdString(open::InitialFolder(paths_.settingsPath));
+  setup.folder = ToQString(open::InitialFolder(paths_.settingsPath));
   int filesFilterIndex = 1;
   try {
     const long stored = settings::ReadIniInt(settings::kSettingsSection, settings::kLastFilterKey, paths_.settingsPath);
@@ -66,7 +67,7 @@ void MainWindow::OpenFilesDialog(open::OpenMode mode) {
     const std::string label = catalog_.GetText(kOpenDialogName, "AllFiles");
     setup.filters = open::BuildFilterList(paths_.settingsPath, allRows);
     setup.title = DialogTitleOf(MenuAction(kOpenFileEntry)->text());
-    setup.allFilesLabel = label.empty() ? QString("(All files)") : QString::fromStdString(label);
+    setup.allFilesLabel = label.empty() ? QString("(All files)") : ToQString(label);
     setup.allFiles = settings_.chkAll == 1;
     setup.subFolders = settings_.chkSub == 1;
     setup.filterIndex = filesFilterIndex;

@@ -10,6 +10,7 @@
 #include "script/ScriptPlayback.h"
 #include "script/ScriptRecording.h"
 #include "ui/common/RunShowingFault.h"
+#include "ui/common/TextConversion.h"
 #include "ui/mainwindow/MainWindow.h"
 #include "ui/rename/ActionWindows.h"
 #include "ui/script/FrmScript.h"
@@ -60,9 +61,9 @@ void MainWindow::mnuStartRunScript() {
 
 void MainWindow::RunSelectedScriptButton() {
   RunShowingFault(frontEnd_, [this] {
-    RunSelectedScript(model_, selectedScriptFile_.toStdString(), [this](int stepType) { OpenAction(stepType); });
+    RunSelectedScript(model_, ToEngineText(selectedScriptFile_), [this](int stepType) { OpenAction(stepType); });
   });
-  selectedScript_->setText(QString::fromStdString(model_.selectedScriptLabel));
+  selectedScript_->setText(ToQString(model_.selectedScriptLabel));
   RefreshPreview();
 }
 
@@ -70,12 +71,12 @@ void MainWindow::FillScriptMenu() {
   QMenu* menu = ToolAction(kScriptBar, kRunSelectedKey)->menu();
   menu->clear();
   for (const StoredScript& script : ListStoredScripts(model_.fileSystem, model_.script.dataFolder)) {
-    QAction* entry = menu->addAction(QString::fromStdString(script.displayText));
-    const QString file = QString::fromStdString(script.fileName);
+    QAction* entry = menu->addAction(ToQString(script.displayText));
+    const QString file = ToQString(script.fileName);
     entry->setProperty(kScriptFileProperty, file);
     connect(entry, &QAction::triggered, this, [this, file, text = entry->text()] {
       selectedScriptFile_ = file;
-      model_.selectedScriptLabel = text.toStdString();
+      model_.selectedScriptLabel = ToEngineText(text);
       selectedScript_->setText(text);
       RunSelectedScriptButton();
     });

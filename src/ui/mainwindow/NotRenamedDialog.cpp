@@ -15,6 +15,7 @@
 #include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
 #include "ui/common/NamedControls.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -32,10 +33,10 @@ constexpr char kChoiceGroup[] = "choice";
 
 QString ReportRowText(const ReportRow& row, const lang::MessageCatalog& catalog) {
   std::string text = catalog.GetText(lang::kMessagesSection, row.textKey, row.arguments);
-  if (text.empty()) return QString::fromStdString(row.Describe());
+  if (text.empty()) return ToQString(row.Describe());
   if (!row.systemText.empty()) text += "   " + row.systemText;
   if (!row.about.empty()) text = row.about + ": " + text;
-  return QString::fromStdString(text);
+  return ToQString(text);
 }
 
 NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::MessageCatalog& catalog, QWidget* parent)
@@ -55,14 +56,14 @@ NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::Messa
     item->setText(0, QString::number(row.number));
     item->setText(1, ReportRowText(row, catalog));
     item->setToolTip(1, item->text(1));
-    item->setData(0, Qt::UserRole, QString::fromStdString(row.rowKey));
+    item->setData(0, Qt::UserRole, ToQString(row.rowKey));
   }
   notRenamed->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
   layout->addWidget(notRenamed, 3);
 
   auto* renamed = new QListWidget(this);
   renamed->setObjectName(kRenamedList);
-  for (const std::string& key : result.renamed) renamed->addItem(QString::fromStdString(key));
+  for (const std::string& key : result.renamed) renamed->addItem(ToQString(key));
   layout->addWidget(renamed, 1);
 
   AddNamedLabel(*layout, *this, kChoiceLabel, "What should happen with the renamed files:");

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QImageReader>
 #include <QPainter>
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -35,7 +36,7 @@ void ThumbnailCache::Clear() {
 
 QIcon ThumbnailCache::IconFor(const std::string& key) {
   if (size_ <= 0) return {};
-  const QString path = QString::fromStdString(key);
+  const QString path = ToQString(key);
   const auto found = pictures_.constFind(path);
   if (found != pictures_.constEnd()) return *found;
   if (!failed_.contains(path) && !queued_.contains(path)) {

@@ -5,6 +5,7 @@
 
 #include "base/Helpers.h"
 #include "open/PowerFilters.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -28,7 +29,7 @@ std::vector<FolderRow> ListFolderRows(platform::FileSystem& fileSystem, const st
   fileSystem.ListFolder(folder, [&](std::string_view name, platform::EntryKind kind) {
     if (name == "." || name == "..") return;
     if (IsHidden(name) && !showHidden) return;
-    const QString text = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    const QString text = ToQString(name);
     if (kind == platform::EntryKind::Folder || kind == platform::EntryKind::FolderLink) {
       folders.push_back({base + std::string(name), text, true});
     } else if (kind == platform::EntryKind::File && open::PassesAnyPattern(name, pattern)) {

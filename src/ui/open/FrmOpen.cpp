@@ -21,6 +21,7 @@
 #include "ui/common/FormNames.h"
 #include "ui/common/NamedControls.h"
 #include "ui/common/QtLocalisation.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -199,7 +200,7 @@ bool FrmOpen::eventFilter(QObject* watched, QEvent* event) {
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (key == Qt::Key_Return || key == Qt::Key_Enter) {
       if (watched == path_) {
-        setPath(path_->text().toStdString());
+        setPath(ToEngineText(path_->text()));
         return true;
       }
       QListWidgetItem* current = rows_->currentItem();

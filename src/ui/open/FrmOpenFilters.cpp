@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <algorithm>
 
+#include "ui/common/TextConversion.h"
 #include "ui/open/FrmOpen.h"
 
 namespace nomra::ui {
@@ -20,7 +21,7 @@ void FrmOpen::FillFilterList() {
   const int current = filterList_->currentRow();
   filterList_->clear();
   for (const open::PowerFilter& filter : filters_) {
-    auto* item = new QListWidgetItem(QString::fromStdString(filter.pattern), filterList_);
+    auto* item = new QListWidgetItem(ToQString(filter.pattern), filterList_);
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
     item->setCheckState(filter.checked ? Qt::Checked : Qt::Unchecked);
   }
@@ -51,16 +52,16 @@ bool FrmOpen::AskFilter(const QString& title, QString& text) {
   bool ok = false;
   const QString typed = QInputDialog::getText(this, title, kFilterPrompt, QLineEdit::Normal, text, &ok);
   if (!ok) return false;
-  const std::string cleaned = open::CleanFilterText(typed.toStdString());
+  const std::string cleaned = open::CleanFilterText(ToEngineText(typed));
   if (cleaned.empty()) return false;
-  text = QString::fromStdString(cleaned);
+  text = ToQString(cleaned);
   return true;
 }
 
 void FrmOpen::AddFilter() {
   QString text;
   if (!AskFilter(addFilter_->toolTip(), text)) return;
-  filters_.push_back({false, text.toStdString()});
+  filters_.push_back({false, ToEngineText(text)});
   open::SetFilterChecked(filters_, static_cast<int>(filters_.size()) - 1, true);
   FillFilterList();
   filterList_->setCurrentRow(filterList_->count() - 1);
@@ -70,9 +71,9 @@ void FrmOpen::AddFilter() {
 void FrmOpen::EditFilter() {
   const int index = filterList_->currentRow();
   if (index <= 0 || index >= static_cast<int>(filters_.size())) return;
-  QString text = QString::fromStdString(filters_[index].pattern);
+  QString text = ToQString(filters_[index].pattern);
   if (!AskFilter(editFilter_->toolTip(), text)) return;
-  filters_[index].pattern = text.toStdString();
+  filters_[index].pattern = ToEngineText(text);
   FillFilterList();
   Add2lstFiles();
 }

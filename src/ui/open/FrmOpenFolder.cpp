@@ -11,6 +11,7 @@
 #include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
 #include "ui/common/FormNames.h"
+#include "ui/common/TextConversion.h"
 #include "ui/open/FrmOpen.h"
 #include "ui/open/OpenLocations.h"
 
@@ -22,11 +23,14 @@ constexpr char kRootTextKey[] = "DrvSelRoot";
 constexpr char kRootKey[] = "*AP*";
 constexpr char kSeparator = '/';
 
-QByteArray Bytes(const std::string& text) { return QByteArray(text.data(), static_cast<qsizetype>(text.size())); }
+// The rows carry their keys as the bytes themselves: no text conversion
+// takes part, so a key that is not UTF-8 comes back whole.
+QByteArray Bytes(const std::string& key) { return QByteArray(key.data(), static_cast<qsizetype>(key.size())); }
 
-std::string FromBytes(const QVariant& value) { return value.toByteArray().toStdString(); }
-
-QString Shown(const std::string& bytes) { return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size())); }
+std::string FromBytes(const QVariant& value) {
+  const QByteArray bytes = value.toByteArray();
+  return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+}
 
 // Without a separator at the end, except for the root itself.
 std::string Trimmed(std::string path) {
@@ -50,7 +54,7 @@ void FrmOpen::setPath(const std::string& path) {
   }
   atLocations_ = folder.empty();
   folder_ = folder;
-  path_->setText(Shown(folder_));
+  path_->setText(ToQString(folder_));
   FillLocations();
   Add2lstFiles();
 }
@@ -66,10 +70,10 @@ void FrmOpen::FillLocations() {
   const QSignalBlocker quiet(locations_);
   locations_->clear();
   const std::string rootText = services_.catalog.GetText(kOpenDialogName, kRootTextKey);
-  locations_->addItem(icons_.Computer(), rootText.empty() ? QString("Computer") : Shown(rootText), QByteArray(kRootKey));
+  locations_->addItem(icons_.Computer(), rootText.empty() ? QString("Computer") : ToQString(rootText), QByteArray(kRootKey));
   for (const Location& place : ListLocations()) {
     const QIcon icon = place.kind == LocationKind::Home ? icons_.Home() : icons_.Drive();
-    locations_->addItem(icon, place.text, place.path.toUtf8());
+    locations_->addItem(icon, place.text, Bytes(ToEngineText(place.path)));
   }
   if (atLocations_) {
     locations_->setCurrentIndex(0);
@@ -81,7 +85,7 @@ void FrmOpen::FillLocations() {
     const std::string& level = levels[depth];
     const std::string name = level == "/" ? level : level.substr(level.rfind(kSeparator) + 1);
     const bool last = depth + 1 == levels.size();
-    locations_->addItem(last ? icons_.OpenFolder() : icons_.ClosedFolder(), Shown(name), Bytes(level));
+    locations_->addItem(last ? icons_.OpenFolder() : icons_.ClosedFolder(), ToQString(name), Bytes(level));
     locations_->setItemData(locations_->count() - 1, static_cast<int>(depth + 1), kDepthRole);
   }
   locations_->setCurrentIndex(locations_->count() - 1);
@@ -105,12 +109,12 @@ void FrmOpen::Add2lstFiles() {
     rows_->clear();
     if (atLocations_) {
       for (const Location& place : ListLocations()) {
-        AddRow(place.kind == LocationKind::Home ? icons_.Home() : icons_.Drive(), place.text, place.path.toStdString(), true);
+        AddRow(place.kind == LocationKind::Home ? icons_.Home() : icons_.Drive(), place.text, ToEngineText(place.path), true);
       }
     } else {
       const std::string shown = AddBackslash(folder_);
       for (const FolderRow& row : ListFolderRows(services_.fileSystem, folder_, open::CheckedPattern(filters_), showHiddenFiles_)) {
-        const QIcon icon = row.folder ? icons_.ClosedFolder() : icons_.ForFile(Shown(shown + row.key));
+        const QIcon icon = row.folder ? icons_.ClosedFolder() : icons_.ForFile(ToQString(shown + row.key));
         AddRow(icon, row.text, row.key, row.folder);
       }
     }

@@ -16,7 +16,7 @@ bool IsUnder(const QString& path, const QString& folder) { return path == folder
 bool IsSystemMount(const QString& path) {
   if (IsUnder(path, QStringLiteral("/run/media"))) return false;
   for (const char* folder : {"/run", "/boot", "/snap", "/dev", "/proc", "/sys"}) {
-    if (IsUnder(path, QString::fromLatin1(folder))) return true;
+    if (IsUnder(path, QLatin1String(folder))) return true;
   }
   return false;
 }

@@ -11,6 +11,7 @@
 
 #include "ui/common/FormNames.h"
 #include "ui/common/QtLocalisation.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -21,10 +22,10 @@ constexpr char kNoTextTag[] = "NO";
 // Qt reads a filter's patterns from its last brackets, split at blanks; the
 // list's rows join several patterns with ";", as the system's dialogs do.
 QString QtNameFilter(const open::FilterRow& row) {
-  QString text = QString::fromStdString(row.text);
-  const QString ownBrackets = " (" + QString::fromStdString(row.pattern) + ")";
+  QString text = ToQString(row.text);
+  const QString ownBrackets = " (" + ToQString(row.pattern) + ")";
   if (text.endsWith(ownBrackets)) text.chop(ownBrackets.size());
-  const QString patterns = QString::fromStdString(row.pattern).replace(';', ' ');
+  const QString patterns = ToQString(row.pattern).replace(';', ' ');
   return text + " (" + patterns + ")";
 }
 
@@ -109,7 +110,7 @@ void SystemOpenDialog::OnAllFilesToggled(bool on) {
 
 void SystemOpenDialog::OnCurrentChanged(const QString& path) {
   if (!AllFiles() || path.isEmpty() || !QFileInfo(path).isFile()) return;
-  panel_->setProperty(kTagProperty, QString::fromLatin1(kNoTextTag));
+  panel_->setProperty(kTagProperty, QString(QLatin1String(kNoTextTag)));
   allFiles_->setChecked(false);
   // Qt leaves the field alone while it has the focus; the label must not
   // stay there as if it were a file's name.
@@ -148,9 +149,9 @@ open::OpenChoice SystemOpenDialog::Choice() const {
   choice.subFolders = SubFolders();
   choice.filterIndex = setup_.mode == open::OpenMode::Files ? ChosenFilterIndex() : setup_.filterIndex;
   if (choice.allFiles) {
-    choice.paths.push_back(directory().absolutePath().toStdString());
+    choice.paths.push_back(ToEngineText(directory().absolutePath()));
   } else {
-    for (const QString& path : selectedFiles()) choice.paths.push_back(path.toStdString());
+    for (const QString& path : selectedFiles()) choice.paths.push_back(ToEngineText(path));
   }
   return choice;
 }

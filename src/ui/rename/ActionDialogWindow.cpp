@@ -12,6 +12,7 @@
 #include "ui/common/DialogTexts.h"
 #include "ui/common/FormNames.h"
 #include "ui/common/RunShowingFault.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -23,7 +24,7 @@ constexpr char kRunCaptionKey[] = "FrmRunCaption";
 
 ActionDialogWindow::ActionDialogWindow(std::unique_ptr<ActionDialog> action, ActionWindowServices services)
     : QDialog(services.mainWindow), action_(std::move(action)), services_(std::move(services)) {
-  setObjectName(QString::fromStdString(action_->Traits().dialogName));
+  setObjectName(ToQString(action_->Traits().dialogName));
   setModal(true);
   auto* layout = new QVBoxLayout(this);
   inputArea_ = new QVBoxLayout;
@@ -64,7 +65,7 @@ void ActionDialogWindow::OnFirstActivation() {
   const bool playing = session.runMode == 1 || session.runMode == 2;
   if (playing) {
     const std::string runCaption = services_.catalog.GetText(kScriptDialogName, kRunCaptionKey);
-    setWindowTitle(QString::fromStdString(runCaption) + ": " + usualCaption_);
+    setWindowTitle(ToQString(runCaption) + ": " + usualCaption_);
     ok_->setFocus();
   }
   ReadWidgetsIntoModel(action_->Model(), *this);

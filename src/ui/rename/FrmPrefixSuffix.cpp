@@ -8,6 +8,7 @@
 #include "rename/PrefixSuffix.h"
 #include "ui/common/NameKeyFilter.h"
 #include "ui/common/NamedControls.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -31,10 +32,10 @@ FrmPrefixSuffix::FrmPrefixSuffix(ActionWindowServices services)
 }
 
 void FrmPrefixSuffix::AfterLocalised() {
-  const auto labels = PrefixSuffixLabels(UsualCaption().toStdString());
+  const auto labels = PrefixSuffixLabels(ToEngineText(UsualCaption()));
   if (!labels) return;
-  prefixLabel_->setText(QString::fromStdString(labels->first));
-  suffixLabel_->setText(QString::fromStdString(labels->second));
+  prefixLabel_->setText(ToQString(labels->first));
+  suffixLabel_->setText(ToQString(labels->second));
 }
 
 }  // namespace nomra::ui

@@ -7,6 +7,7 @@
 #include "rename/CaseAction.h"
 #include "ui/common/NamedControls.h"
 #include "ui/common/QtLocalisation.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -45,7 +46,7 @@ void FrmULCase::AfterLocalised() {
   for (int index = 1; index <= kConversions; ++index) {
     const std::string text =
         Services().catalog.GetText(kLanguageSection, "optOpt" + std::to_string(index));
-    if (!text.empty()) findChild<QRadioButton*>(ControlArrayMember(kConversionOptions, index))->setText(QString::fromStdString(text));
+    if (!text.empty()) findChild<QRadioButton*>(ControlArrayMember(kConversionOptions, index))->setText(ToQString(text));
   }
 }
 

@@ -16,6 +16,7 @@
 #include "ui/common/NamedControls.h"
 #include "ui/common/QtLocalisation.h"
 #include "ui/common/RunShowingFault.h"
+#include "ui/common/TextConversion.h"
 #include "ui/structure/StructureTagList.h"
 
 namespace nomra::ui {
@@ -77,12 +78,12 @@ FrmNameStructure::FrmNameStructure(ActionWindowServices services)
     ShowEditor();
   });
   connect(name_, &QLineEdit::textEdited, this, [this](const QString& text) {
-    editor_.SetName(text.toStdString());
+    editor_.SetName(ToEngineText(text));
     ShowEditor();
   });
   // Typing and dropping a tag both edit the text.
   connect(structure_, &QLineEdit::textEdited, this, [this](const QString& text) {
-    editor_.SetStructure(text.toStdString());
+    editor_.SetStructure(ToEngineText(text));
     ShowEditor();
   });
   connect(preview_.row, &QScrollBar::valueChanged, this, [this](int row) {
@@ -154,7 +155,7 @@ void FrmNameStructure::ShowStructureRows() {
   structures_->clear();
   for (const StoredStructure& row : stored) {
     structures_->addTopLevelItem(
-        new QTreeWidgetItem({QString::fromStdString(row.name), QString::fromStdString(row.structure)}));
+        new QTreeWidgetItem({ToQString(row.name), ToQString(row.structure)}));
   }
   if (editor_.Chosen() >= 0) structures_->setCurrentItem(structures_->topLevelItem(editor_.Chosen()));
 }

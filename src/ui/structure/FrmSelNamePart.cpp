@@ -14,6 +14,7 @@
 #include "ui/common/DialogTexts.h"
 #include "ui/common/NameKeyFilter.h"
 #include "ui/common/NamedControls.h"
+#include "ui/common/TextConversion.h"
 #include "ui/structure/StructureDialogParts.h"
 
 namespace nomra::ui {
@@ -40,12 +41,12 @@ FrmSelNamePart::FrmSelNamePart(QLineEdit& target, const ActionWindowServices& se
   ok_ = AddOkCancelRow(*this, *layout);
 
   LocaliseDialog(*this, services.catalog, services.mainWindow, services.appTitle);
-  picker_.Load(target.text().toStdString());
+  picker_.Load(ToEngineText(target.text()));
   ShowModelInWidgets(picker_.Model(), *this);
   ShowPicker();
 
   connect(separator, &QLineEdit::textEdited, this, [this](const QString& text) {
-    picker_.SetSeparator(text.toStdString());
+    picker_.SetSeparator(ToEngineText(text));
     ShowPicker();
   });
   connect(part, &QComboBox::currentIndexChanged, this, [this](int index) {
@@ -70,7 +71,7 @@ void FrmSelNamePart::ShowPicker() {
 
 void FrmSelNamePart::cmdOK() {
   if (!picker_.OkEnabled()) return;
-  if (target_) target_->setText(QString::fromStdString(picker_.TagText()));
+  if (target_) target_->setText(ToQString(picker_.TagText()));
   accept();
 }
 

@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 
 #include "ui/common/NamedControls.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -28,10 +29,10 @@ StructurePreview AddStructurePreview(QWidget& dialog, QBoxLayout& layout) {
 
 void ShowTextsAndPreviewRow(const dialog::DialogModel& model, QWidget& dialog) {
   for (const dialog::DialogInput& input : model.Inputs()) {
-    const QString name = QString::fromStdString(input.Key());
+    const QString name = ToQString(input.Key());
     if (input.kind == dialog::InputKind::Text) {
       auto* edit = dialog.findChild<QLineEdit*>(name);
-      const QString text = QString::fromStdString(input.text);
+      const QString text = ToQString(input.text);
       if (edit != nullptr && edit->text() != text) {
         const QSignalBlocker block(edit);
         edit->setText(text);
@@ -44,14 +45,6 @@ void ShowTextsAndPreviewRow(const dialog::DialogModel& model, QWidget& dialog) {
       }
     }
   }
-}
-
-int Utf16Position(const QString& text, int characters) {
-  int position = 0;
-  for (int n = 0; n < characters && position < text.size(); ++n) {
-    position += text.at(position).isHighSurrogate() && position + 1 < text.size() ? 2 : 1;
-  }
-  return position;
 }
 
 }  // namespace nomra::ui

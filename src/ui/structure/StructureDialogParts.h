@@ -27,8 +27,4 @@ StructurePreview AddStructurePreview(QWidget& dialog, QBoxLayout& layout);
 // in it stays where it is.
 void ShowTextsAndPreviewRow(const dialog::DialogModel& model, QWidget& dialog);
 
-// The UTF-16 position in `text` of the character with that number from 0:
-// the engine counts characters, Qt counts UTF-16 units.
-int Utf16Position(const QString& text, int characters);
-
 }  // namespace nomra::ui

@@ -3,6 +3,7 @@
 #include <QMimeData>
 
 #include "ui/common/QtLocalisation.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -28,7 +29,7 @@ StructureTagList::StructureTagList(const char* name, const char* head, QWidget* 
 void StructureTagList::ShowChoices(const std::vector<TagChoice>& choices) {
   clear();
   for (const TagChoice& choice : choices) {
-    addTopLevelItem(new QTreeWidgetItem({QString::fromStdString(choice.label), QString::fromStdString(choice.tag)}));
+    addTopLevelItem(new QTreeWidgetItem({ToQString(choice.label), ToQString(choice.tag)}));
   }
 }
 

@@ -8,6 +8,7 @@
 
 #include "base/Helpers.h"
 #include "core/FileEntry.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui::testing {
 
@@ -52,7 +53,7 @@ std::vector<std::string> WindowTest::AddFiles(const std::vector<std::string>& na
   QStringList qtPaths;
   for (const std::string& name : names) {
     paths.push_back(files.WriteFile(name, name));
-    qtPaths << QString::fromStdString(paths.back());
+    qtPaths << ToQString(paths.back());
   }
   window->AddPaths(qtPaths);
   return paths;

@@ -55,7 +55,7 @@ class WindowTest : public ::testing::Test {
   std::string SettingsPath() const { return data.Path() + "settings.nrp"; }
 
   // Writes the files (each holding its own name) and adds them through the
-  // window, in this order. Returns their full paths.
+  // window, in this order; a name need not be UTF-8. Returns their full paths.
   std::vector<std::string> AddFiles(const std::vector<std::string>& names);
 
   // What the details view shows: its model, rows from 1.
