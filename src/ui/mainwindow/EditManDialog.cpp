@@ -6,10 +6,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "base/NameSplit.h"
 #include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
 #include "ui/common/NameKeyFilter.h"
 #include "ui/common/NamedControls.h"
+#include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
 
@@ -29,9 +31,10 @@ EditManDialog::EditManDialog(const QString& pendingName, const lang::MessageCata
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
 
   LocaliseDialog(*this, catalog, parent, QString());
-  // The name without its extension is what one usually changes.
-  const int dot = pendingName.lastIndexOf('.');
-  name_->setSelection(0, dot > 0 ? dot : pendingName.size());
+  // The name without its extension is what one usually changes; a name that
+  // is all extension is selected whole.
+  const QString stem = ToQString(NameOnly(ToEngineText(pendingName)));
+  name_->setSelection(0, stem.isEmpty() ? pendingName.size() : stem.size());
 }
 
 QString EditManDialog::Text() const { return name_->text(); }

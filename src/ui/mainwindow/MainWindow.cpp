@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QEvent>
-#include <QFileInfo>
 #include <QHeaderView>
 #include <QImageReader>
 #include <QLabel>
@@ -18,6 +17,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "base/CaseMap.h"
+#include "base/NameSplit.h"
 #include "base/NumberText.h"
 #include "commit/CommitRecovery.h"
 #include "core/AddFile.h"
@@ -413,7 +414,7 @@ void MainWindow::SelectionHandler() {
     detailFields_[0]->setText(ToQString(row[kColPath]));
     detailFields_[1]->setText(ToQString(row[kColOldName]));
     detailFields_[2]->setText(ToQString(row[kColNewName]));
-    const bool mp3 = QFileInfo(ToQString(row.key)).suffix().compare("mp3", Qt::CaseInsensitive) == 0;
+    const bool mp3 = text::EqualsNoCase(ExtensionOnly(row.key, false), "mp3");
     for (const char* name : {kId3Entry, kId3PopupEntry}) MenuAction(name)->setEnabled(mp3 && !notYetBuilt_.contains(name));
   }
   const bool hasRow = !detailFields_[0]->text().isEmpty();

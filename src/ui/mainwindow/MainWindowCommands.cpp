@@ -14,6 +14,7 @@
 #include <QTableView>
 #include <QToolBar>
 
+#include "base/NumberText.h"
 #include "commit/TakeChanges.h"
 #include "core/ManualEdit.h"
 #include "core/SortFileList.h"
@@ -36,10 +37,7 @@ namespace nomra::ui {
 namespace {
 
 // Twelve digits, as the list's hidden sort texts are.
-std::string Padded(int value) {
-  std::string digits = std::to_string(std::max(value, 0));
-  return std::string(digits.size() < 12 ? 12 - digits.size() : 0, '0') + digits;
-}
+std::string Padded(int value) { return text::FormatPadded(static_cast<std::uint64_t>(std::max(value, 0)), 12); }
 
 }  // namespace
 

@@ -3,7 +3,9 @@
 #include <QFileInfo>
 #include <algorithm>
 
+#include "base/CaseMap.h"
 #include "base/Helpers.h"
+#include "open/FolderWalk.h"
 #include "open/PowerFilters.h"
 #include "ui/common/TextConversion.h"
 
@@ -11,35 +13,35 @@ namespace nomra::ui {
 
 namespace {
 
-bool IsHidden(std::string_view name) { return !name.empty() && name.front() == '.'; }
-
-void SortByText(std::vector<FolderRow>& rows) {
-  std::stable_sort(rows.begin(), rows.end(), [](const FolderRow& a, const FolderRow& b) {
-    return QString::compare(a.text, b.text, Qt::CaseInsensitive) < 0;
-  });
+// The rows of one group in name order, by the engine's rule of case.
+void SortByName(std::vector<std::string>& names) {
+  std::stable_sort(names.begin(), names.end(),
+                   [](const std::string& a, const std::string& b) { return text::CompareNoCase(a, b) < 0; });
 }
 
 }  // namespace
 
 std::vector<FolderRow> ListFolderRows(platform::FileSystem& fileSystem, const std::string& folder,
                                       const std::string& pattern, bool showHidden) {
-  std::vector<FolderRow> folders;
-  std::vector<FolderRow> files;
-  const std::string base = AddBackslash(folder);
+  std::vector<std::string> folderNames;
+  std::vector<std::string> fileNames;
   fileSystem.ListFolder(folder, [&](std::string_view name, platform::EntryKind kind) {
     if (name == "." || name == "..") return;
-    if (IsHidden(name) && !showHidden) return;
-    const QString text = ToQString(name);
+    if (open::IsHiddenName(name) && !showHidden) return;
     if (kind == platform::EntryKind::Folder || kind == platform::EntryKind::FolderLink) {
-      folders.push_back({base + std::string(name), text, true});
+      folderNames.emplace_back(name);
     } else if (kind == platform::EntryKind::File && open::PassesAnyPattern(name, pattern)) {
-      files.push_back({std::string(name), text, false});
+      fileNames.emplace_back(name);
     }
   });
-  SortByText(folders);
-  SortByText(files);
-  folders.insert(folders.end(), files.begin(), files.end());
-  return folders;
+  SortByName(folderNames);
+  SortByName(fileNames);
+  const std::string base = AddBackslash(folder);
+  std::vector<FolderRow> rows;
+  rows.reserve(folderNames.size() + fileNames.size());
+  for (const std::string& name : folderNames) rows.push_back({base + name, ToQString(name), true});
+  for (const std::string& name : fileNames) rows.push_back({name, ToQString(name), false});
+  return rows;
 }
 
 QIcon FileTypeIcons::ClosedFolder() const { return provider_.icon(QAbstractFileIconProvider::Folder); }

@@ -7,6 +7,7 @@
 
 #include "base/Helpers.h"
 #include "core/BusyPointer.h"
+#include "fileops/FilePaths.h"
 #include "open/StagedFiles.h"
 #include "settings/IniFile.h"
 #include "settings/SettingsKeys.h"
@@ -21,7 +22,6 @@ namespace {
 
 constexpr char kRootTextKey[] = "DrvSelRoot";
 constexpr char kRootKey[] = "*AP*";
-constexpr char kSeparator = '/';
 
 // The rows carry their keys as the bytes themselves: no text conversion
 // takes part, so a key that is not UTF-8 comes back whole.
@@ -34,14 +34,14 @@ std::string FromBytes(const QVariant& value) {
 
 // Without a separator at the end, except for the root itself.
 std::string Trimmed(std::string path) {
-  while (path.size() > 1 && path.back() == kSeparator) path.pop_back();
+  while (path.size() > 1 && path.back() == kPathSeparator) path.pop_back();
   return path;
 }
 
+// The folder above; above the root come the locations, "".
 std::string ParentOf(const std::string& path) {
-  const std::size_t last = path.rfind(kSeparator);
-  if (last == std::string::npos || path == "/") return {};
-  return last == 0 ? std::string("/") : path.substr(0, last);
+  if (path == "/") return {};
+  return Trimmed(fileops::FolderOf(path));
 }
 
 }  // namespace
@@ -83,7 +83,7 @@ void FrmOpen::FillLocations() {
   for (std::string level = folder_; !level.empty(); level = ParentOf(level)) levels.insert(levels.begin(), level);
   for (std::size_t depth = 0; depth < levels.size(); ++depth) {
     const std::string& level = levels[depth];
-    const std::string name = level == "/" ? level : level.substr(level.rfind(kSeparator) + 1);
+    const std::string name = level == "/" ? level : fileops::NameOf(level);
     const bool last = depth + 1 == levels.size();
     locations_->addItem(last ? icons_.OpenFolder() : icons_.ClosedFolder(), ToQString(name), Bytes(level));
     locations_->setItemData(locations_->count() - 1, static_cast<int>(depth + 1), kDepthRole);
