@@ -30,7 +30,7 @@
 #include "core/FileEntry.h"
 #include "core/Startup.h"
 #include "platform/Platform.h"
-#include "ui/MainWindow.h"
+#include "ui/mainwindow/MainWindow.h"
 
 namespace {
 

@@ -10,8 +10,8 @@
 #include "lang/ChooseLanguage.h"
 #include "formats/IniFile.h"
 #include "platform/Platform.h"
-#include "ui/LanguageDialog.h"
-#include "ui/MainWindow.h"
+#include "ui/common/LanguageDialog.h"
+#include "ui/mainwindow/MainWindow.h"
 
 namespace {
 

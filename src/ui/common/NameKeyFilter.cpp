@@ -1,0 +1,19 @@
+#include "ui/common/NameKeyFilter.h"
+
+#include <QKeyEvent>
+
+#include "rename/KeyFilter.h"
+
+namespace nomra::ui {
+
+bool NameKeyFilter::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const QString text = static_cast<QKeyEvent*>(event)->text();
+    for (const char32_t character : text.toUcs4()) {
+      if (RefusedInNameField(character)) return true;
+    }
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace nomra::ui

@@ -1,0 +1,17 @@
+#include "ui/common/RunShowingFault.h"
+
+#include "base/Fault.h"
+
+namespace nomra::ui {
+
+bool RunShowingFault(FrontEnd& frontEnd, const std::function<void()>& work) {
+  try {
+    work();
+    return true;
+  } catch (const RuntimeFault& fault) {
+    frontEnd.ShowFault(fault.what());
+    return false;
+  }
+}
+
+}  // namespace nomra::ui

@@ -1,0 +1,36 @@
+#include "ui/fileops/FileOperationCommands.h"
+
+#include "fileops/DeleteListFiles.h"
+#include "fileops/PermissionText.h"
+#include "lang/MessageKeys.h"
+#include "ui/fileops/FileOperationProgress.h"
+#include "ui/fileops/FrmSelAction.h"
+#include "ui/fileops/PropertiesDialog.h"
+
+namespace nomra::ui {
+
+bool RunSelAction(QWidget* parent, platform::Platform& system, MainModel& model, const lang::MessageCatalog& catalog,
+                  const QString& tag) {
+  FrmSelAction dialog(tag, model, catalog, system, parent);
+  return dialog.exec() == QDialog::Accepted;
+}
+
+bool DeleteListFiles(QWidget* parent, platform::Platform& system, MainModel& model,
+                     const lang::MessageCatalog& catalog, bool toTrash) {
+  FileOperationProgress progress(catalog, parent);
+  fileops::OperationServices services{system.Files(), system.DesktopTrash(), model.frontEnd, progress};
+  return fileops::DeleteListFiles(model, toTrash, services);
+}
+
+void ShowProperties(QWidget* parent, platform::FileSystem& fileSystem, FrontEnd& frontEnd,
+                    const lang::MessageCatalog& catalog, const std::string& path) {
+  const platform::FileProperties properties = fileSystem.Properties(path);
+  if (properties.type == platform::PropertyType::Missing) {
+    frontEnd.Ask({lang::kSourceMissing, lang::kAttentionCaption, MessageStyle::OkStop, {path}});
+    return;
+  }
+  PropertiesDialog dialog(properties, catalog, parent);
+  dialog.exec();
+}
+
+}  // namespace nomra::ui

@@ -1,0 +1,54 @@
+// The close of the main window: layout and settings are written, the user
+// is asked about a running recording and about pending names.
+#include <QCloseEvent>
+#include <QHeaderView>
+#include <QTableView>
+#include <QToolBar>
+
+#include "core/CloseQuestions.h"
+#include "core/WindowPlacement.h"
+#include "ui/common/TextConversion.h"
+#include "ui/mainwindow/MainWindow.h"
+
+namespace nomra::ui {
+
+void MainWindow::CollectLayout() {
+  const double dpi = logicalDpiX();
+  for (int head = 1; head <= kColumnHeadCount; ++head) {
+    const int column = head - 1;
+    settings_.columnWidths[column] = details_->isColumnHidden(column) ? 0 : PixelsToTwips(details_->columnWidth(column), dpi);
+  }
+  settings_.previewStyle = view_ == ListView::Details        ? kDetailsStyle
+                           : view_ == ListView::DetailsIcons ? kDetailsIconsStyle
+                                                             : kIconsStyle;
+  settings_.previewGridLines = MenuAction(kGridLinesEntry)->isChecked();
+  settings_.ws = isMaximized() ? 2 : isMinimized() ? 1 : 0;
+  if (settings_.ws == 0) {
+    settings_.x = PixelsToTwips(x(), dpi);
+    settings_.y = PixelsToTwips(y(), dpi);
+    settings_.w = PixelsToTwips(width(), dpi);
+    settings_.h = PixelsToTwips(height(), dpi);
+  }
+  settings_.splash = MenuAction(kShowSplashEntry)->isChecked() ? 1 : 0;
+  settings_.btnbarMain = MenuAction(kShowMainBarEntry)->isChecked() ? 1 : 0;
+  settings_.btnbarScript = MenuAction(kShowScriptBarEntry)->isChecked() ? 1 : 0;
+  settings_.previewSortKey = model_.list.sortKey;
+  settings_.previewSortOrder = model_.list.sortOrder;
+  settings_.openFileTag = ToEngineText(variants_.value(kOpenFileKey));
+  settings_.takeChangesTag = ToEngineText(variants_.value(kTakeChangesKey));
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  CollectLayout();
+  const CloseDecision decision =
+      RunCloseSequence(settings_, model_, SettingsFile(), model_.script.recording != 0, [this] { EndRecording(); });
+  if (decision == CloseDecision::Refuse) {
+    event->ignore();
+    // A Yes that took the changes has changed rows even when the close stops.
+    RefreshPreview();
+    return;
+  }
+  event->accept();
+}
+
+}  // namespace nomra::ui

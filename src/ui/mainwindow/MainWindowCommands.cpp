@@ -1,0 +1,228 @@
+// What each key, menu entry and list event of the main window runs.
+#include <QApplication>
+#include <utility>
+#include <QClipboard>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QListView>
+#include <QMenu>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QUrl>
+#include <QTableView>
+#include <QToolBar>
+
+#include "base/NumberText.h"
+#include "commit/TakeChanges.h"
+#include "core/ManualEdit.h"
+#include "core/SortFileList.h"
+#include "formats/IniFile.h"
+#include "settings/SettingsKeys.h"
+#include "ui/common/InfoDialog.h"
+#include "ui/common/LanguageDialog.h"
+#include "ui/common/QtLocalisation.h"
+#include "ui/common/TextConversion.h"
+#include "ui/fileops/FileOperationCommands.h"
+#include "ui/mainwindow/EditManDialog.h"
+#include "ui/mainwindow/FileListModel.h"
+#include "ui/mainwindow/MainWindow.h"
+#include "ui/mainwindow/NotRenamedDialog.h"
+#include "ui/mainwindow/ThumbnailCache.h"
+#include "core/WindowPlacement.h"
+
+namespace nomra::ui {
+
+namespace {
+
+// Twelve digits, as the list's hidden sort texts are.
+std::string Padded(int value) { return text::FormatPadded(static_cast<std::uint64_t>(std::max(value, 0)), 12); }
+
+}  // namespace
+
+// Each menu entry and tool button runs what the dispatch tables give its name.
+void MainWindow::ConnectCommands() {
+  for (QAction* action : std::as_const(menuActions_)) ConnectMenuEntry(*action);
+  for (auto it = toolActions_.constBegin(); it != toolActions_.constEnd(); ++it) {
+    const QString bar = it.key().section(QLatin1Char('/'), 0, 0);
+    ConnectToolEntry(*it.value(), bar, it.value()->property(kKeyProperty).toString());
+    if (QMenu* entries = it.value()->menu()) {
+      for (QAction* entry : entries->actions()) ConnectToolEntry(*entry, bar, entry->property(kKeyProperty).toString());
+    }
+  }
+
+  connect(applyTo_, &QComboBox::currentIndexChanged, this, [this](int index) {
+    if (index >= 0) model_.applyScope = index;
+  });
+  connect(details_->horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) { OnHeadClicked(section); });
+  connect(details_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          [this](const QItemSelection& selected, const QItemSelection& deselected) {
+            for (const QItemSelectionRange& range : deselected) {
+              for (int row = range.top(); row <= range.bottom(); ++row) model_.list.Item(row + 1).selected = false;
+            }
+            for (const QItemSelectionRange& range : selected) {
+              for (int row = range.top(); row <= range.bottom(); ++row) model_.list.Item(row + 1).selected = true;
+            }
+            SelectionHandler();
+          });
+  connect(details_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { SelectionHandler(); });
+  connect(details_, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) { ShowPopup(details_->viewport()->mapToGlobal(at)); });
+  connect(icons_, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) { ShowPopup(icons_->viewport()->mapToGlobal(at)); });
+  connect(listModel_, &FileListModel::rowDropped, this, [this](int dragged, int target) { OnRowDropped(dragged, target); });
+  connect(listModel_, &FileListModel::pathsDropped, this, [this](const QStringList& paths) { AddPaths(paths); });
+  connect(listModel_, &FileListModel::labelEdited, this, [this](int position, const QString& text) { OnLabelEdited(position, text); });
+  connect(thumbnails_, &ThumbnailCache::picturesLoaded, this, [this] {
+    details_->viewport()->update();
+    icons_->viewport()->update();
+  });
+}
+
+void MainWindow::takeChanges() {
+  CommitServices services;
+  services.showNotRenamed = [this](const CommitResult& result) {
+    NotRenamedDialog dialog(result, catalog_, this);
+    dialog.RememberChoiceIn(model_.script, model_.fileSystem, frontEnd_);
+    dialog.exec();
+    return dialog.Choice();
+  };
+  services.showSelectAction = [this] { RunSelAction(this, system_, model_, catalog_, "frmSelAction"); };
+  nomra::takeChanges(model_, ToEngineText(variants_.value(kTakeChangesKey)), services);
+  RefreshPreview();
+}
+
+void MainWindow::mnuEditMan() {
+  const int position = SelectedPosition();
+  if (position <= 0) return;
+  EditManDialog dialog(ToQString(model_.list.Item(position)[kColNewName]), catalog_, this);
+  if (dialog.exec() == QDialog::Accepted && ApplyManualEdit(model_, position, ToEngineText(dialog.Text()))) {
+    RefreshPreview();
+  }
+}
+
+void MainWindow::mnuInfo() {
+  InfoDialog dialog(catalog_, appTitle_, version_, MenuAction(kInfoEntry)->text(), this);
+  dialog.exec();
+}
+
+void MainWindow::mnuOptions() {
+  LanguageDialog dialog(paths_.appFolder, SettingsFile(), catalog_, MenuAction(kOptionsEntry)->text(), this);
+  if (dialog.exec() == QDialog::Accepted && !dialog.ChosenFile().empty()) UseLanguage(dialog.ChosenFile());
+}
+
+void MainWindow::mnuExperts() {
+  if (model_.expertMode) return;
+  const Message question{"MsgText33", "msgCapAttention", MessageStyle::YesNoWarningDefaultNo, {}};
+  const Message warning{"MsgText34", "", MessageStyle::YesNoWarningDefaultNo, {}};
+  const Answer answer = frontEnd_.AskText(question, frontEnd_.TextOf(question) + '\n' + frontEnd_.TextOf(warning));
+  if (answer != Answer::Yes) return;
+  model_.expertMode = true;
+  ApplyExpertMode();
+}
+
+// -1 copies the full path.
+void MainWindow::mnuCopyText(int column) {
+  const int position = SelectedPosition();
+  if (position <= 0) return;
+  const FileEntry& row = model_.list.Item(position);
+  QApplication::clipboard()->setText(ToQString(column < 0 ? row.key : row[column]));
+}
+
+void MainWindow::SetView(ListView view) {
+  view_ = view;
+  RefreshPreview();
+}
+
+void MainWindow::SetIconSizeEntry(int entry) {
+  if (entry == iconSizeEntry_) return;
+  iconSizeEntry_ = entry;
+  const auto entries = iconSizeMenu_->actions();
+  for (int i = 0; i < entries.size(); ++i) entries[i]->setChecked(i + 1 == entry);
+  RefreshPreview();
+  SettingsFile().Write(settings::kSettingsSection, settings::kPreviewImageSizeKey, entry);
+}
+
+// Entry i shows or hides head i + 1, which is Qt's column i.
+void MainWindow::ToggleColumn(int entry) {
+  const bool show = MenuAction(ControlArrayMember(kColumnFamily, entry))->isChecked();
+  details_->setColumnHidden(entry, !show);
+  if (show) details_->setColumnWidth(entry, TwipsToPixels(entry == kColSize ? 1400 : 1800, logicalDpiX()));
+}
+
+void MainWindow::SetGridLines(bool on) { details_->setShowGrid(on); }
+
+void MainWindow::OnHeadClicked(int section) {
+  ClickColumnHead(model_, section + 1);
+  listModel_->Reload();
+  RestoreSelection();
+  UpdateSortIndicators();
+}
+
+// A row dragged by hand: from now on the hand-made order is the user's order.
+void MainWindow::OnRowDropped(int dragged, int target) {
+  if (dragged == target) return;
+  model_.list.MoveRow(dragged, target);
+  model_.list.sortKey = kColListPosition;
+  lastSelectedIndex_ = target;
+  RefreshPreview();
+}
+
+void MainWindow::OnLabelEdited(int position, const QString& text) {
+  labelEditing_ = false;
+  ApplyLabelEdit(model_, position, ToEngineText(text));
+  RefreshPreview();
+}
+
+// Pictures placed freely: reading order on the screen becomes list order.
+void MainWindow::OnIconLayoutChanged() {
+  const int count = model_.list.Count();
+  if (count == 0) return;
+  const int dx = icons_->horizontalScrollBar()->value();
+  const int dy = icons_->verticalScrollBar()->value();
+  bool moved = false;
+  std::string previous;
+  for (int position = 1; position <= count; ++position) {
+    const QRect place = icons_->visualRect(listModel_->index(position - 1, 0));
+    FileEntry& row = model_.list.Item(position);
+    row[kColSortKey] = Padded(place.top() + dy) + "x" + Padded(place.left() + dx);
+    if (!previous.empty() && row[kColSortKey] < previous) moved = true;
+    previous = row[kColSortKey];
+  }
+  if (!moved) return;
+  model_.list.sortOrder = 0;
+  SortRowsByColumn(model_.list, kColSortKey);
+  model_.list.sortKey = kColListPosition;
+  RefreshPreview();
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == icons_->viewport() && event->type() == QEvent::MouseButtonRelease &&
+      static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+    // Let the view place the item first, then read the places.
+    QMetaObject::invokeMethod(this, [this] { OnIconLayoutChanged(); }, Qt::QueuedConnection);
+  }
+  if (watched == icons_->viewport() && event->type() == QEvent::Drop) {
+    QMetaObject::invokeMethod(this, [this] { OnIconLayoutChanged(); }, Qt::QueuedConnection);
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  QStringList paths;
+  for (const QUrl& url : event->mimeData()->urls()) {
+    if (url.isLocalFile()) paths << LocalFilePath(url);
+  }
+  if (paths.isEmpty()) return;
+  event->acceptProposedAction();
+  AddPaths(paths);
+}
+
+void MainWindow::ShowPopup(const QPoint& position) {
+  if (!model_.list.Empty()) popup_->popup(position);
+}
+
+}  // namespace nomra::ui
