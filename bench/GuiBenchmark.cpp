@@ -25,10 +25,10 @@
 #include <vector>
 
 #include "BenchTree.h"
-#include "core/CommandLine.h"
+#include "shell/CommandLine.h"
 #include "core/ExifDateReader.h"
 #include "core/FileEntry.h"
-#include "core/Startup.h"
+#include "shell/Startup.h"
 #include "platform/Platform.h"
 #include "ui/mainwindow/MainWindow.h"
 

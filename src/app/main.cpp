@@ -4,9 +4,9 @@
 #include <QMessageBox>
 #include <memory>
 
-#include "core/CommandLine.h"
+#include "shell/CommandLine.h"
 #include "core/ExifDateReader.h"
-#include "core/Startup.h"
+#include "shell/Startup.h"
 #include "lang/ChooseLanguage.h"
 #include "formats/IniFile.h"
 #include "platform/Platform.h"

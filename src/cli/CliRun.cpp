@@ -12,7 +12,7 @@
 #include "cli/RecoveryStep.h"
 #include "cli/TableOutput.h"
 #include "core/ExifDateReader.h"
-#include "core/Startup.h"
+#include "shell/Startup.h"
 
 namespace nomra::cli {
 

@@ -1,5 +1,6 @@
 #include "cli/EditStep.h"
 
+#include "base/FileNames.h"
 #include "base/Utf8.h"
 #include "core/ManualEdit.h"
 #include "core/RefreshPreview.h"
@@ -28,7 +29,7 @@ std::string TypedIntoNameField(std::string_view typed) {
   name.reserve(typed.size());
   text::ForEachChar(typed, [&](char32_t character, std::size_t offset, std::size_t length) {
     // The original bytes are kept, so a stray byte goes in unchanged.
-    if (AcceptsNameCharacter(character)) name.append(typed.substr(offset, length));
+    if (!IsForbiddenNameCharacter(character)) name.append(typed.substr(offset, length));
   });
   return name;
 }

@@ -6,7 +6,7 @@
 #include "cli/JsonText.h"
 #include "cli/LoadSources.h"
 #include "core/ExifDateReader.h"
-#include "core/Startup.h"
+#include "shell/Startup.h"
 #include "structure/StructureEngine.h"
 
 namespace nomra::cli {

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "cli/CliFrontEnd.h"
 #include "cli/ExitStatus.h"
 #include "cli/HelpText.h"

@@ -3,8 +3,8 @@
 #include "base/Fault.h"
 #include "cli/ExitStatus.h"
 #include "cli/JsonText.h"
-#include "core/Startup.h"
-#include "rename/ApplyStructure.h"
+#include "shell/Startup.h"
+#include "structure/ApplyStructure.h"
 #include "script/ScriptFiles.h"
 #include "script/ScriptPlayback.h"
 

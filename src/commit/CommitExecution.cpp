@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "commit/DiskRename.h"
 
 namespace nomra {

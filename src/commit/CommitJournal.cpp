@@ -2,7 +2,7 @@
 
 #include <cerrno>
 
-#include "base/Helpers.h"
+#include "base/Paths.h"
 
 namespace nomra {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/Failure.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
 
 namespace nomra {
 

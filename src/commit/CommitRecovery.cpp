@@ -10,7 +10,8 @@
 #include <vector>
 
 #include "base/Failure.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
+#include "base/Quoting.h"
 #include "commit/CommitExecution.h"
 #include "commit/CommitJournal.h"
 #include "commit/JournalFormat.h"

@@ -3,7 +3,7 @@
 #include <cerrno>
 #include <utility>
 
-#include "base/Helpers.h"
+#include "base/FileNames.h"
 
 namespace nomra {
 

@@ -1,6 +1,6 @@
 #include "commit/RenameFiles.h"
 
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "commit/CommitBatch.h"
 #include "commit/CommitExecution.h"
 #include "commit/CommitPlan.h"

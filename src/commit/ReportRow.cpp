@@ -1,5 +1,5 @@
 #include "commit/ReportRow.h"
-#include "base/Helpers.h"
+#include "base/Quoting.h"
 #include "lang/MessageKeys.h"
 
 #include <utility>

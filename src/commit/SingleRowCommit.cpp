@@ -1,7 +1,7 @@
 #include "commit/SingleRowCommit.h"
 
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "commit/DiskRename.h"
 
 namespace nomra {

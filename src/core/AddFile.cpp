@@ -7,7 +7,7 @@
 #include "base/CaseMap.h"
 #include "base/DateText.h"
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "base/NumberText.h"
 
 namespace nomra {

@@ -4,17 +4,9 @@
 
 #include "base/CaseMap.h"
 #include "base/Fault.h"
+#include "base/Paths.h"
 
 namespace nomra {
-
-namespace {
-
-std::string FolderOf(const std::string& key) {
-  const std::size_t slash = key.rfind('/');
-  return slash == std::string::npos ? std::string() : key.substr(0, slash + 1);
-}
-
-}  // namespace
 
 FileList::FileList(platform::FileSystem& caseRules) : caseRules_(caseRules) {}
 

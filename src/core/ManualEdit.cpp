@@ -1,6 +1,6 @@
 #include "core/ManualEdit.h"
 
-#include "base/Helpers.h"
+#include "base/FileNames.h"
 #include "core/RefreshPreview.h"
 
 namespace nomra {
@@ -16,10 +16,6 @@ bool ApplyManualEdit(MainModel& model, int position, const std::string& typed) {
   model.list.Item(position)[kColNewName] = typed;
   refreshPreview(model);
   return true;
-}
-
-bool AcceptsNameCharacter(char32_t typed) {
-  return typed >= 0x80 || kForbiddenNameCharacters.find(static_cast<char>(typed)) == std::string_view::npos;
 }
 
 void ApplyLabelEdit(MainModel& model, int position, const std::string& edited) {

@@ -9,10 +9,6 @@ namespace nomra {
 // unless it holds nothing but blanks. Returns whether it was taken.
 bool ApplyManualEdit(MainModel& model, int position, const std::string& typed);
 
-// Whether a key typed into a name field is let through: the nine forbidden
-// characters of a file name are discarded.
-bool AcceptsNameCharacter(char32_t typed);
-
 // The end of an in-place edit: forbidden characters are removed, the rest
 // becomes the pending name.
 void ApplyLabelEdit(MainModel& model, int position, const std::string& edited);

@@ -4,7 +4,7 @@
 #include <unordered_set>
 #include <utility>
 
-#include "base/Helpers.h"
+#include "base/MessageText.h"
 #include "core/SortFileList.h"
 
 namespace nomra {

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "core/RefreshPreview.h"
 #include "fileops/FileListOperations.h"
 #include "fileops/PathList.h"

@@ -1,6 +1,6 @@
 #include "fileops/FilePaths.h"
 
-#include "base/Helpers.h"
+#include "base/Paths.h"
 
 namespace nomra::fileops {
 

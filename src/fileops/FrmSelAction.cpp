@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "core/BusyPointer.h"
 #include "core/RefreshPreview.h"
 #include "dialog/DialogState.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "base/Wildcard.h"
 #include "fileops/DeleteFiles.h"
 #include "fileops/FilePaths.h"

@@ -18,8 +18,6 @@ std::string CutToLongestValue(std::string value) {
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t";
-
 // Lines [header + 1, end) belong to the section opened at `header`.
 struct SectionRange {
   std::size_t header = 0;
@@ -46,13 +44,6 @@ std::string MakeEntry(std::string_view key, std::string_view value) {
 }
 
 }  // namespace
-
-std::string_view TrimBlanks(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  const std::size_t last = text.find_last_not_of(kBlanks);
-  return text.substr(first, last - first + 1);
-}
 
 std::vector<std::string> SplitLines(std::string_view text) {
   std::vector<std::string> lines;

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Trim.h"
+
 namespace nomra::formats {
 
 // The text rules of our INI files, apart from any file: how lines split, what
@@ -17,9 +19,6 @@ inline constexpr std::size_t kLongestIniValue = 999;
 
 // A value cut to kLongestIniValue characters, never inside a character.
 std::string CutToLongestValue(std::string value);
-
-// Spaces and tabs, the blanks around names and values.
-std::string_view TrimBlanks(std::string_view text);
 
 // Lines without their ends; LF and CR LF both end a line. A last line without
 // an end counts; the empty rest after a final line end does not.

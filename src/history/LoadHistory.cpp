@@ -5,7 +5,7 @@
 #include "base/Failure.h"
 #include "base/Cp1252.h"
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "base/Utf8.h"
 #include "commit/RenameFailure.h"
 #include "settings/SettingsKeys.h"

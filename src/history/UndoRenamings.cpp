@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "commit/DiskRename.h"
 #include "commit/RenameFailure.h"
 #include "history/WriteHistory.h"

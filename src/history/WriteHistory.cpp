@@ -4,7 +4,7 @@
 
 #include "base/Failure.h"
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "formats/AtomicFile.h"
 #include "history/LoadHistory.h"
 #include "settings/SettingsKeys.h"

@@ -1,7 +1,7 @@
 #include "lang/ChooseLanguage.h"
 
 #include "base/CaseMap.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "lang/MessageCatalog.h"
 #include "settings/SettingsKeys.h"
 

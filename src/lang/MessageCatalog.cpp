@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "base/Cp1252.h"
-#include "base/Helpers.h"
+#include "base/MessageText.h"
 #include "base/Utf8.h"
 #include "lang/LanguageKeys.h"
 #include "formats/IniLines.h"

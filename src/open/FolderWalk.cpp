@@ -1,6 +1,6 @@
 #include "open/FolderWalk.h"
 
-#include "base/Helpers.h"
+#include "base/Paths.h"
 
 namespace nomra::open {
 

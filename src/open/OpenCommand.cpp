@@ -1,7 +1,7 @@
 #include "open/OpenCommand.h"
 
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "core/AddFile.h"
 #include "core/RefreshPreview.h"
 #include "core/BusyPointer.h"
@@ -12,9 +12,6 @@
 namespace nomra::open {
 
 namespace {
-
-// A folder text through its last separator.
-std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind(kPathSeparator) + 1); }
 
 // A stop by the user: what was added so far is shown, and the flag is
 // spent.

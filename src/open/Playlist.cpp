@@ -5,7 +5,7 @@
 #include "base/CaseMap.h"
 #include "base/Cp1252.h"
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "base/Utf8.h"
 #include "core/AddFile.h"
 #include "core/RefreshPreview.h"

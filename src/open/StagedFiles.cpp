@@ -1,7 +1,7 @@
 #include "open/StagedFiles.h"
 
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "core/AddFile.h"
 #include "core/RefreshPreview.h"
 #include "core/BusyPointer.h"

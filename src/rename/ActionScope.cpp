@@ -1,7 +1,7 @@
 #include "rename/ActionScope.h"
 
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/MessageText.h"
 #include "core/BusyPointer.h"
 #include "core/RefreshPreview.h"
 

@@ -2,7 +2,7 @@
 
 #include "base/CaseMap.h"
 #include "base/DateText.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "base/Utf8.h"
 #include "formats/IniFile.h"
 

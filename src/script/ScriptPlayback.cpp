@@ -4,9 +4,9 @@
 #include <system_error>
 
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Quoting.h"
 #include "rename/ActionFrame.h"
-#include "rename/BuiltInActions.h"
+#include "rename/actions/BuiltInActions.h"
 #include "script/ScriptFiles.h"
 #include "formats/IniFile.h"
 

@@ -1,3 +1,4 @@
+#include "base/Trim.h"
 #include "script/ScriptRecording.h"
 
 #include <system_error>
@@ -24,7 +25,7 @@ std::optional<std::string> AskScriptName(MainModel& model, const LocalClock& clo
   for (;;) {
     std::string answer = model.frontEnd.AskInput({lang::kScriptNamePrompt, lang::kSaveScriptCaption, MessageStyle::OkInformation, {}},
                                                  DateTimeText(clock()));
-    if (!formats::TrimBlanks(answer).empty()) return answer;
+    if (!TrimBlanks(answer).empty()) return answer;
     const Answer discard = model.frontEnd.Ask({lang::kDiscardRecordingQuestion, lang::kSaveScriptCaption, MessageStyle::YesNoDefaultNo, {}});
     if (discard == Answer::Yes) return std::nullopt;
   }

@@ -3,7 +3,8 @@
 #include <string_view>
 #include <vector>
 
-#include "base/Helpers.h"
+#include "base/Paths.h"
+#include "base/Trim.h"
 #include "formats/AtomicFile.h"
 #include "formats/IniLines.h"
 #include "settings/SettingsKeys.h"
@@ -14,7 +15,6 @@ namespace {
 
 using formats::JoinLines;
 using formats::SplitLines;
-using formats::TrimBlanks;
 
 // Lines are compared as bytes, so a Windows-1252 file keeps its encoding.
 // "Previous" is the line read, whether it was kept or not: a section keeps

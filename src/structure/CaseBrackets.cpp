@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Trim.h"
 #include "structure/CaseConversion.h"
 #include "structure/TextSearch.h"
 

@@ -1,3 +1,4 @@
+#include "base/Trim.h"
 #include "structure/NameStructureEditor.h"
 
 #include <algorithm>
@@ -6,7 +7,7 @@
 #include "lang/LanguageKeys.h"
 #include "lang/MessageKeys.h"
 #include "rename/ActionDialog.h"
-#include "rename/ApplyStructure.h"
+#include "structure/ApplyStructure.h"
 #include "formats/IniLines.h"
 #include "structure/PreviewRow.h"
 #include "structure/StructureEngine.h"
@@ -21,7 +22,7 @@ constexpr char kFileNameInput[] = "txtFileName";
 constexpr char kResultInput[] = "txtResult";
 constexpr char kNewStructureName[] = "Structure ";
 
-bool HoldsText(const std::string& text) { return !formats::TrimBlanks(text).empty(); }
+bool HoldsText(const std::string& text) { return !TrimBlanks(text).empty(); }
 
 }  // namespace
 

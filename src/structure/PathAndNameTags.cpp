@@ -3,7 +3,8 @@
 #include <optional>
 
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
+#include "base/Quoting.h"
 #include "base/NameSplit.h"
 #include "base/ReplaceText.h"
 #include "structure/BracketLoop.h"

@@ -1,7 +1,7 @@
 #include "structure/TagArguments.h"
 
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Trim.h"
 #include "base/Utf8.h"
 #include "structure/LanguageNumber.h"
 #include "structure/TextSearch.h"

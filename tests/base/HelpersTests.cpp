@@ -1,4 +1,9 @@
-#include "base/Helpers.h"
+#include "base/Paths.h"
+#include "base/MessageText.h"
+#include "base/FileNames.h"
+#include "base/Quoting.h"
+#include "base/Trim.h"
+#include "base/Flags.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include "base/DateText.h"
 #include "commit/CommitFixture.h"
 #include "commit/ProtocolWriter.h"
-#include "core/Startup.h"
+#include "shell/Startup.h"
 #include "support/RealFiles.h"
 
 namespace nomra::testing {

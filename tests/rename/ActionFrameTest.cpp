@@ -6,8 +6,8 @@
 
 #include "rename/ActionFixture.h"
 #include "rename/ActionScope.h"
-#include "rename/BuiltInActions.h"
-#include "rename/PrefixSuffix.h"
+#include "rename/actions/BuiltInActions.h"
+#include "rename/actions/PrefixSuffix.h"
 
 namespace nomra {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "base/Fault.h"
 #include "rename/ActionFixture.h"
-#include "rename/ApplyStructure.h"
+#include "structure/ApplyStructure.h"
 
 namespace nomra {
 namespace {

@@ -6,9 +6,9 @@
 
 #include "rename/ActionFixture.h"
 #include "rename/ActionFrame.h"
-#include "rename/BuiltInActions.h"
-#include "rename/CaseAction.h"
-#include "rename/ExtensionAction.h"
+#include "rename/actions/BuiltInActions.h"
+#include "rename/actions/CaseAction.h"
+#include "rename/actions/ExtensionAction.h"
 #include "script/ScriptPlayback.h"
 #include "support/RealFiles.h"
 

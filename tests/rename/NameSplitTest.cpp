@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "rename/PrefixSuffix.h"
+#include "rename/actions/PrefixSuffix.h"
 
 namespace nomra {
 namespace {

@@ -1,11 +1,11 @@
-#include "rename/PrefixSuffix.h"
+#include "rename/actions/PrefixSuffix.h"
 
 #include <gtest/gtest.h>
 
 #include <vector>
 
 #include "rename/ActionFixture.h"
-#include "rename/KeyFilter.h"
+#include "base/FileNames.h"
 
 namespace nomra {
 namespace {
@@ -82,8 +82,8 @@ TEST_F(PrefixSuffixTest, KeepsItsInputsUnderTheirNamesAndUsesTheOddSharedSection
 }
 
 TEST(PrefixSuffixKeysTest, NameFieldsSwallowTheNineForbiddenCharacters) {
-  for (char32_t c : std::u32string(U"\\/:?*<>|\"")) EXPECT_TRUE(RefusedInNameField(c)) << static_cast<int>(c);
-  for (char32_t c : std::u32string(U".aZ0 _-äß€ÿ")) EXPECT_FALSE(RefusedInNameField(c)) << static_cast<int>(c);
+  for (char32_t c : std::u32string(U"\\/:?*<>|\"")) EXPECT_TRUE(IsForbiddenNameCharacter(c)) << static_cast<int>(c);
+  for (char32_t c : std::u32string(U".aZ0 _-äß€ÿ")) EXPECT_FALSE(IsForbiddenNameCharacter(c)) << static_cast<int>(c);
 }
 
 TEST(PrefixSuffixLabelsTest, LabelsComeFromTheCaptionAroundItsSlash) {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "core/CommandLine.h"
+#include "shell/CommandLine.h"
 #include "script/ScriptFixture.h"
 
 namespace nomra {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "rename/ActionFrame.h"
-#include "rename/PrefixSuffix.h"
+#include "rename/actions/PrefixSuffix.h"
 #include "script/ScriptFixture.h"
 #include "support/RealFiles.h"
 

@@ -1,7 +1,7 @@
 // The places where the language stops the action instead of writing a
 // failure text into the name.
 #include "base/Fault.h"
-#include "rename/ApplyStructure.h"
+#include "structure/ApplyStructure.h"
 #include "structure/StructureFixture.h"
 
 namespace nomra::testing {

@@ -10,6 +10,8 @@
 #include <memory>
 #include <string_view>
 
+#include "base/Paths.h"
+
 namespace nomra::platform {
 
 namespace {
@@ -27,14 +29,10 @@ bool FlagRefused(int error) { return error == EINVAL || error == ENOSYS; }
 // No hard links on this volume (FAT, exFAT), or links forbidden to us.
 bool LinksRefused(int error) { return error == EPERM || error == EOPNOTSUPP || error == ENOSYS; }
 
-std::string FolderOf(const std::string& path) {
-  const std::size_t slash = path.rfind('/');
-  return slash == std::string::npos ? std::string(".") : path.substr(0, slash + 1);
-}
-
-std::string_view LeafOf(const std::string& path) {
-  const std::size_t slash = path.rfind('/');
-  return slash == std::string::npos ? std::string_view(path) : std::string_view(path).substr(slash + 1);
+// The folder to list for a name: its own, or the working folder for a bare name.
+std::string ListedFolderOf(const std::string& path) {
+  const std::string folder = FolderOf(path);
+  return folder.empty() ? std::string(".") : folder;
 }
 
 // Exact spellings as the folder lists them: a volume without case finds a
@@ -94,7 +92,7 @@ bool ConfirmRename(const std::string& from, const std::string& to) {
   if (source.st_dev != target.st_dev || source.st_ino != target.st_ino) return false;
   bool newListed = false;
   bool oldListed = false;
-  SpellingsListed(FolderOf(to), LeafOf(to), LeafOf(from), newListed, oldListed);
+  SpellingsListed(ListedFolderOf(to), NameOf(to), NameOf(from), newListed, oldListed);
   return newListed && !oldListed;
 }
 

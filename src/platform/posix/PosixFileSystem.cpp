@@ -12,6 +12,7 @@
 #include <memory>
 #include <vector>
 
+#include "base/Paths.h"
 #include "platform/posix/CaseLookup.h"
 #include "platform/posix/FileContents.h"
 #include "platform/posix/FileCopy.h"
@@ -209,8 +210,8 @@ RenameResult PosixFileSystem::RenameNoReplace(const std::string& from, const std
 // up afterwards. The kernel's own file systems below are trusted, which
 // spares two look-ups per rename in a batch of 100,000.
 bool PosixFileSystem::ConfirmRenamed(const std::string& from, const std::string& to) {
-  const std::size_t slash = to.rfind('/');
-  const std::string folder = slash == std::string::npos ? std::string(".") : to.substr(0, slash + 1);
+  std::string folder = FolderOf(to);
+  if (folder.empty()) folder = ".";
   if (folder != trustFolder_) {
     trustFolder_ = folder;
     trustRename_ = KernelRenameIsTrusted(folder);

@@ -2,7 +2,7 @@
 
 #include <QKeyEvent>
 
-#include "rename/KeyFilter.h"
+#include "base/FileNames.h"
 
 namespace nomra::ui {
 
@@ -10,7 +10,7 @@ bool NameKeyFilter::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     const QString text = static_cast<QKeyEvent*>(event)->text();
     for (const char32_t character : text.toUcs4()) {
-      if (RefusedInNameField(character)) return true;
+      if (IsForbiddenNameCharacter(character)) return true;
     }
   }
   return QObject::eventFilter(watched, event);

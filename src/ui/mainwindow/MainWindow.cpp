@@ -25,7 +25,7 @@
 #include "core/CommandState.h"
 #include "core/RefreshPreview.h"
 #include "core/SortFileList.h"
-#include "core/WindowPlacement.h"
+#include "shell/WindowPlacement.h"
 #include "script/ScriptRecording.h"
 #include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"

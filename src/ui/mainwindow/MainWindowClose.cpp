@@ -5,8 +5,8 @@
 #include <QTableView>
 #include <QToolBar>
 
-#include "core/CloseQuestions.h"
-#include "core/WindowPlacement.h"
+#include "shell/CloseQuestions.h"
+#include "shell/WindowPlacement.h"
 #include "ui/common/TextConversion.h"
 #include "ui/mainwindow/MainWindow.h"
 

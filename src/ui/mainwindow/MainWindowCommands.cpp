@@ -30,7 +30,7 @@
 #include "ui/mainwindow/MainWindow.h"
 #include "ui/mainwindow/NotRenamedDialog.h"
 #include "ui/mainwindow/ThumbnailCache.h"
-#include "core/WindowPlacement.h"
+#include "shell/WindowPlacement.h"
 
 namespace nomra::ui {
 

@@ -3,7 +3,7 @@
 #include <QAction>
 
 #include "base/Fault.h"
-#include "core/CommandLine.h"
+#include "shell/CommandLine.h"
 #include "open/OpenCommand.h"
 #include "open/Playlist.h"
 #include "open/StagedFiles.h"

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "base/CaseMap.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
 #include "open/FolderWalk.h"
 #include "open/PowerFilters.h"
 #include "ui/common/TextConversion.h"

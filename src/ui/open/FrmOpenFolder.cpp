@@ -5,7 +5,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 
-#include "base/Helpers.h"
 #include "core/BusyPointer.h"
 #include "base/Paths.h"
 #include "open/StagedFiles.h"

@@ -7,7 +7,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "rename/ExtensionAction.h"
+#include "rename/actions/ExtensionAction.h"
 #include "ui/common/NameKeyFilter.h"
 
 namespace nomra::ui {

@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include "rename/PrefixSuffix.h"
+#include "rename/actions/PrefixSuffix.h"
 #include "ui/common/NameKeyFilter.h"
 #include "ui/common/NamedControls.h"
 #include "ui/common/TextConversion.h"

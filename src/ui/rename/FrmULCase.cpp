@@ -4,7 +4,7 @@
 #include <QHBoxLayout>
 #include <QRadioButton>
 
-#include "rename/CaseAction.h"
+#include "rename/actions/CaseAction.h"
 #include "ui/common/NamedControls.h"
 #include "ui/common/QtLocalisation.h"
 #include "ui/common/TextConversion.h"

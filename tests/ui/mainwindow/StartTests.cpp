@@ -6,7 +6,7 @@
 #include <QScreen>
 #include <QTableView>
 
-#include "core/WindowPlacement.h"
+#include "shell/WindowPlacement.h"
 #include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {

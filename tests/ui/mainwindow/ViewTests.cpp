@@ -7,7 +7,7 @@
 #include <QTableView>
 
 #include "core/FileEntry.h"
-#include "core/WindowPlacement.h"
+#include "shell/WindowPlacement.h"
 #include "support/RealFiles.h"
 #include "ui/mainwindow/ThumbnailCache.h"
 #include "ui/support/WindowFixture.h"

@@ -6,7 +6,7 @@
 #include <QTableView>
 #include <QTest>
 
-#include "base/Helpers.h"
+#include "base/MessageText.h"
 #include "core/FileEntry.h"
 #include "ui/common/TextConversion.h"
 

@@ -1,4 +1,4 @@
-#include "rename/ApplyStructure.h"
+#include "structure/ApplyStructure.h"
 
 #include "rename/ActionScope.h"
 #include "structure/StructureEngine.h"

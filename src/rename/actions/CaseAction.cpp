@@ -1,8 +1,8 @@
-#include "rename/CaseAction.h"
+#include "rename/actions/CaseAction.h"
 
 #include <array>
 
-#include "rename/ApplyStructure.h"
+#include "structure/ApplyStructure.h"
 
 namespace nomra {
 

@@ -1,7 +1,8 @@
-#include "core/Startup.h"
+#include "shell/Startup.h"
 
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Paths.h"
+#include "base/Flags.h"
 #include "formats/IniFile.h"
 #include "settings/DataFolder.h"
 #include "settings/SettingsKeys.h"

@@ -1,7 +1,7 @@
-#include "rename/ExtensionAction.h"
+#include "rename/actions/ExtensionAction.h"
 
-#include "base/Helpers.h"
-#include "rename/ApplyStructure.h"
+#include "base/Trim.h"
+#include "structure/ApplyStructure.h"
 
 namespace nomra {
 

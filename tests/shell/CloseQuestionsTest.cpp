@@ -1,4 +1,4 @@
-#include "core/CloseQuestions.h"
+#include "shell/CloseQuestions.h"
 
 #include <gtest/gtest.h>
 

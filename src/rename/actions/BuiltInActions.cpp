@@ -1,11 +1,11 @@
-#include "rename/BuiltInActions.h"
+#include "rename/actions/BuiltInActions.h"
 
 #include <functional>
 #include <map>
 
-#include "rename/CaseAction.h"
-#include "rename/ExtensionAction.h"
-#include "rename/PrefixSuffix.h"
+#include "rename/actions/CaseAction.h"
+#include "rename/actions/ExtensionAction.h"
+#include "rename/actions/PrefixSuffix.h"
 
 namespace nomra {
 

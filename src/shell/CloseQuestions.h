@@ -3,7 +3,7 @@
 #include <string>
 
 #include "core/MainModel.h"
-#include "core/MainWindowSettings.h"
+#include "shell/MainWindowSettings.h"
 
 namespace nomra {
 

@@ -1,7 +1,7 @@
-#include "core/MainWindowSettings.h"
+#include "shell/MainWindowSettings.h"
 
 #include "base/Fault.h"
-#include "base/Helpers.h"
+#include "base/Flags.h"
 #include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"
 

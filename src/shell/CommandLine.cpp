@@ -1,8 +1,8 @@
-#include "core/CommandLine.h"
+#include "shell/CommandLine.h"
 
 #include <algorithm>
 
-#include "base/Helpers.h"
+#include "base/Quoting.h"
 #include "core/AddFile.h"
 
 namespace nomra {

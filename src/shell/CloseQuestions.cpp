@@ -1,4 +1,4 @@
-#include "core/CloseQuestions.h"
+#include "shell/CloseQuestions.h"
 
 #include "base/Fault.h"
 #include "lang/MessageKeys.h"

@@ -1,4 +1,4 @@
-#include "rename/PrefixSuffix.h"
+#include "rename/actions/PrefixSuffix.h"
 
 #include "rename/ActionScope.h"
 #include "base/NameSplit.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/MainWindowSettings.h"
+#include "shell/MainWindowSettings.h"
 
 namespace nomra {
 

@@ -1,4 +1,4 @@
-#include "core/Startup.h"
+#include "shell/Startup.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "core/MainWindowSettings.h"
+#include "shell/MainWindowSettings.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "core/WindowPlacement.h"
+#include "shell/WindowPlacement.h"
 
 #include <gtest/gtest.h>
 
