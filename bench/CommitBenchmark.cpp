@@ -23,12 +23,9 @@
 #include <unordered_map>
 #include <vector>
 
-#include "HeadlessFrontEnd.h"
+#include "BenchList.h"
 #include "commit/RenameFiles.h"
 #include "core/AddFile.h"
-#include "core/MainModel.h"
-#include "core/RefreshPreview.h"
-#include "platform/posix/PosixFileSystem.h"
 
 namespace {
 
@@ -220,36 +217,33 @@ struct NomraRun {
 };
 
 NomraRun TimeNomra(const Fixture& fixture, const std::string& dataFolder) {
-  nomra::platform::PosixFileSystem fs;
-  nomra::bench::HeadlessFrontEnd ui;
-  nomra::NoExifDates exif;
-  nomra::MainModel model(fs, ui, exif);
-  model.protocolRenames = false;
-  model.dataFolder = dataFolder;
-  model.loadExifDates = false;
+  nomra::bench::BenchList list;
+  list.options.protocolRenames = false;
+  list.options.dataFolder = dataFolder;
+  list.options.loadExifDates = false;
 
   std::string path = fixture.root;
-  nomra::AddFile(model, path);
+  nomra::AddFile(list.load, path);
 
   std::unordered_map<std::string, const std::string*> targets;
   targets.reserve(fixture.moves.size());
   for (const Move& move : fixture.moves) targets.emplace(move.folder + move.from, &move.to);
   int set = 0;
-  model.list.ForEach([&](nomra::FileEntry& row) {
+  list.state.list.ForEach([&](nomra::FileEntry& row) {
     const auto found = targets.find(row[nomra::kColPath] + row[nomra::kColOldName]);
     if (found == targets.end()) return;
     row[nomra::kColNewName] = *found->second;
     ++set;
   });
-  nomra::refreshPreview(model);
+  list.preview.Refresh();
 
   NomraRun run;
   if (set != static_cast<int>(fixture.moves.size())) {
-    std::printf("  Nomra: %d rows loaded, %d of %zu names set\n", model.list.Count(), set, fixture.moves.size());
+    std::printf("  Nomra: %d rows loaded, %d of %zu names set\n", list.state.list.Count(), set, fixture.moves.size());
     run.ok = false;
   }
   const auto start = Clock::now();
-  const nomra::CommitResult result = nomra::mdlRenameFiles(model, nomra::kWholeList);
+  const nomra::CommitResult result = nomra::mdlRenameFiles(list.Commit(), nomra::kWholeList);
   run.seconds = Seconds(start);
   if (!result.notRenamed.empty()) {
     std::printf("  Nomra: %zu rows not renamed, first: %s\n", result.notRenamed.size(),

@@ -141,7 +141,7 @@ StartTimes TimeStart(Services& services, const std::string& root, OpenWindow& op
   std::vector<std::string> arguments;
   if (!root.empty()) arguments.push_back(root);
   arguments.push_back("");
-  nomra::RunCommandLine(arguments, window->Model(), nomra::CommandLineSwitches{});
+  nomra::RunCommandLine(arguments, window->Load(), nomra::CommandLineSwitches{});
   const auto loaded = Clock::now();
   window->RefreshPreview();
   const auto refreshed = Clock::now();
@@ -162,7 +162,7 @@ StartTimes TimeStart(Services& services, const std::string& root, OpenWindow& op
   times.refresh = Milliseconds(loaded, refreshed);
   times.toPaint = Milliseconds(refreshed, watch.At());
   times.total = Milliseconds(start, watch.At());
-  times.rows = window->Model().list.Count();
+  times.rows = window->State().list.Count();
   open.window = std::move(window);
   return times;
 }
@@ -201,9 +201,9 @@ double TimeRefreshAndRepaint(nomra::ui::MainWindow& window) {
 
 // Every row gets a new pending name that differs from the last refresh's,
 // so that each refresh pushes a history level.
-void MakeEveryRowPending(nomra::MainModel& model, int round) {
+void MakeEveryRowPending(nomra::FileList& list, int round) {
   const std::string suffix = round % 2 == 0 ? "_a" : "_b";
-  model.list.ForEach([&](nomra::FileEntry& row) { row[nomra::kColNewName] = row[nomra::kColOldName] + suffix; });
+  list.ForEach([&](nomra::FileEntry& row) { row[nomra::kColNewName] = row[nomra::kColOldName] + suffix; });
 }
 
 struct RefreshSummary {
@@ -220,16 +220,16 @@ RefreshSummary TimeRefreshes(nomra::ui::MainWindow& window, int runs) {
   for (int run = 0; run < runs; ++run) unchanged.push_back(TimeRefreshAndRepaint(window));
 
   std::vector<double> pending;
-  MakeEveryRowPending(window.Model(), 0);
+  MakeEveryRowPending(window.State().list, 0);
   TimeRefreshAndRepaint(window);
   for (int run = 0; run < runs; ++run) {
-    MakeEveryRowPending(window.Model(), run + 1);
+    MakeEveryRowPending(window.State().list, run + 1);
     pending.push_back(TimeRefreshAndRepaint(window));
   }
   summary.unchanged = Median(unchanged);
   summary.pending = Median(pending);
-  summary.changedCount = window.Model().changedCount;
-  summary.undoLevels = window.Model().undoLevels;
+  summary.changedCount = window.State().changedCount;
+  summary.undoLevels = window.State().undoLevels;
   return summary;
 }
 
@@ -303,7 +303,7 @@ int main(int argc, char** argv) {
 
   nomra::ui::MainWindow& window = *open.window;
   const RefreshSummary refresh = TimeRefreshes(window, refreshRuns);
-  std::printf("RefreshPreview + repaint, rows %d (median of %d, target under 150 ms)\n", window.Model().list.Count(),
+  std::printf("RefreshPreview + repaint, rows %d (median of %d, target under 150 ms)\n", window.State().list.Count(),
               refreshRuns);
   std::printf("  %-32s %8.1f ms  %s\n", "no pending change", refresh.unchanged,
               refresh.unchanged < 150 ? "ok" : "OVER TARGET");

@@ -16,11 +16,8 @@
 #include <vector>
 
 #include "BenchTree.h"
-#include "HeadlessFrontEnd.h"
+#include "BenchList.h"
 #include "core/AddFile.h"
-#include "core/MainModel.h"
-#include "core/RefreshPreview.h"
-#include "platform/posix/PosixFileSystem.h"
 
 namespace {
 
@@ -44,19 +41,16 @@ struct LoadResult {
 };
 
 LoadResult TimeLoad(const std::string& root) {
-  nomra::platform::PosixFileSystem fs;
-  nomra::bench::HeadlessFrontEnd ui;
-  nomra::NoExifDates exif;
   const std::size_t heapBefore = mallinfo2().uordblks;
   LoadResult result;
   {
-    nomra::MainModel model(fs, ui, exif);
-    model.statusTexts[2] = "Adding";
+    nomra::bench::BenchList list;
+    list.texts.adding = "Adding";
     std::string path = root;
     const auto start = Clock::now();
-    nomra::AddFile(model, path);
+    nomra::AddFile(list.load, path);
     result.seconds = Seconds(start);
-    result.rows = model.list.Count();
+    result.rows = list.state.list.Count();
     result.heapBytes = mallinfo2().uordblks - heapBefore;
   }
   return result;

@@ -3,11 +3,8 @@
 
 #include <string>
 
-#include "HeadlessFrontEnd.h"
-#include "core/MainModel.h"
-#include "core/RefreshPreview.h"
+#include "BenchList.h"
 #include "core/SortFileList.h"
-#include "platform/posix/PosixFileSystem.h"
 
 namespace {
 
@@ -16,12 +13,12 @@ constexpr int kFolders = 1000;
 
 // Rows as AddFile makes them, without the disk: 100 files in each of 1,000
 // folders, names in a shuffled order.
-void FillRows(nomra::MainModel& model) {
+void FillRows(nomra::FileList& list) {
   for (int i = 0; i < kRows; ++i) {
     const int scrambled = static_cast<int>((static_cast<long long>(i) * 7919) % kRows);
     const std::string folder = "/home/user/photos/d" + std::to_string(i % kFolders) + "/";
     const std::string name = "IMG_" + std::to_string(scrambled) + ".jpg";
-    nomra::FileEntry* row = model.list.Add(folder + name);
+    nomra::FileEntry* row = list.Add(folder + name);
     (*row)[nomra::kColPath] = folder;
     (*row)[nomra::kColOldName] = name;
     (*row)[nomra::kColNewName] = name;
@@ -34,40 +31,36 @@ void FillRows(nomra::MainModel& model) {
   }
 }
 
-struct Fixture {
-  nomra::platform::PosixFileSystem fs;
-  nomra::bench::HeadlessFrontEnd ui;
-  nomra::NoExifDates exif;
-  nomra::MainModel model{fs, ui, exif};
-  Fixture() { FillRows(model); }
+struct Fixture : nomra::bench::BenchList {
+  Fixture() { FillRows(state.list); }
 };
 
 void BM_SortByNewName(benchmark::State& state) {
   Fixture f;
   for (auto _ : state) {
-    f.model.list.sortOrder = f.model.list.sortOrder == 0 ? 1 : 0;
-    nomra::sortFileList(f.model, 4);
+    f.state.list.sortOrder = f.state.list.sortOrder == 0 ? 1 : 0;
+    nomra::sortFileList(f.state.list, f.ui, 4);
   }
-  state.counters["rows"] = f.model.list.Count();
+  state.counters["rows"] = f.state.list.Count();
 }
 BENCHMARK(BM_SortByNewName)->Unit(benchmark::kMillisecond);
 
 // Each iteration is an action that changes every tenth name, then the refresh.
 void RefreshAfterTenPercentChanged(benchmark::State& state, int sortColumn) {
   Fixture f;
-  f.model.list.sortKey = sortColumn;
+  f.state.list.sortKey = sortColumn;
   int round = 0;
   for (auto _ : state) {
     state.PauseTiming();
     ++round;
-    f.model.list.ForEach([&](nomra::FileEntry& row) {
+    f.state.list.ForEach([&](nomra::FileEntry& row) {
       if (row.selected) row[nomra::kColNewName] = "new_" + std::to_string(round) + "_" + row[nomra::kColOldName];
     });
     state.ResumeTiming();
-    nomra::refreshPreview(f.model);
+    f.preview.Refresh();
   }
-  state.counters["rows"] = f.model.list.Count();
-  state.counters["changed"] = f.model.changedCount;
+  state.counters["rows"] = f.state.list.Count();
+  state.counters["changed"] = f.state.changedCount;
 }
 
 void BM_RefreshFolderOrder(benchmark::State& state) { RefreshAfterTenPercentChanged(state, 0); }

@@ -5,26 +5,20 @@
 
 #include <string>
 
-#include "HeadlessFrontEnd.h"
-#include "core/MainModel.h"
-#include "platform/posix/PosixFileSystem.h"
+#include "BenchList.h"
 #include "structure/StructureEngine.h"
 
 namespace {
 
 constexpr int kRows = 100000;
 
-struct Fixture {
-  nomra::platform::PosixFileSystem fs;
-  nomra::bench::HeadlessFrontEnd ui;
-  nomra::NoExifDates exif;
-  nomra::MainModel model{fs, ui, exif};
+struct Fixture : nomra::bench::BenchList {
   Fixture() {
     for (int i = 0; i < kRows; ++i) {
       const std::string folder = "/home/user/music/Artist " + std::to_string(i % 500) + "/";
       const std::string name = "0" + std::to_string(i % 9 + 1) + " - Artist " + std::to_string(i % 500) +
                                " - Song title number " + std::to_string(i) + ".mp3";
-      nomra::FileEntry* row = model.list.Add(folder + name);
+      nomra::FileEntry* row = state.list.Add(folder + name);
       (*row)[nomra::kColPath] = folder;
       (*row)[nomra::kColOldName] = name;
       (*row)[nomra::kColNewName] = name;
@@ -37,7 +31,7 @@ void EvaluateAllRows(benchmark::State& state, const std::string& structure) {
   std::size_t bytes = 0;
   for (auto _ : state) {
     for (int row = 1; row <= kRows; ++row) {
-      const std::string result = nomra::EvaluateStructure(f.model, row, structure);
+      const std::string result = nomra::EvaluateStructure(f.state.list.Item(row), structure);
       bytes += result.size();
     }
   }

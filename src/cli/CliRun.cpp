@@ -19,12 +19,12 @@ namespace nomra::cli {
 namespace {
 
 // A fault ends its step only; the steps after it still run.
-void RunSteps(MainModel& model, const std::vector<Step>& steps, std::ostream& notes) {
+void RunSteps(CliSession& session, const std::vector<Step>& steps, std::ostream& notes) {
   for (const Step& step : steps) {
     try {
-      step.run(model, notes);
+      step.run(session, notes);
     } catch (const RuntimeFault& fault) {
-      model.frontEnd.ShowFault(step.option + ": " + fault.what());
+      session.frontEnd.ShowFault(step.option + ": " + fault.what());
     }
   }
 }
@@ -34,29 +34,27 @@ void RunSteps(MainModel& model, const std::vector<Step>& steps, std::ostream& no
 int RunInvocation(platform::Platform& system, const Invocation& invocation, std::ostream& out,
                   std::ostream& messages) {
   CliFrontEnd frontEnd(messages, invocation.answerYes);
-  NoExifDates exifDates;
-
   const StartupPaths paths = PrepareStartup(system.Files(), system.Locations(), invocation.dataFolder);
-  MainModel model(system.Files(), frontEnd, exifDates);
-  LoadStartupSettings(model, paths);
-  if (invocation.protocolRenames) model.protocolRenames = *invocation.protocolRenames;
-  RecoverAtStart(model, messages);
+  CliSession session(system.Files(), frontEnd);
+  session.Start(paths);
+  if (invocation.protocolRenames) session.options.protocolRenames = *invocation.protocolRenames;
+  RecoverAtStart(session, messages);
 
-  LoadSources(model, invocation.sources);
-  RunSteps(model, invocation.steps, messages);
+  LoadSources(session, invocation.sources);
+  RunSteps(session, invocation.steps, messages);
   std::vector<ReportRow> report;
   if (invocation.commit) {
     try {
-      report = CommitPendingChanges(model, messages);
+      report = CommitPendingChanges(session, messages);
     } catch (const RuntimeFault& fault) {
-      model.frontEnd.ShowFault(std::string("--commit: ") + fault.what());
+      session.frontEnd.ShowFault(std::string("--commit: ") + fault.what());
     }
   }
 
   if (invocation.json) {
-    WriteJson(out, model, report);
+    WriteJson(out, session, report);
   } else {
-    WriteTable(out, model);
+    WriteTable(out, session);
   }
   out.flush();
   return frontEnd.FaultShown() || !report.empty() ? kExitFault : kExitSuccess;

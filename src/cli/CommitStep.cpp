@@ -1,13 +1,12 @@
 #include "cli/CommitStep.h"
 
 #include "commit/RenameFiles.h"
-#include "core/RefreshPreview.h"
 
 namespace nomra::cli {
 
-std::vector<ReportRow> CommitPendingChanges(MainModel& model, std::ostream& messages) {
-  CommitResult result = mdlRenameFiles(model, kWholeList);
-  refreshPreview(model);
+std::vector<ReportRow> CommitPendingChanges(CliSession& session, std::ostream& messages) {
+  CommitResult result = mdlRenameFiles(session.Commit(), kWholeList);
+  session.preview.Refresh();
   for (const ReportRow& row : result.notRenamed) messages << "nomra-cli: not renamed: " << row.Describe() << '\n';
   return std::move(result.notRenamed);
 }

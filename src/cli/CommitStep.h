@@ -3,13 +3,13 @@
 #include <vector>
 
 #include "commit/ReportRow.h"
-#include "core/MainModel.h"
+#include "cli/CliSession.h"
 
 namespace nomra::cli {
 
 // --commit: every pending change of the list goes to disk in one batch, the
 // list is refreshed, and each rename that didn't happen is printed to
 // `messages`. Returns those, for the JSON report and the exit status.
-std::vector<ReportRow> CommitPendingChanges(MainModel& model, std::ostream& messages);
+std::vector<ReportRow> CommitPendingChanges(CliSession& session, std::ostream& messages);
 
 }  // namespace nomra::cli

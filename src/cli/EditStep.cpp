@@ -1,28 +1,11 @@
 #include "cli/EditStep.h"
 
 #include "base/FileNames.h"
+#include "base/Trim.h"
 #include "base/Utf8.h"
 #include "core/ManualEdit.h"
-#include "core/RefreshPreview.h"
 
 namespace nomra::cli {
-
-namespace {
-
-bool OnlyBlanks(const std::string& name) { return name.find_first_not_of(' ') == std::string::npos; }
-
-bool InApplyScope(const MainModel& model, const FileEntry& row) {
-  switch (model.applyScope) {
-    case 1:
-      return row.selected;
-    case 2:
-      return !row.selected;
-    default:
-      return true;
-  }
-}
-
-}  // namespace
 
 std::string TypedIntoNameField(std::string_view typed) {
   std::string name;
@@ -34,17 +17,17 @@ std::string TypedIntoNameField(std::string_view typed) {
   return name;
 }
 
-void EditNamesInScope(MainModel& model, std::string_view typed, std::ostream& notes) {
+void EditNamesInScope(CliSession& session, std::string_view typed, std::ostream& notes) {
   const std::string name = TypedIntoNameField(typed);
-  if (OnlyBlanks(name)) {
+  if (TrimSpaces(name).empty()) {
     notes << "nomra-cli: --edit: a name of only blanks is ignored\n";
     return;
   }
   // One refresh for all rows: ApplyManualEdit would refresh once per row.
-  model.list.ForEach([&](FileEntry& row) {
-    if (InApplyScope(model, row)) row[kColNewName] = name;
+  session.state.list.ForEach([&](FileEntry& row) {
+    if (InScope(session.state.applyScope, row)) row[kColNewName] = name;
   });
-  refreshPreview(model);
+  session.preview.Refresh();
 }
 
 }  // namespace nomra::cli

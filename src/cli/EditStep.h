@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/MainModel.h"
+#include "cli/CliSession.h"
 
 namespace nomra::cli {
 
@@ -13,6 +13,6 @@ std::string TypedIntoNameField(std::string_view typed);
 
 // The manual edit, made on every row of the apply scope: the typed name
 // becomes the pending name unless it is nothing but blanks.
-void EditNamesInScope(MainModel& model, std::string_view typed, std::ostream& notes);
+void EditNamesInScope(CliSession& session, std::string_view typed, std::ostream& notes);
 
 }  // namespace nomra::cli

@@ -54,20 +54,19 @@ int RunEvalCommand(platform::Platform& system, const std::vector<std::string>& a
   if (request.sources.empty()) return UsageFault(messages, "no PATH given");
 
   CliFrontEnd frontEnd(messages, false);
-  NoExifDates exifDates;
   const StartupPaths paths = PrepareStartup(system.Files(), system.Locations(), request.dataFolder);
-  MainModel model(system.Files(), frontEnd, exifDates);
-  LoadStartupSettings(model, paths);
-  LoadSources(model, request.sources);
+  CliSession session(system.Files(), frontEnd);
+  session.Start(paths);
+  LoadSources(session, request.sources);
 
   bool faulted = frontEnd.FaultShown();
   bool first = true;
   if (request.json) out << '[';
-  for (int row = 1; row <= model.list.Count(); ++row) {
-    const std::string& path = model.list.Item(row).key;
+  for (int row = 1; row <= session.state.list.Count(); ++row) {
+    const std::string& path = session.state.list.Item(row).key;
     std::string result;
     try {
-      result = EvaluateStructure(model, row, request.structure);
+      result = EvaluateStructure(session.state.list.Item(row), request.structure);
     } catch (const RuntimeFault& fault) {
       messages << "nomra-cli: eval: " << path << ": " << fault.what() << '\n';
       faulted = true;

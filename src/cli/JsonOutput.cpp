@@ -23,16 +23,16 @@ void WriteReportRow(std::ostream& out, const ReportRow& row) {
       << ",\"message\":" << JsonString(row.Describe()) << ",\"textKey\":" << JsonString(row.textKey) << '}';
 }
 
-void WriteJson(std::ostream& out, const MainModel& model, const std::vector<ReportRow>& report) {
+void WriteJson(std::ostream& out, const CliSession& session, const std::vector<ReportRow>& report) {
   out << "{\"rows\":[";
   bool first = true;
-  model.list.ForEach([&](const FileEntry& row) {
+  session.state.list.ForEach([&](const FileEntry& row) {
     if (!first) out << ",\n";
     first = false;
     WriteRow(out, row);
   });
-  out << "],\n\"files\":" << model.list.Count() << ",\"folders\":" << model.folderCount
-      << ",\"changed\":" << model.changedCount << ",\"report\":[";
+  out << "],\n\"files\":" << session.state.list.Count() << ",\"folders\":" << session.state.folderCount
+      << ",\"changed\":" << session.state.changedCount << ",\"report\":[";
   for (std::size_t i = 0; i < report.size(); ++i) {
     if (i > 0) out << ",\n";
     WriteReportRow(out, report[i]);

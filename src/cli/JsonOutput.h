@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "commit/ReportRow.h"
-#include "core/MainModel.h"
+#include "cli/CliSession.h"
 
 namespace nomra::cli {
 
@@ -13,7 +13,7 @@ namespace nomra::cli {
 //  "files":N,"folders":F,"changed":C,"report":[…]}
 // `report` holds the renames --commit couldn't make, each as
 // {"number":N,"key":…,"message":…,"textKey":…}.
-void WriteJson(std::ostream& out, const MainModel& model, const std::vector<ReportRow>& report);
+void WriteJson(std::ostream& out, const CliSession& session, const std::vector<ReportRow>& report);
 
 // One rename that didn't happen: {"number":N,"key":…,"message":…,"textKey":…}.
 void WriteReportRow(std::ostream& out, const ReportRow& row);

@@ -2,7 +2,6 @@
 
 #include "base/Wildcard.h"
 #include "core/NameHistory.h"
-#include "core/RefreshPreview.h"
 #include "core/SortFileList.h"
 
 namespace nomra::cli {
@@ -18,37 +17,37 @@ bool MatchesAny(const std::string& name, const std::vector<std::string>& pattern
 
 }  // namespace
 
-void SelectMatching(MainModel& model, const std::vector<std::string>& patterns) {
-  model.list.ForEach([&](FileEntry& row) { row.selected = MatchesAny(row[kColOldName], patterns); });
-  refreshPreview(model);
+void SelectMatching(CliSession& session, const std::vector<std::string>& patterns) {
+  session.state.list.ForEach([&](FileEntry& row) { row.selected = MatchesAny(row[kColOldName], patterns); });
+  session.preview.Refresh();
 }
 
-void SetApplyScope(MainModel& model, int scope) {
-  model.applyScope = scope;
-  refreshPreview(model);
+void SetApplyScope(CliSession& session, int scope) {
+  session.state.applyScope = scope;
+  session.preview.Refresh();
 }
 
-void SortByColumnHead(MainModel& model, const SortRequest& request) {
-  model.list.sortOrder = request.order;
-  sortFileList(model, request.columnHead);
-  refreshPreview(model);
+void SortByColumnHead(CliSession& session, const SortRequest& request) {
+  session.state.list.sortOrder = request.order;
+  sortFileList(session.state.list, session.frontEnd, request.columnHead);
+  session.preview.Refresh();
 }
 
 // mnuUndo and mnuRejectChanges refresh on their own.
-void UndoOneStep(MainModel& model, std::ostream& notes) {
-  if (model.undoLevels == 0) {
+void UndoOneStep(CliSession& session, std::ostream& notes) {
+  if (session.state.undoLevels == 0) {
     notes << "nomra-cli: nothing to undo\n";
     return;
   }
-  mnuUndo(model);
+  mnuUndo(session.List(), session.options.securityQuestions[0]);
 }
 
-void RejectPendingChanges(MainModel& model, std::ostream& notes) {
-  if (model.changedCount == 0) {
+void RejectPendingChanges(CliSession& session, std::ostream& notes) {
+  if (session.state.changedCount == 0) {
     notes << "nomra-cli: no pending changes to reject\n";
     return;
   }
-  mnuRejectChanges(model);
+  mnuRejectChanges(session.List(), session.options.securityQuestions[2]);
 }
 
 }  // namespace nomra::cli

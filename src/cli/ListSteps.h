@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "cli/ArgumentValues.h"
-#include "core/MainModel.h"
+#include "cli/CliSession.h"
 
 namespace nomra::cli {
 
@@ -12,16 +12,16 @@ namespace nomra::cli {
 
 // From now on exactly the rows whose name on disk matches one of the
 // wildcards (case ignored) are selected.
-void SelectMatching(MainModel& model, const std::vector<std::string>& patterns);
+void SelectMatching(CliSession& session, const std::vector<std::string>& patterns);
 
 // Which rows the name-changing steps that follow act on.
-void SetApplyScope(MainModel& model, int scope);
+void SetApplyScope(CliSession& session, int scope);
 
-void SortByColumnHead(MainModel& model, const SortRequest& request);
+void SortByColumnHead(CliSession& session, const SortRequest& request);
 
 // The undo and reject commands, or a note where the window would have them
 // greyed out.
-void UndoOneStep(MainModel& model, std::ostream& notes);
-void RejectPendingChanges(MainModel& model, std::ostream& notes);
+void UndoOneStep(CliSession& session, std::ostream& notes);
+void RejectPendingChanges(CliSession& session, std::ostream& notes);
 
 }  // namespace nomra::cli

@@ -2,7 +2,7 @@
 #include <vector>
 
 #include "cli/Invocation.h"
-#include "core/MainModel.h"
+#include "cli/CliSession.h"
 
 namespace nomra::cli {
 
@@ -11,6 +11,6 @@ namespace nomra::cli {
 // that doesn't exist or can't be read are shown as faults, and the next
 // one still loads. Entries of a playlist that name nothing are passed over
 // in silence, as the window's playlist command passes them over.
-void LoadSources(MainModel& model, const std::vector<LoadSource>& sources);
+void LoadSources(CliSession& session, const std::vector<LoadSource>& sources);
 
 }  // namespace nomra::cli

@@ -10,19 +10,19 @@ namespace nomra::cli {
 
 namespace {
 
-void AddStep(Invocation& invocation, std::string_view option, std::function<void(MainModel&, std::ostream&)> run) {
+void AddStep(Invocation& invocation, std::string_view option, std::function<void(CliSession&, std::ostream&)> run) {
   invocation.steps.push_back(Step{std::string(option), std::move(run)});
 }
 
 void AddSelect(Invocation& invocation, const std::string& argument) {
   AddStep(invocation, "--select",
-          [patterns = SplitPatterns(argument)](MainModel& model, std::ostream&) { SelectMatching(model, patterns); });
+          [patterns = SplitPatterns(argument)](CliSession& session, std::ostream&) { SelectMatching(session, patterns); });
 }
 
 void AddScope(Invocation& invocation, const std::string& argument) {
   const std::optional<int> scope = ParseApplyScope(argument);
   if (!scope) throw UsageError("--scope takes all, selected or unselected, not '" + argument + "'");
-  AddStep(invocation, "--scope", [scope = *scope](MainModel& model, std::ostream&) { SetApplyScope(model, scope); });
+  AddStep(invocation, "--scope", [scope = *scope](CliSession& session, std::ostream&) { SetApplyScope(session, scope); });
 }
 
 void AddSort(Invocation& invocation, const std::string& argument) {
@@ -32,7 +32,7 @@ void AddSort(Invocation& invocation, const std::string& argument) {
                      argument + "'");
   }
   AddStep(invocation, "--sort",
-          [request = *request](MainModel& model, std::ostream&) { SortByColumnHead(model, request); });
+          [request = *request](CliSession& session, std::ostream&) { SortByColumnHead(session, request); });
 }
 
 void AddUndo(Invocation& invocation, const std::string&) { AddStep(invocation, "--undo", UndoOneStep); }
@@ -43,17 +43,17 @@ void AddReject(Invocation& invocation, const std::string&) {
 
 void AddEdit(Invocation& invocation, const std::string& argument) {
   AddStep(invocation, "--edit",
-          [argument](MainModel& model, std::ostream& notes) { EditNamesInScope(model, argument, notes); });
+          [argument](CliSession& session, std::ostream& notes) { EditNamesInScope(session, argument, notes); });
 }
 
 void AddScript(Invocation& invocation, const std::string& argument) {
   AddStep(invocation, "--script",
-          [argument](MainModel& model, std::ostream& notes) { PlayScriptFile(model, argument, notes); });
+          [argument](CliSession& session, std::ostream& notes) { PlayScriptFile(session, argument, notes); });
 }
 
 void AddStructure(Invocation& invocation, const std::string& argument) {
   AddStep(invocation, "--structure",
-          [argument](MainModel& model, std::ostream&) { ApplyStructureStep(model, argument); });
+          [argument](CliSession& session, std::ostream&) { ApplyStructureStep(session, argument); });
 }
 
 }  // namespace

@@ -4,12 +4,12 @@
 
 namespace nomra::cli {
 
-void RecoverAtStart(MainModel& model, std::ostream& messages) {
-  const InterruptedCommit commit = RecoverInterruptedCommit(model.fileSystem, model.dataFolder);
+void RecoverAtStart(CliSession& session, std::ostream& messages) {
+  const InterruptedCommit commit = RecoverInterruptedCommit(session.fileSystem, session.options.dataFolder);
   for (const std::string& names : commit.finished) {
     messages << "nomra-cli: interrupted commit: finished " << names << '\n';
   }
-  ShowUnresolved(model.frontEnd, commit);
+  ShowUnresolved(session.frontEnd, commit);
 }
 
 }  // namespace nomra::cli

@@ -1,7 +1,7 @@
 #pragma once
 #include <ostream>
 
-#include "core/MainModel.h"
+#include "cli/CliSession.h"
 
 namespace nomra::cli {
 
@@ -9,6 +9,6 @@ namespace nomra::cli {
 // before any path loads, so the list sees the files under their final
 // names. Each file brought to its final name is a note on `messages`; what
 // stays unresolved is a fault and fails the run.
-void RecoverAtStart(MainModel& model, std::ostream& messages);
+void RecoverAtStart(CliSession& session, std::ostream& messages);
 
 }  // namespace nomra::cli

@@ -10,14 +10,18 @@
 
 namespace nomra::cli {
 
-void PlayScriptFile(MainModel& model, const std::string& file, std::ostream&) {
-  const bool played = RunScriptArgument(model, file, [&model](int stepType) { PlayStepWithoutWindow(model, stepType); });
+void PlayScriptFile(CliSession& session, const std::string& file, std::ostream&) {
+  const ActionContext actions = session.Actions();
+  const bool played = RunScriptArgument(session.script, session.fileSystem, file,
+                                        [&actions](int stepType) { PlayStepWithoutWindow(actions, stepType); });
   if (!played) {
-    throw RuntimeFault("no script '" + file + "', neither as a path nor in " + ScriptFolder(model.script.dataFolder));
+    throw RuntimeFault("no script '" + file + "', neither as a path nor in " + ScriptFolder(session.script.dataFolder));
   }
 }
 
-void ApplyStructureStep(MainModel& model, const std::string& structure) { ApplyStructure(model, structure); }
+void ApplyStructureStep(CliSession& session, const std::string& structure) {
+  ApplyStructure(session.Actions(), structure);
+}
 
 int RunScriptsCommand(platform::Platform& system, const std::vector<std::string>& arguments, std::ostream& out,
                       std::ostream& messages) {

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "core/MainModel.h"
+#include "cli/CliSession.h"
 #include "platform/Platform.h"
 
 namespace nomra::cli {
@@ -11,10 +11,10 @@ namespace nomra::cli {
 // Plays the script FILE with all its steps, without windows, as the window's
 // command line does: a path, or else a name in the data folder's "Script"
 // folder. Throws RuntimeFault when neither exists.
-void PlayScriptFile(MainModel& model, const std::string& file, std::ostream& notes);
+void PlayScriptFile(CliSession& session, const std::string& file, std::ostream& notes);
 
 // Sets every pending name of the scope to what the structure gives.
-void ApplyStructureStep(MainModel& model, const std::string& structure);
+void ApplyStructureStep(CliSession& session, const std::string& structure);
 
 // "nomra-cli scripts [--data-dir DIR] [--json]": the stored scripts, one
 // line each, the file name and the display text separated by a tab. Returns

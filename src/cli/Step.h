@@ -3,7 +3,7 @@
 #include <ostream>
 #include <string>
 
-#include "core/MainModel.h"
+#include "cli/CliSession.h"
 
 namespace nomra::cli {
 
@@ -12,7 +12,7 @@ namespace nomra::cli {
 // command of the window does; notes for the user go to `notes`.
 struct Step {
   std::string option;  // as typed, for fault messages
-  std::function<void(MainModel& model, std::ostream& notes)> run;
+  std::function<void(CliSession& session, std::ostream& notes)> run;
 };
 
 }  // namespace nomra::cli

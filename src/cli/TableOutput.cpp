@@ -20,11 +20,11 @@ std::string SummaryLine(int files, int folders, int changed) {
          text::FormatGrouped(static_cast<std::uint64_t>(changed)) + " changed";
 }
 
-void WriteTable(std::ostream& out, const MainModel& model) {
+void WriteTable(std::ostream& out, const CliSession& session) {
   // A sort by anything but the folder can mix folders; each still gets one heading.
   std::vector<std::string> folders;
   std::map<std::string, std::vector<const FileEntry*>> changedRows;
-  model.list.ForEach([&](const FileEntry& row) {
+  session.state.list.ForEach([&](const FileEntry& row) {
     if (!row.HasPendingChange()) return;
     auto [place, added] = changedRows.try_emplace(row[kColPath]);
     if (added) folders.push_back(row[kColPath]);
@@ -36,7 +36,7 @@ void WriteTable(std::ostream& out, const MainModel& model) {
       out << "  " << (*row)[kColOldName] << " -> " << (*row)[kColNewName] << '\n';
     }
   }
-  out << SummaryLine(model.list.Count(), model.folderCount, model.changedCount) << '\n';
+  out << SummaryLine(session.state.list.Count(), session.state.folderCount, session.state.changedCount) << '\n';
 }
 
 }  // namespace nomra::cli

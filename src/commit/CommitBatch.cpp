@@ -19,7 +19,7 @@ void CommitBatch::Fail(const std::string& rowKey, const Failure& failure, const 
 void CommitBatch::BeginJournal(const std::vector<JournalPlanEntry>& plan,
                                const std::vector<JournalTemporaryEntry>& temporaries) {
   if (plan.empty()) return;
-  if (const int error = journal_.Begin(model.dataFolder, plan, temporaries); error != 0) FailJournal(error);
+  if (const int error = journal_.Begin(context.options.dataFolder, plan, temporaries); error != 0) FailJournal(error);
 }
 
 void CommitBatch::JournalTemporary(const std::string& source, const std::string& temporary,
@@ -43,7 +43,7 @@ void CommitBatch::FailJournal(int error) {
 }
 
 void CommitBatch::RecordRename(const FileEntry& row) {
-  if (!model.protocolRenames) return;
+  if (!context.options.protocolRenames) return;
   protocol_.Write(clock_(), row[kColPath], row[kColOldName], row[kColNewName]);
 }
 

@@ -8,7 +8,7 @@
 #include "commit/PathKeys.h"
 #include "commit/ProtocolWriter.h"
 #include "commit/RenameFailure.h"
-#include "core/MainModel.h"
+#include "commit/CommitContext.h"
 
 namespace nomra {
 
@@ -16,9 +16,9 @@ namespace nomra {
 // the open protocol and journal, and the case rules asked for this commit.
 class CommitBatch {
  public:
-  CommitBatch(MainModel& model, CommitResult& result, ProtocolWriter& protocol, CommitJournal& journal,
+  CommitBatch(const CommitContext& context, CommitResult& result, ProtocolWriter& protocol, CommitJournal& journal,
               const LocalClock& clock)
-      : model(model), result(result), keys(model.fileSystem), protocol_(protocol), journal_(journal), clock_(clock) {}
+      : context(context), result(result), keys(context.fileSystem), protocol_(protocol), journal_(journal), clock_(clock) {}
 
   // The failure handler: one numbered report row; the commit goes on.
   void Fail(const std::string& rowKey, const Failure& failure, const std::string& src, const std::string& dst);
@@ -40,7 +40,7 @@ class CommitBatch {
   void JournalTemporary(const std::string& source, const std::string& temporary, const std::string& final);
   void FinishJournal() { journal_.Finish(); }
 
-  MainModel& model;
+  const CommitContext& context;
   CommitResult& result;
   PathKeys keys;
 

@@ -26,13 +26,13 @@ void TakeNewName(FileEntry& row) {
   for (int column = kColHistoryFirst; column <= kColHistoryLast; ++column) row[column].clear();
 }
 
-void ShowProgress(MainModel& model) {
-  ++model.statusCounter;
-  model.frontEnd.SetStatusText(model.statusTexts[3] + " " + std::to_string(model.statusCounter));
+void ShowProgress(const CommitContext& context) {
+  ++context.state.statusCounter;
+  context.frontEnd.SetStatusText(context.texts.renamed + " " + std::to_string(context.state.statusCounter));
 }
 
 void RenameRow(CommitBatch& batch, FileEntry& row, const PathMap& foreseen, OrderedPathMap& temporaries) {
-  MainModel& model = batch.model;
+  const CommitContext& context = batch.context;
   const std::string folder = AddBackslash(row[kColPath]);
   const std::string src = folder + row[kColOldName];
   std::string dst = folder + row[kColNewName];
@@ -45,9 +45,9 @@ void RenameRow(CommitBatch& batch, FileEntry& row, const PathMap& foreseen, Orde
   // disk asked whether a file stands there (the row ahead in a chain that
   // hasn't moved yet, or a change of case alone), which sends the row
   // through a temporary name. A plain batch thus costs one call per row.
-  std::optional<Failure> failure = RenameOnDisk(model, row, src, dst);
+  std::optional<Failure> failure = RenameOnDisk(context, row, src, dst);
   if (failure && failure->kind == FailureKind::TargetExists &&
-      model.fileSystem.Status(dst).kind == platform::EntryKind::File) {
+      context.fileSystem.Status(dst).kind == platform::EntryKind::File) {
     const std::string final = dst;
     dst += kTemporaryMark;
     temporaries.Set(dst, dst);
@@ -55,18 +55,18 @@ void RenameRow(CommitBatch& batch, FileEntry& row, const PathMap& foreseen, Orde
     // about since the plan costs a flush of its own here. A file already
     // there under the temporary name is none of this batch's (the move will
     // fail); journaled, a later start would take it for ours.
-    if (!foreseen.Contains(dst) && model.fileSystem.Status(dst).kind == platform::EntryKind::Missing) {
+    if (!foreseen.Contains(dst) && context.fileSystem.Status(dst).kind == platform::EntryKind::Missing) {
       batch.JournalTemporary(src, dst, final);
     }
-    failure = RenameOnDisk(model, row, src, dst);
+    failure = RenameOnDisk(context, row, src, dst);
   }
   if (failure) {
     batch.Fail(row.key, *failure, src, dst);
     return;
   }
-  ShowProgress(model);
+  ShowProgress(context);
   batch.RecordRename(row);
-  ChangeKeyOrFault(model.list, row, dst);
+  ChangeKeyOrFault(context.List(), row, dst);
   batch.result.renamed.push_back(row.key);
   TakeNewName(row);
 }
@@ -105,11 +105,11 @@ std::vector<JournalTemporaryEntry> ForeseeTemporaries(CommitBatch& batch, const 
                                                       const PathMap& filesOnDisk, PathMap& foreseen) {
   std::vector<JournalTemporaryEntry> temporaries;
   // A plain batch (every new name free) spares the copy of the names and the run.
-  if (!AnyTargetOnDisk(batch.model.list, blocked, filesOnDisk)) return temporaries;
+  if (!AnyTargetOnDisk(batch.context.List(), blocked, filesOnDisk)) return temporaries;
   PathMap taken = filesOnDisk;
-  FileList& list = batch.model.list;
+  FileList& list = batch.context.List();
   for (int position = 1; position <= list.Count(); ++position) {
-    if (position % kRowsPerPump == 0) batch.model.frontEnd.Pump();
+    if (position % kRowsPerPump == 0) batch.context.frontEnd.Pump();
     const FileEntry& row = list.Item(position);
     if (!row.HasPendingChange() || blocked.Contains(row.key)) continue;
     // A refused name is never tried: the file keeps its old one.
@@ -140,9 +140,9 @@ std::vector<JournalTemporaryEntry> ForeseeTemporaries(CommitBatch& batch, const 
 
 void RenamePendingRows(CommitBatch& batch, const OrderedPathMap& blocked, const PathMap& foreseen,
                        OrderedPathMap& temporaries) {
-  FileList& list = batch.model.list;
+  FileList& list = batch.context.List();
   for (int position = 1; position <= list.Count(); ++position) {
-    if (position % kRowsPerPump == 0) batch.model.frontEnd.Pump();
+    if (position % kRowsPerPump == 0) batch.context.frontEnd.Pump();
     FileEntry& row = list.Item(position);
     if (!row.HasPendingChange() || blocked.Contains(row.key)) continue;
     RenameRow(batch, row, foreseen, temporaries);
@@ -152,7 +152,7 @@ void RenamePendingRows(CommitBatch& batch, const OrderedPathMap& blocked, const 
 // Each temporary name loses its mark. The key of the row changes with it;
 // the list of renamed keys keeps the temporary form.
 void ReleaseTemporaryNames(CommitBatch& batch, const OrderedPathMap& temporaries) {
-  FileList& list = batch.model.list;
+  FileList& list = batch.context.List();
   temporaries.ForEach([&](const std::string& temporary) {
     const std::string final = temporary.substr(0, temporary.size() - kTemporaryMark.size());
     FileEntry* row = list.Find(temporary);
@@ -163,7 +163,7 @@ void ReleaseTemporaryNames(CommitBatch& batch, const OrderedPathMap& temporaries
       batch.Fail("", Failure{FailureKind::PathNotUsable, {}}, temporary, final);
       return;
     }
-    if (const auto failure = RenameOnDisk(batch.model, *row, temporary, final)) {
+    if (const auto failure = RenameOnDisk(batch.context, *row, temporary, final)) {
       batch.Fail(row->key, *failure, temporary, final);
       return;
     }
@@ -175,7 +175,7 @@ void ReleaseTemporaryNames(CommitBatch& batch, const OrderedPathMap& temporaries
 // the blocked list, not from the blocked row itself; nothing but the report
 // reads it.
 void ReportBlockedRows(CommitBatch& batch, const OrderedPathMap& blocked) {
-  FileList& list = batch.model.list;
+  FileList& list = batch.context.List();
   int number = 0;
   blocked.ForEach([&](const std::string& key) {
     ++number;
@@ -191,7 +191,7 @@ void ReportBlockedRows(CommitBatch& batch, const OrderedPathMap& blocked) {
 void ExecuteCommit(CommitBatch& batch, const OrderedPathMap& blocked, const PathMap& filesOnDisk) {
   PathMap foreseen(batch.keys);
   const std::vector<JournalTemporaryEntry> foreseenMoves = ForeseeTemporaries(batch, blocked, filesOnDisk, foreseen);
-  batch.BeginJournal(PlannedRenames(batch.model.list, blocked), foreseenMoves);
+  batch.BeginJournal(PlannedRenames(batch.context.List(), blocked), foreseenMoves);
   OrderedPathMap temporaries(batch.keys);
   RenamePendingRows(batch, blocked, foreseen, temporaries);
   ReleaseTemporaryNames(batch, temporaries);

@@ -26,9 +26,9 @@ void ClaimStayingNames(FileList& list, OrderedPathMap& folders, PathMap& claimed
 void CollectOtherFiles(CommitBatch& batch, const OrderedPathMap& folders, const PathMap& claimed,
                        OrderedPathMap& diskOthers, PathMap& filesOnDisk) {
   folders.ForEach([&](const std::string& folder) {
-    batch.model.frontEnd.Pump();
+    batch.context.frontEnd.Pump();
     const std::string base = AddBackslash(folder);
-    batch.model.fileSystem.ListFolder(folder, [&](std::string_view name, platform::EntryKind kind) {
+    batch.context.fileSystem.ListFolder(folder, [&](std::string_view name, platform::EntryKind kind) {
       if (kind != platform::EntryKind::File) return;
       std::string path = base + std::string(name);
       filesOnDisk.Set(path, {});
@@ -54,9 +54,9 @@ void HoldVanishedNames(const std::vector<std::string>& vanished, OrderedPathMap&
 // Each pending row in list order claims its new name; a row whose name is
 // claimed already is blocked. A row that claims gives its old name up.
 void ClaimNewNames(CommitBatch& batch, PathMap& claimed, OrderedPathMap& diskOthers, OrderedPathMap& blocked) {
-  FileList& list = batch.model.list;
+  FileList& list = batch.context.List();
   for (int position = 1; position <= list.Count(); ++position) {
-    if (position % kRowsPerPump == 0) batch.model.frontEnd.Pump();
+    if (position % kRowsPerPump == 0) batch.context.frontEnd.Pump();
     const FileEntry& row = list.Item(position);
     if (!row.HasPendingChange()) continue;
     const std::string target = row[kColPath] + row[kColNewName];
@@ -91,10 +91,10 @@ void PlanCommit(CommitBatch& batch, OrderedPathMap& blocked, PathMap& filesOnDis
   OrderedPathMap folders(batch.keys);
   PathMap claimed(batch.keys);
   OrderedPathMap diskOthers(batch.keys);
-  ClaimStayingNames(batch.model.list, folders, claimed);
+  ClaimStayingNames(batch.context.List(), folders, claimed);
   CollectOtherFiles(batch, folders, claimed, diskOthers, filesOnDisk);
   std::vector<std::string> vanished;
-  FindVanishedRows(batch.model.list, diskOthers, vanished);
+  FindVanishedRows(batch.context.List(), diskOthers, vanished);
   ClaimNewNames(batch, claimed, diskOthers, blocked);
   HoldVanishedNames(vanished, diskOthers);
   SettleOtherFiles(claimed, diskOthers, blocked);

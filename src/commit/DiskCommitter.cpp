@@ -6,13 +6,13 @@
 namespace nomra {
 
 void DiskCommitter::CommitAll() {
-  lastResult_ = mdlRenameFiles(model_, kWholeList, services_.clock);
-  ShowNotRenamed(model_, lastResult_, services_);
+  lastResult_ = mdlRenameFiles(context_, kWholeList, services_.clock);
+  ShowNotRenamed(context_, lastResult_, services_);
 }
 
 void DiskCommitter::CommitRow(int position) {
-  lastResult_ = mdlRenameFiles(model_, position, services_.clock);
-  ShowNotRenamed(model_, lastResult_, services_);
+  lastResult_ = mdlRenameFiles(context_, position, services_.clock);
+  ShowNotRenamed(context_, lastResult_, services_);
 }
 
 }  // namespace nomra

@@ -3,7 +3,7 @@
 
 #include "commit/CommitResult.h"
 #include "commit/CommitServices.h"
-#include "core/MainModel.h"
+#include "commit/CommitContext.h"
 #include "core/RowCommitter.h"
 
 namespace nomra {
@@ -13,8 +13,8 @@ namespace nomra {
 // left rows not renamed is shown through the services. The caller refreshes.
 class DiskCommitter final : public RowCommitter {
  public:
-  explicit DiskCommitter(MainModel& model, CommitServices services = {})
-      : model_(model), services_(std::move(services)) {}
+  explicit DiskCommitter(const CommitContext& context, CommitServices services = {})
+      : context_(context), services_(std::move(services)) {}
 
   void CommitAll() override;
   void CommitRow(int position) override;
@@ -23,7 +23,7 @@ class DiskCommitter final : public RowCommitter {
   const CommitResult& LastResult() const { return lastResult_; }
 
  private:
-  MainModel& model_;
+  CommitContext context_;
   CommitServices services_;
   CommitResult lastResult_;
 };

@@ -2,13 +2,13 @@
 
 namespace nomra {
 
-std::optional<Failure> RenameOnDisk(MainModel& model, const FileEntry& row, const std::string& from,
+std::optional<Failure> RenameOnDisk(const CommitContext& context, const FileEntry& row, const std::string& from,
                                     const std::string& to) {
-  const FileEntry* holder = model.list.Find(to);
+  const FileEntry* holder = context.List().Find(to);
   if (holder != nullptr && holder != &row) return Failure{FailureKind::TargetExists, {}};
-  const platform::RenameResult renamed = model.fileSystem.RenameNoReplace(from, to);
+  const platform::RenameResult renamed = context.fileSystem.RenameNoReplace(from, to);
   if (!renamed.ok) return FailureOfError(renamed.error);
-  if (!model.fileSystem.ConfirmRenamed(from, to)) return OtherFailure(kRenameDidNothingText);
+  if (!context.fileSystem.ConfirmRenamed(from, to)) return OtherFailure(kRenameDidNothingText);
   return std::nullopt;
 }
 

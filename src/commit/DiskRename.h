@@ -3,7 +3,7 @@
 #include <string>
 
 #include "commit/RenameFailure.h"
-#include "core/MainModel.h"
+#include "commit/CommitContext.h"
 
 namespace nomra {
 
@@ -12,7 +12,7 @@ namespace nomra {
 // A name another row of the list still holds is refused as taken even when
 // no file is there (that row's file has vanished): the list could not give
 // two rows one key, and the other row's rename would take this file along.
-std::optional<Failure> RenameOnDisk(MainModel& model, const FileEntry& row, const std::string& from,
+std::optional<Failure> RenameOnDisk(const CommitContext& context, const FileEntry& row, const std::string& from,
                                     const std::string& to);
 
 // The reason recorded when the file system reports success and the old name

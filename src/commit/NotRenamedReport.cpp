@@ -4,19 +4,19 @@
 
 namespace nomra {
 
-void ApplyNotRenamedChoice(MainModel& model, const CommitResult& result, bool removeRenamed) {
+void ApplyNotRenamedChoice(const CommitContext& context, const CommitResult& result, bool removeRenamed) {
   if (!removeRenamed || result.renamed.empty()) return;
   std::unordered_set<const FileEntry*> renamedRows;
   for (const std::string& key : result.renamed) {
-    if (const FileEntry* row = model.list.Find(key)) renamedRows.insert(row);
+    if (const FileEntry* row = context.List().Find(key)) renamedRows.insert(row);
   }
-  model.list.RemoveWhere([&](const FileEntry& row) { return renamedRows.contains(&row); });
+  context.List().RemoveWhere([&](const FileEntry& row) { return renamedRows.contains(&row); });
 }
 
-void ShowNotRenamed(MainModel& model, const CommitResult& result, const CommitServices& services) {
+void ShowNotRenamed(const CommitContext& context, const CommitResult& result, const CommitServices& services) {
   if (result.notRenamed.empty() || !services.showNotRenamed) return;
   const NotRenamedChoice choice = services.showNotRenamed(result);
-  ApplyNotRenamedChoice(model, result, choice == NotRenamedChoice::RemoveRenamed);
+  ApplyNotRenamedChoice(context, result, choice == NotRenamedChoice::RemoveRenamed);
 }
 
 }  // namespace nomra

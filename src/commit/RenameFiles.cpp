@@ -15,38 +15,38 @@ namespace {
 // status counter starts again and the busy pointer goes.
 class CommitScope {
  public:
-  CommitScope(MainModel& model, ProtocolWriter& protocol) : model_(model), protocol_(protocol) {
-    model_.frontEnd.SetBusy(true);
+  CommitScope(const CommitContext& context, ProtocolWriter& protocol) : context_(context), protocol_(protocol) {
+    context_.frontEnd.SetBusy(true);
   }
   ~CommitScope() {
     protocol_.Close();
-    model_.statusCounter = 0;
-    model_.frontEnd.SetBusy(false);
+    context_.state.statusCounter = 0;
+    context_.frontEnd.SetBusy(false);
   }
   CommitScope(const CommitScope&) = delete;
   CommitScope& operator=(const CommitScope&) = delete;
 
  private:
-  MainModel& model_;
+  CommitContext context_;
   ProtocolWriter& protocol_;
 };
 
 // Without a data folder there is no protocol to open.
-std::string ProtocolPath(const MainModel& model) {
-  return model.dataFolder.empty() ? std::string() : AddBackslash(model.dataFolder) + settings::kProtocolFileName;
+std::string ProtocolPath(const CommitContext& context) {
+  return context.options.dataFolder.empty() ? std::string() : AddBackslash(context.options.dataFolder) + settings::kProtocolFileName;
 }
 
 }  // namespace
 
-CommitResult mdlRenameFiles(MainModel& model, int position, const LocalClock& clock) {
+CommitResult mdlRenameFiles(const CommitContext& context, int position, const LocalClock& clock) {
   CommitResult result;
-  ProtocolWriter protocol(model.fileSystem);
-  CommitJournal journal(model.fileSystem);
-  const CommitScope scope(model, protocol);
-  CommitBatch batch(model, result, protocol, journal, clock);
+  ProtocolWriter protocol(context.fileSystem);
+  CommitJournal journal(context.fileSystem);
+  const CommitScope scope(context, protocol);
+  CommitBatch batch(context, result, protocol, journal, clock);
 
   // Opened whether renames are logged or not; a failure costs the records only.
-  if (const int error = protocol.Open(ProtocolPath(model)); error != 0) {
+  if (const int error = protocol.Open(ProtocolPath(context)); error != 0) {
     batch.Fail("", FailureOfError(error), "", "");
   }
 

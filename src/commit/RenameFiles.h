@@ -1,7 +1,7 @@
 #pragma once
 #include "commit/CommitResult.h"
 #include "base/LocalClock.h"
-#include "core/MainModel.h"
+#include "commit/CommitContext.h"
 
 namespace nomra {
 
@@ -14,6 +14,6 @@ inline constexpr int kWholeList = -1;
 // alone. No file is ever replaced. Each rename is written to the protocol
 // when renames are logged. Returns the rows not renamed and the keys renamed;
 // the caller refreshes the list.
-CommitResult mdlRenameFiles(MainModel& model, int position, const LocalClock& clock = LocalTimeNow);
+CommitResult mdlRenameFiles(const CommitContext& context, int position, const LocalClock& clock = LocalTimeNow);
 
 }  // namespace nomra

@@ -18,7 +18,7 @@ bool RenamePendingRow(CommitBatch& batch, FileEntry& row) {
     // One row never goes through a temporary name; its journal lets a start
     // after a crash tell the user if the file is under neither name.
     batch.BeginJournal({{src, dst}});
-    failure = RenameOnDisk(batch.model, row, src, dst);
+    failure = RenameOnDisk(batch.context, row, src, dst);
     batch.FinishJournal();
   }
   if (failure) {
@@ -27,7 +27,7 @@ bool RenamePendingRow(CommitBatch& batch, FileEntry& row) {
   }
   batch.RecordRename(row);
   // RenameOnDisk refuses a name another row holds, so this can't fail.
-  if (!batch.model.list.ChangeKey(row, dst)) throw RuntimeFault("Two rows of the list came to hold " + dst);
+  if (!batch.context.List().ChangeKey(row, dst)) throw RuntimeFault("Two rows of the list came to hold " + dst);
   row[kColOldName] = row[kColNewName];
   return false;
 }
@@ -35,7 +35,7 @@ bool RenamePendingRow(CommitBatch& batch, FileEntry& row) {
 }  // namespace
 
 void CommitSingleRow(CommitBatch& batch, int position) {
-  FileEntry& row = batch.model.list.Item(position);
+  FileEntry& row = batch.context.List().Item(position);
   const bool failed = row.HasPendingChange() && RenamePendingRow(batch, row);
   if (failed) return;
   for (int column = kColHistory0; column <= kColHistoryLast; ++column) {

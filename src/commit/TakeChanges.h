@@ -4,7 +4,8 @@
 
 #include "commit/CommitResult.h"
 #include "commit/CommitServices.h"
-#include "core/MainModel.h"
+#include "commit/CommitContext.h"
+#include "core/Preview.h"
 
 namespace nomra {
 
@@ -14,6 +15,7 @@ namespace nomra {
 // "TakeChanges2" hands over to frmSelAction, whose OK copies or moves and
 // renames; any other tag does nothing. Nothing comes back when no commit of
 // the whole list ran here.
-std::optional<CommitResult> takeChanges(MainModel& model, std::string_view tag, const CommitServices& services = {});
+std::optional<CommitResult> takeChanges(const CommitContext& context, Preview& preview, std::string_view tag,
+                                        const CommitServices& services = {});
 
 }  // namespace nomra

@@ -23,7 +23,7 @@ bool IsJpegName(const std::string& name) {
   return extension == ".jpg" || extension == ".jpeg";
 }
 
-void FillRow(MainModel& model, FileEntry& row, const platform::FileStatus& status) {
+void FillRow(const ListState& state, FileEntry& row, const platform::FileStatus& status) {
   const std::size_t slash = row.key.rfind(kPathSeparator);
   row[kColPath] = row.key.substr(0, slash + 1);
   row[kColOldName] = row.key.substr(slash + 1);
@@ -34,48 +34,49 @@ void FillRow(MainModel& model, FileEntry& row, const platform::FileStatus& statu
   row[kColCreated] = status.created ? text::FormatListDate(*status.created) : text::kDefaultListDate;
   row[kColModified] = status.modified ? text::FormatListDate(*status.modified) : text::kDefaultListDate;
   // A row added late gets as many history levels as the others have.
-  for (int column = kColHistory0; column <= kColHistory0 + model.undoLevels && column <= kColHistoryLast; ++column) {
+  for (int column = kColHistory0; column <= kColHistory0 + state.undoLevels && column <= kColHistoryLast; ++column) {
     row[column] = row[kColOldName];
   }
 }
 
 }  // namespace
 
-void AddFile(MainModel& model, std::string& path) {
-  if (++model.addCounter % kPumpInterval == 0) model.frontEnd.Pump();
+void AddFile(ListLoad& load, std::string& path) {
+  ListState& state = load.state;
+  if (++state.addCounter % kPumpInterval == 0 && !load.progress.Tick({})) load.stopAsked = true;
 
-  platform::FileStatus status = model.fileSystem.Status(path);
+  platform::FileStatus status = load.fileSystem.Status(path);
   if (status.kind == platform::EntryKind::Folder) {
-    AddFolder(model, model.fileSystem.AbsolutePath(path));
+    AddFolder(load, load.fileSystem.AbsolutePath(path));
     return;
   }
   if (status.kind != platform::EntryKind::File) {
-    if (model.checkExistence) return;
+    if (load.options.checkExistence) return;
     const int error = status.error != 0 ? status.error : ENOENT;
     throw RuntimeFault("Cannot add \"" + path + "\": " + SystemErrorText(error));
   }
-  path = model.fileSystem.AbsolutePath(path);
+  path = load.fileSystem.AbsolutePath(path);
 
-  FileEntry* row = model.list.Add(path);
+  FileEntry* row = state.list.Add(path);
   if (row == nullptr) return;  // a file is never listed twice
-  FillRow(model, *row, status);
+  FillRow(state, *row, status);
 
-  ++model.statusCounter;
-  model.frontEnd.SetStatusText(model.statusTexts[2] + " " + std::to_string(model.statusCounter));
+  ++state.statusCounter;
+  load.frontEnd.SetStatusText(load.texts.adding + " " + std::to_string(state.statusCounter));
 
-  if (model.loadExifDates && IsJpegName((*row)[kColOldName])) {
-    if (auto date = model.exifDates.ReadExifDate(row->key)) (*row)[kColExifDate] = *date;
+  if (load.options.loadExifDates && IsJpegName((*row)[kColOldName])) {
+    if (auto date = load.exifDates.ReadExifDate(row->key)) (*row)[kColExifDate] = *date;
   }
 }
 
-void AddFolder(MainModel& model, const std::string& folder) {
+void AddFolder(ListLoad& load, const std::string& folder) {
   const std::string base = AddBackslash(folder);
   std::vector<std::string> subfolders;
-  model.fileSystem.ListFolder(base, [&](std::string_view name, platform::EntryKind kind) {
+  load.fileSystem.ListFolder(base, [&](std::string_view name, platform::EntryKind kind) {
     if (kind == platform::EntryKind::File) {
       std::string path = base + std::string(name);
       try {
-        AddFile(model, path);
+        AddFile(load, path);
       } catch (const RuntimeFault&) {
         // A file that went away during the walk is passed over.
       }
@@ -83,7 +84,7 @@ void AddFolder(MainModel& model, const std::string& folder) {
       subfolders.push_back(base + std::string(name));
     }
   });
-  for (const std::string& subfolder : subfolders) AddFolder(model, subfolder);
+  for (const std::string& subfolder : subfolders) AddFolder(load, subfolder);
 }
 
 }  // namespace nomra

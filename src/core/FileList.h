@@ -48,9 +48,11 @@ class FileList {
   // that comes to place i.
   void Reorder(const std::vector<int>& order);
 
-  // The list control's sort column and direction (0 ascending, 1 descending).
+  // The list control's sort column and direction (0 ascending, 1 descending),
+  // and the column head clicked last, whose second click turns the order.
   int sortKey = 0;
   int sortOrder = 0;
+  int lastClickedHead = 0;
 
   // Visits the rows in order. Rows lie wherever they were allocated, so in
   // sorted order each visit would wait for memory; asking for the rows a few

@@ -1,26 +1,26 @@
 #include "core/ManualEdit.h"
 
 #include "base/FileNames.h"
-#include "core/RefreshPreview.h"
+#include "base/Trim.h"
 
 namespace nomra {
 
 namespace {
 
-bool OnlyBlanks(const std::string& text) { return text.find_first_not_of(' ') == std::string::npos; }
+bool OnlyBlanks(const std::string& text) { return TrimSpaces(text).empty(); }
 
 }  // namespace
 
-bool ApplyManualEdit(MainModel& model, int position, const std::string& typed) {
+bool ApplyManualEdit(const ListContext& context, int position, const std::string& typed) {
   if (OnlyBlanks(typed)) return false;
-  model.list.Item(position)[kColNewName] = typed;
-  refreshPreview(model);
+  context.List().Item(position)[kColNewName] = typed;
+  context.preview.Refresh();
   return true;
 }
 
-void ApplyLabelEdit(MainModel& model, int position, const std::string& edited) {
-  model.list.Item(position)[kColNewName] = CleanFileName(edited);
-  refreshPreview(model);
+void ApplyLabelEdit(const ListContext& context, int position, const std::string& edited) {
+  context.List().Item(position)[kColNewName] = CleanFileName(edited);
+  context.preview.Refresh();
 }
 
 }  // namespace nomra

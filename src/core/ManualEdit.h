@@ -1,16 +1,16 @@
 #pragma once
 #include <string>
 
-#include "core/MainModel.h"
+#include "core/ListContext.h"
 
 namespace nomra {
 
 // The typed name of the manual edit becomes the row's pending name as typed,
 // unless it holds nothing but blanks. Returns whether it was taken.
-bool ApplyManualEdit(MainModel& model, int position, const std::string& typed);
+bool ApplyManualEdit(const ListContext& context, int position, const std::string& typed);
 
 // The end of an in-place edit: forbidden characters are removed, the rest
 // becomes the pending name.
-void ApplyLabelEdit(MainModel& model, int position, const std::string& edited);
+void ApplyLabelEdit(const ListContext& context, int position, const std::string& edited);
 
 }  // namespace nomra

@@ -2,37 +2,35 @@
 
 #include <utility>
 
-#include "core/RefreshPreview.h"
+#include "core/BusyPointer.h"
 #include "lang/MessageKeys.h"
 
 namespace nomra {
 
-bool mnuUndo(MainModel& model) {
-  if (model.securityQuestions[0] &&
-      model.frontEnd.Ask({lang::kUndoQuestion, "", MessageStyle::YesNo, {}}) != Answer::Yes) {
+bool mnuUndo(const ListContext& context, bool askFirst) {
+  if (askFirst && context.frontEnd.Ask({lang::kUndoQuestion, "", MessageStyle::YesNo, {}}) != Answer::Yes) {
     return false;
   }
-  model.frontEnd.SetBusy(true);
-  model.list.ForEach([](FileEntry& row) {
+  BusyPointer busy(context.frontEnd);
+  context.List().ForEach([](FileEntry& row) {
     row[kColNewName] = row[kColHistoryFirst];
     row.PopHistory();
   });
-  refreshPreview(model);
-  model.frontEnd.SetBusy(false);
+  context.preview.Refresh();
   return true;
 }
 
-bool mnuRejectChanges(MainModel& model) {
-  if (model.securityQuestions[2] &&
-      model.frontEnd.Ask({lang::kRejectChangesQuestion, lang::kRejectChangesCaption, MessageStyle::YesNoWarningDefaultNo, {}}) != Answer::Yes) {
+bool mnuRejectChanges(const ListContext& context, bool askFirst) {
+  if (askFirst && context.frontEnd.Ask({lang::kRejectChangesQuestion, lang::kRejectChangesCaption,
+                                        MessageStyle::YesNoWarningDefaultNo, {}}) != Answer::Yes) {
     return false;
   }
-  model.list.ForEach([](FileEntry& row) {
+  context.List().ForEach([](FileEntry& row) {
     row[kColNewName] = row[kColOldName];
     row[kColHistory0] = row[kColOldName];
     for (int column = kColHistoryFirst; column <= kColHistoryLast; ++column) row[column].clear();
   });
-  refreshPreview(model);
+  context.preview.Refresh();
   return true;
 }
 

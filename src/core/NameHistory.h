@@ -1,16 +1,16 @@
 #pragma once
 
-#include "core/MainModel.h"
+#include "core/ListContext.h"
 
 namespace nomra {
 
 // One step back in the pending names of every row, whatever the scope.
-// Asks first when the first security question is on. Returns whether the
-// step was taken.
-bool mnuUndo(MainModel& model);
+// Asks first with `askFirst` (the first security question). Returns whether
+// the step was taken.
+bool mnuUndo(const ListContext& context, bool askFirst);
 
 // Every pending name back to the old name; the history is wiped too.
-// Asks first when the third security question is on.
-bool mnuRejectChanges(MainModel& model);
+// Asks first with `askFirst` (the third security question).
+bool mnuRejectChanges(const ListContext& context, bool askFirst);
 
 }  // namespace nomra

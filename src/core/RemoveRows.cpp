@@ -4,7 +4,6 @@
 
 #include "base/CaseMap.h"
 #include "base/Fault.h"
-#include "core/RefreshPreview.h"
 #include "lang/MessageKeys.h"
 
 namespace nomra {
@@ -13,106 +12,117 @@ namespace {
 
 using RowTest = std::function<bool(const FileEntry&)>;
 
-RowCommitter& Committer(MainModel& model) {
-  if (model.committer == nullptr) {
-    throw RuntimeFault("Pending changes can't be taken here; the rows stay in the list");
+// One removal: the list, the user, and whoever takes pending changes to
+// disk before their rows go.
+class Removal {
+ public:
+  Removal(const ListContext& context, RowCommitter* committer) : context_(context), committer_(committer) {}
+
+  RowCommitter& Committer() const {
+    if (committer_ == nullptr) throw RuntimeFault("Pending changes can't be taken here; the rows stay in the list");
+    return *committer_;
   }
-  return *model.committer;
-}
 
-Answer AskKeepChanges(MainModel& model, const char* textKey) {
-  return model.frontEnd.Ask({textKey, lang::kPendingChangesCaption, MessageStyle::YesNoCancelDefaultNo, {}});
-}
-
-bool AnyPendingAmong(MainModel& model, const RowTest& picked) {
-  bool any = false;
-  model.list.ForEach([&](const FileEntry& row) {
-    if (picked(row) && row.HasPendingChange()) any = true;
-  });
-  return any;
-}
-
-// Rows go from position 1 up; the position moves on only past rows that
-// stay. With `commitFirst`, each picked row is taken alone before it goes.
-void RemovePicked(MainModel& model, const RowTest& picked, bool commitFirst) {
-  if (!commitFirst) {
-    model.list.RemoveWhere(picked);
-    return;
+  Answer AskKeepChanges(const char* textKey) const {
+    return context_.frontEnd.Ask({textKey, lang::kPendingChangesCaption, MessageStyle::YesNoCancelDefaultNo, {}});
   }
-  int position = 1;
-  while (position <= model.list.Count()) {
-    if (picked(model.list.Item(position))) {
-      Committer(model).CommitRow(position);
-      model.list.Remove(position);
-    } else {
-      ++position;
+
+  bool AnyPendingAmong(const RowTest& picked) const {
+    bool any = false;
+    context_.List().ForEach([&](const FileEntry& row) {
+      if (picked(row) && row.HasPendingChange()) any = true;
+    });
+    return any;
+  }
+
+  // Rows go from position 1 up; the position moves on only past rows that
+  // stay. With `commitFirst`, each picked row is taken alone before it goes.
+  void RemovePicked(const RowTest& picked, bool commitFirst) const {
+    FileList& list = context_.List();
+    if (!commitFirst) {
+      list.RemoveWhere(picked);
+      return;
+    }
+    int position = 1;
+    while (position <= list.Count()) {
+      if (picked(list.Item(position))) {
+        Committer().CommitRow(position);
+        list.Remove(position);
+      } else {
+        ++position;
+      }
     }
   }
-}
 
-bool RemoveAll(MainModel& model) {
-  if (model.changedCount > 0) {
-    const Answer answer = AskKeepChanges(model, lang::kRemoveRowsWithChangesQuestion);
-    if (answer == Answer::Cancel) return false;
-    if (answer == Answer::Yes) Committer(model).CommitAll();
+  bool RemoveAll() const {
+    if (context_.state.changedCount > 0) {
+      const Answer answer = AskKeepChanges(lang::kRemoveRowsWithChangesQuestion);
+      if (answer == Answer::Cancel) return false;
+      if (answer == Answer::Yes) Committer().CommitAll();
+    }
+    context_.List().Clear();
+    return true;
   }
-  model.list.Clear();
-  return true;
-}
 
-bool RemoveSome(MainModel& model, const RowTest& picked, bool askAlways) {
-  bool commitFirst = false;
-  if (askAlways || AnyPendingAmong(model, picked)) {
-    const Answer answer = AskKeepChanges(model, lang::kRemoveRowsWithChangesQuestion);
-    if (answer == Answer::Cancel) return false;
-    commitFirst = answer == Answer::Yes;
+  bool RemoveSome(const RowTest& picked, bool askAlways) const {
+    bool commitFirst = false;
+    if (askAlways || AnyPendingAmong(picked)) {
+      const Answer answer = AskKeepChanges(lang::kRemoveRowsWithChangesQuestion);
+      if (answer == Answer::Cancel) return false;
+      commitFirst = answer == Answer::Yes;
+    }
+    RemovePicked(picked, commitFirst);
+    return true;
   }
-  RemovePicked(model, picked, commitFirst);
-  return true;
-}
 
-bool RemoveByTag(MainModel& model) {
-  const std::string tag = text::ToUpper(model.delListTag);
-  bool done = false;
-  if (tag.empty() || tag == "DELLIST1") {
-    done = RemoveAll(model);
-  } else if (tag == "DELLIST2") {
-    done = RemoveSome(model, [](const FileEntry& row) { return row.selected; }, false);
-  } else if (tag == "DELLIST3") {
-    done = RemoveSome(model, [](const FileEntry& row) { return !row.selected; }, false);
-  } else if (tag == "DELLIST4") {
-    if (model.changedCount < 1) return false;
-    done = RemoveSome(model, [](const FileEntry& row) { return row.HasPendingChange(); }, true);
-  } else if (tag == "DELLIST5") {
-    done = RemoveSome(model, [](const FileEntry& row) { return !row.HasPendingChange(); }, false);
-  } else {
-    return false;
+  bool RemoveByTag(std::string_view variant) const {
+    const std::string tag = text::ToUpper(variant);
+    bool done = false;
+    if (tag.empty() || tag == "DELLIST1") {
+      done = RemoveAll();
+    } else if (tag == "DELLIST2") {
+      done = RemoveSome([](const FileEntry& row) { return row.selected; }, false);
+    } else if (tag == "DELLIST3") {
+      done = RemoveSome([](const FileEntry& row) { return !row.selected; }, false);
+    } else if (tag == "DELLIST4") {
+      if (context_.state.changedCount < 1) return false;
+      done = RemoveSome([](const FileEntry& row) { return row.HasPendingChange(); }, true);
+    } else if (tag == "DELLIST5") {
+      done = RemoveSome([](const FileEntry& row) { return !row.HasPendingChange(); }, false);
+    } else {
+      return false;
+    }
+    if (done) context_.preview.Refresh();
+    return done;
   }
-  if (done) refreshPreview(model);
-  return done;
-}
+
+ private:
+  const ListContext& context_;
+  RowCommitter* committer_;
+};
 
 }  // namespace
 
-bool deleteFromList(MainModel& model) {
+bool deleteFromList(const ListContext& context, RowCommitter* committer, std::string_view variant) {
   try {
-    return RemoveByTag(model);
+    return Removal(context, committer).RemoveByTag(variant);
   } catch (const RuntimeFault&) {
     // What was removed before the fault stays removed; the view must show it.
-    refreshPreview(model);
+    context.preview.Refresh();
     throw;
   }
 }
 
-bool btnBarLeftDel1File(MainModel& model, int position) {
-  FileEntry& row = model.list.Item(position);
+bool btnBarLeftDel1File(const ListContext& context, RowCommitter* committer, int position) {
+  const Removal removal(context, committer);
+  FileEntry& row = context.List().Item(position);
   if (row.HasPendingChange()) {
-    const Answer answer = AskKeepChanges(model, lang::kRemoveRowWithChangeQuestion);
+    const Answer answer = removal.AskKeepChanges(lang::kRemoveRowWithChangeQuestion);
     if (answer == Answer::Cancel) return false;
-    if (answer == Answer::Yes) Committer(model).CommitRow(position);
+    if (answer == Answer::Yes) removal.Committer().CommitRow(position);
   }
-  model.list.Remove(position);
-  refreshPreview(model);
+  context.List().Remove(position);
+  context.preview.Refresh();
   return true;
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/CaseMap.h"
+#include "core/BusyPointer.h"
 #include "core/NaturalSortKey.h"
 
 namespace nomra {
@@ -97,51 +98,48 @@ void SortRows(FileList& list, const SortPlan& plan, int tieColumn) {
 
 void SortRowsByColumn(FileList& list, int column) { SortRows(list, {SortText::Direct, column}, -1); }
 
-void sortFileList(MainModel& model, int columnHead) {
+void sortFileList(FileList& list, FrontEnd& frontEnd, int columnHead) {
   const SortPlan plan = PlanForHead(columnHead);
   if (plan.kind == SortText::None) return;
-  model.frontEnd.SetBusy(true);
-  SortRows(model.list, plan, -1);
-  model.list.sortKey = columnHead - 1;
-  model.frontEnd.SetBusy(false);
+  BusyPointer busy(frontEnd);
+  SortRows(list, plan, -1);
+  list.sortKey = columnHead - 1;
 }
 
-void SortInFolderOrderThenByHead(MainModel& model, int columnHead) {
+void SortInFolderOrderThenByHead(FileList& list, int columnHead) {
   const SortPlan plan = PlanForHead(columnHead);
-  model.frontEnd.SetBusy(true);
   if (plan.kind == SortText::None) {
-    SortRowsByColumn(model.list, kColPath);
+    SortRowsByColumn(list, kColPath);
   } else {
-    SortRows(model.list, plan, kColPath);
-    model.list.sortKey = columnHead - 1;
+    SortRows(list, plan, kColPath);
+    list.sortKey = columnHead - 1;
   }
-  model.frontEnd.SetBusy(false);
 }
 
-void ClickColumnHead(MainModel& model, int columnHead) {
-  if (model.list.sortOrder == 0 && columnHead == model.lastClickedColumn) {
-    model.list.sortOrder = 1;
+void ClickColumnHead(FileList& list, FrontEnd& frontEnd, int columnHead) {
+  if (list.sortOrder == 0 && columnHead == list.lastClickedHead) {
+    list.sortOrder = 1;
   } else {
-    model.list.sortOrder = 0;
+    list.sortOrder = 0;
   }
-  model.lastClickedColumn = columnHead;
-  sortFileList(model, columnHead);
+  list.lastClickedHead = columnHead;
+  sortFileList(list, frontEnd, columnHead);
 }
 
-void mnuViewSortingSorted(MainModel& model, int entry) {
-  model.list.sortOrder = (entry - 1) % 2;
-  sortFileList(model, (entry + 3) / 2);
+void mnuViewSortingSorted(FileList& list, FrontEnd& frontEnd, int entry) {
+  list.sortOrder = (entry - 1) % 2;
+  sortFileList(list, frontEnd, (entry + 3) / 2);
 }
 
-void mnuViewSortingUnsorted(MainModel& model) {
-  model.list.sortOrder = 0;
-  sortFileList(model, kUnsortedHead);
+void mnuViewSortingUnsorted(FileList& list, FrontEnd& frontEnd) {
+  list.sortOrder = 0;
+  sortFileList(list, frontEnd, kUnsortedHead);
 }
 
-int CheckedSortMenuEntry(const MainModel& model) {
-  const int head = model.list.sortKey + 1;
+int CheckedSortMenuEntry(const FileList& list) {
+  const int head = list.sortKey + 1;
   if (head < 2 || head > kLastMenuHead) return 0;
-  return 2 * (head - 1) - 1 + model.list.sortOrder;
+  return 2 * (head - 1) - 1 + list.sortOrder;
 }
 
 }  // namespace nomra

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "core/MainModel.h"
+#include "core/FileList.h"
+#include "core/FrontEnd.h"
 
 namespace nomra {
 
@@ -8,20 +9,20 @@ namespace nomra {
 // sort text of their column, head 8 by the size's padded tag, head 21 by the
 // position of the last refresh. Any other head changes nothing. Ties keep
 // their order. Afterwards only the sorted head shows an arrow.
-void sortFileList(MainModel& model, int columnHead);
+void sortFileList(FileList& list, FrontEnd& frontEnd, int columnHead);
 
 // A click on a column head: a second click on the same ascending head turns
 // it descending, anything else sorts ascending.
-void ClickColumnHead(MainModel& model, int columnHead);
+void ClickColumnHead(FileList& list, FrontEnd& frontEnd, int columnHead);
 
 // The sort menu: entries come in pairs, ascending and descending, for heads
 // 2 to 8.
-void mnuViewSortingSorted(MainModel& model, int entry);
+void mnuViewSortingSorted(FileList& list, FrontEnd& frontEnd, int entry);
 // Back to the order of the last refresh.
-void mnuViewSortingUnsorted(MainModel& model);
+void mnuViewSortingUnsorted(FileList& list, FrontEnd& frontEnd);
 
 // Which sort menu entry is checked: 1 to 14, or 0 when "unsorted" is.
-int CheckedSortMenuEntry(const MainModel& model);
+int CheckedSortMenuEntry(const FileList& list);
 
 // Sorts every row by the text of one column, in the list's direction.
 void SortRowsByColumn(FileList& list, int column);
@@ -30,6 +31,6 @@ void SortRowsByColumn(FileList& list, int column);
 // a head that sorts, by that head. Sorting twice, each time keeping equal
 // texts in their order, is one sort by the head with ties in folder order,
 // and that is how it runs.
-void SortInFolderOrderThenByHead(MainModel& model, int columnHead);
+void SortInFolderOrderThenByHead(FileList& list, int columnHead);
 
 }  // namespace nomra

@@ -2,7 +2,7 @@
 #include <string_view>
 
 #include "core/FrontEnd.h"
-#include "core/ScriptSession.h"
+#include "dialog/ScriptSession.h"
 #include "platform/FileSystem.h"
 #include "dialog/DialogModel.h"
 

@@ -1,5 +1,5 @@
 #pragma once
-#include "core/MainModel.h"
+#include "core/ListContext.h"
 #include "fileops/OperationServices.h"
 
 namespace nomra::fileops {
@@ -9,6 +9,6 @@ namespace nomra::fileops {
 // user's yes; then each row whose file is gone leaves the list, and the
 // list is refreshed. A cancelled or partly failed deletion leaves the rows
 // whose files are still there. False when expert mode is off.
-bool DeleteListFiles(MainModel& model, bool toTrash, OperationServices& services);
+bool DeleteListFiles(const ListContext& context, bool expertMode, bool toTrash, OperationServices& services);
 
 }  // namespace nomra::fileops

@@ -7,7 +7,6 @@
 #include "base/Fault.h"
 #include "base/Paths.h"
 #include "core/BusyPointer.h"
-#include "core/RefreshPreview.h"
 #include "dialog/DialogState.h"
 #include "fileops/FilePaths.h"
 #include "fileops/FileListOperations.h"
@@ -38,28 +37,28 @@ std::string SourceOf(const FileEntry& row) { return AddBackslash(row[kColPath]) 
 // Whether a picked row has a later row, picked or not, with the same name
 // in `column`. The copies of the two would land on one name.
 template <typename Picked>
-bool NamesCollide(MainModel& model, int column, Picked&& picked) {
+bool NamesCollide(const FileList& list, int column, Picked&& picked) {
   std::unordered_set<std::string> later;
-  for (int position = model.list.Count(); position >= 1; --position) {
-    const FileEntry& row = model.list.Item(position);
+  for (int position = list.Count(); position >= 1; --position) {
+    const FileEntry& row = list.Item(position);
     if (picked(row) && later.contains(row[column])) return true;
     later.insert(row[column]);
   }
   return false;
 }
 
-void ShowNamesCollide(MainModel& model) {
-  model.frontEnd.Ask({lang::kCopiesCollideText, lang::kAttentionCaption, MessageStyle::OkStop, {}});
+void ShowNamesCollide(FrontEnd& frontEnd) {
+  frontEnd.Ask({lang::kCopiesCollideText, lang::kAttentionCaption, MessageStyle::OkStop, {}});
 }
 
 // The row stands for its file at its new place. A name given beside a file
 // already there is taken by the pending name too, where none was pending.
-void FollowFile(MainModel& model, FileEntry& row, const std::string& placed) {
+void FollowFile(FileList& list, FileEntry& row, const std::string& placed) {
   const std::string name = NameOf(placed);
   if (row[kColNewName] == row[kColOldName]) row[kColNewName] = name;
   row[kColPath] = FolderOf(placed);
   row[kColOldName] = name;
-  model.list.ChangeKey(row, placed);  // a key held by another row stays with it
+  list.ChangeKey(row, placed);  // a key held by another row stays with it
 }
 
 }  // namespace
@@ -74,10 +73,10 @@ FrmSelAction::FrmSelAction(std::string tag) : tag_(std::move(tag)), mode_(ModeOf
   for (const char* name : {"frameCopy", "lblTargetDir", "cmdOK", "cmdCancel"}) model_.AddNoValue(name);
 }
 
-void FrmSelAction::Activate(MainModel& model) {
-  dialog::RestoreDialogState(model_, tag_, dialog::kSettingsMode, model.script, model.fileSystem, model.frontEnd);
+void FrmSelAction::Activate(const ActionContext& context) {
+  dialog::RestoreDialogState(model_, tag_, dialog::kSettingsMode, context.script, context.fileSystem, context.User());
   if (mode_ == SelActionMode::MoveFiles) model_.SetNumber(kUpdateList, 1);
-  txtTargetPath_Change(model.fileSystem);
+  txtTargetPath_Change(context.fileSystem);
 }
 
 void FrmSelAction::txtTargetPath_Change(platform::FileSystem& fileSystem) {
@@ -91,26 +90,27 @@ void FrmSelAction::cmdSelPath(const std::string& chosenFolder, platform::FileSys
   txtTargetPath_Change(fileSystem);
 }
 
-bool FrmSelAction::cmdOK(MainModel& model, OperationServices& services) {
-  BusyPointer busy(model.frontEnd);
-  const bool done = mode_ == SelActionMode::TakeChanges2 ? CopyForTakeChanges(model, services)
-                                                         : CopyOrMoveSelected(model, services);
+bool FrmSelAction::cmdOK(const ActionContext& context, RowCommitter* committer, OperationServices& services) {
+  BusyPointer busy(context.User());
+  const bool done = mode_ == SelActionMode::TakeChanges2 ? CopyForTakeChanges(context, committer, services)
+                                                         : CopyOrMoveSelected(context, services);
   if (!done) return false;
-  refreshPreview(model);
-  dialog::StoreDialogState(model_, tag_, dialog::kSettingsMode, model.script, model.fileSystem);
+  context.list.preview.Refresh();
+  dialog::StoreDialogState(model_, tag_, dialog::kSettingsMode, context.script, context.fileSystem);
   return true;
 }
 
-bool FrmSelAction::CopyOrMoveSelected(MainModel& model, OperationServices& services) {
-  if (NamesCollide(model, kColOldName, [](const FileEntry& row) { return row.selected; })) {
-    ShowNamesCollide(model);
+bool FrmSelAction::CopyOrMoveSelected(const ActionContext& context, OperationServices& services) {
+  FileList& list = context.State().list;
+  if (NamesCollide(list, kColOldName, [](const FileEntry& row) { return row.selected; })) {
+    ShowNamesCollide(context.User());
     return false;
   }
   const std::string target = AddBackslash(model_.Text(kTargetPath));
   std::vector<std::string> sources;
   std::vector<std::string> targets;
   std::vector<FileEntry*> rows;
-  model.list.ForEach([&](FileEntry& row) {
+  list.ForEach([&](FileEntry& row) {
     if (!row.selected) return;
     sources.push_back(SourceOf(row));
     targets.push_back(target + row[kColOldName]);
@@ -123,23 +123,25 @@ bool FrmSelAction::CopyOrMoveSelected(MainModel& model, OperationServices& servi
   // A row follows its file only where the file was put; a skipped file's
   // row stays with the file it stands for.
   for (std::size_t i = 0; i < rows.size() && i < record.placed.size(); ++i) {
-    if (!record.placed[i].empty()) FollowFile(model, *rows[i], record.placed[i]);
+    if (!record.placed[i].empty()) FollowFile(list, *rows[i], record.placed[i]);
   }
   return true;
 }
 
-bool FrmSelAction::CopyForTakeChanges(MainModel& model, OperationServices& services) {
+bool FrmSelAction::CopyForTakeChanges(const ActionContext& context, RowCommitter* committer,
+                                      OperationServices& services) {
+  FileList& list = context.State().list;
   const bool renameOriginal = model_.IsSelected(kRenOriginal);
   const bool renameBoth = model_.IsSelected(kRenBoth);
   const int copyName = renameOriginal ? kColOldName : kColNewName;
-  if (NamesCollide(model, copyName, [](const FileEntry&) { return true; })) {
-    ShowNamesCollide(model);
+  if (NamesCollide(list, copyName, [](const FileEntry&) { return true; })) {
+    ShowNamesCollide(context.User());
     return false;
   }
   const std::string target = AddBackslash(model_.Text(kTargetPath));
   std::vector<std::string> sources;
   std::vector<std::string> targets;
-  model.list.ForEach([&](const FileEntry& row) {
+  list.ForEach([&](const FileEntry& row) {
     sources.push_back(SourceOf(row));
     targets.push_back(target + row[copyName]);
   });
@@ -147,11 +149,11 @@ bool FrmSelAction::CopyForTakeChanges(MainModel& model, OperationServices& servi
   CopyFileList(JoinPathList(sources), JoinPathList(targets), false, aborted, services);
   // A copy the user stopped is taken like a finished one on purpose: the
   // rename and the list follow all the same, as they always have.
-  if ((renameOriginal || renameBoth) && model.list.Count() > 0) {
-    if (model.committer == nullptr) throw RuntimeFault("The new names can't be taken here");
-    model.committer->CommitAll();
+  if ((renameOriginal || renameBoth) && list.Count() > 0) {
+    if (committer == nullptr) throw RuntimeFault("The new names can't be taken here");
+    committer->CommitAll();
   }
-  model.list.ForEach([&](FileEntry& row) {
+  list.ForEach([&](FileEntry& row) {
     if (renameOriginal) {
       // The originals have their new names; a row that failed loses its pending name.
       row[kColNewName] = row[kColOldName];
@@ -160,7 +162,7 @@ bool FrmSelAction::CopyForTakeChanges(MainModel& model, OperationServices& servi
       row[kColPath] = target;
       row[kColOldName] = row[kColNewName];
     }
-    model.list.ChangeKey(row, row[kColPath] + row[kColOldName]);
+    list.ChangeKey(row, row[kColPath] + row[kColOldName]);
     for (int column = kColHistory0; column <= kColHistoryLast; ++column) row[column].clear();
   });
   return true;

@@ -5,6 +5,13 @@
 // files spell them. "%1", "%2", ... are the arguments a message is given.
 namespace nomra::lang {
 
+// --- The status panel and the selected-script label --------------------------
+inline constexpr char kListSummaryStatus[] = "MsgStat01";  // %1 files, %2 folders, %3 changed
+inline constexpr char kAddingStatus[] = "MsgStat02";       // followed by the running number
+inline constexpr char kRenamedStatus[] = "MsgStat03";      // followed by the running number
+inline constexpr char kNoScriptStatus[] = "MsgStat05";
+inline constexpr char kRowOfCountStatus[] = "MsgStat06";   // %1 the row, %2 how many
+
 // --- Captions --------------------------------------------------------------
 inline constexpr char kPendingChangesCaption[] = "MsgCap03";
 inline constexpr char kRejectChangesCaption[] = "MsgCap04";

@@ -3,7 +3,6 @@
 #include "base/Fault.h"
 #include "base/Paths.h"
 #include "core/AddFile.h"
-#include "core/RefreshPreview.h"
 #include "core/BusyPointer.h"
 #include "open/FolderWalk.h"
 #include "formats/IniFile.h"
@@ -13,21 +12,21 @@ namespace nomra::open {
 
 namespace {
 
-// A stop by the user: what was added so far is shown, and the flag is
+// A stop by the user: what was added so far is shown, and the stop is
 // spent.
-LoadOutcome StopLoading(MainModel& model) {
-  refreshPreview(model);
-  model.cancelLoading = false;
+LoadOutcome StopLoading(ListLoad& load, Preview& preview) {
+  preview.Refresh();
+  load.stopAsked = false;
   return LoadOutcome::Cancelled;
 }
 
 // A path the user chose that names nothing ends the command with a fault;
 // the rows added before it are shown first.
-void AddChosenPath(MainModel& model, std::string path) {
+void AddChosenPath(ListLoad& load, Preview& preview, std::string path) {
   try {
-    AddFile(model, path);
+    AddFile(load, path);
   } catch (const RuntimeFault&) {
-    refreshPreview(model);
+    preview.Refresh();
     throw;
   }
 }
@@ -41,25 +40,25 @@ std::string PatternOf(const std::vector<FilterRow>& filters, int filterIndex) {
 }
 
 // The folder whose files are all taken: a chosen file stands for its folder.
-std::string FolderToTake(MainModel& model, const std::string& chosen) {
-  if (model.fileSystem.Status(chosen).kind == platform::EntryKind::File) return FolderOf(chosen);
+std::string FolderToTake(platform::FileSystem& fileSystem, const std::string& chosen) {
+  if (fileSystem.Status(chosen).kind == platform::EntryKind::File) return FolderOf(chosen);
   return AddBackslash(chosen);
 }
 
 // False when the user stopped the walk.
-bool AddAllFiles(MainModel& model, const std::string& folder, const OpenChoice& choice,
+bool AddAllFiles(ListLoad& load, const std::string& folder, const OpenChoice& choice,
                  const std::vector<FilterRow>& filters, bool showHiddenFiles) {
   const std::string pattern = PatternOf(filters, choice.filterIndex);
   const bool walked = WalkFolders(
-      model.fileSystem, {folder}, choice.subFolders,
+      load.fileSystem, {folder}, choice.subFolders,
       [&](std::size_t, const std::string& current, const std::vector<std::string>& fileNames) {
         for (const std::string& name : fileNames) {
-          if (model.cancelLoading) return false;
+          if (load.stopAsked) return false;
           if (!PassesFilter(name, pattern)) continue;
           if (IsHiddenName(name) && !showHiddenFiles) continue;
           std::string path = current + name;
           try {
-            AddFile(model, path);
+            AddFile(load, path);
           } catch (const RuntimeFault&) {
             // A file that went away during the walk is passed over.
           }
@@ -67,34 +66,34 @@ bool AddAllFiles(MainModel& model, const std::string& folder, const OpenChoice& 
         return true;
       });
   // A stop pressed while the very last file was added counts as well, so
-  // the flag never outlives the load.
-  return walked && !model.cancelLoading;
+  // the stop never outlives the load.
+  return walked && !load.stopAsked;
 }
 
 }  // namespace
 
-LoadOutcome RunOpenChoice(MainModel& model, const OpenChoice& choice, const std::vector<FilterRow>& filters,
+LoadOutcome RunOpenChoice(ListLoad& load, Preview& preview, const OpenChoice& choice, const std::vector<FilterRow>& filters,
                           const formats::IniFile& settingsFile, bool showHiddenFiles) {
   if (choice.paths.empty()) return LoadOutcome::Finished;  // nothing chosen is a dialog cancelled
-  BusyPointer busy(model.frontEnd);
+  BusyPointer busy(load.frontEnd);
 
   std::string lastPath = FolderOf(choice.paths.front());
   if (choice.mode == OpenMode::Files && choice.allFiles) {
-    const std::string folder = FolderToTake(model, choice.paths.front());
+    const std::string folder = FolderToTake(load.fileSystem, choice.paths.front());
     lastPath = folder;
-    if (!AddAllFiles(model, folder, choice, filters, showHiddenFiles)) return StopLoading(model);
+    if (!AddAllFiles(load, folder, choice, filters, showHiddenFiles)) return StopLoading(load, preview);
   } else {
     for (const std::string& path : choice.paths) {
       if (choice.mode == OpenMode::Playlists) {
-        LoadPlaylist(model, path);
+        LoadPlaylist(load, preview, path);
       } else {
-        AddChosenPath(model, path);
+        AddChosenPath(load, preview, path);
       }
-      if (model.cancelLoading) return StopLoading(model);
+      if (load.stopAsked) return StopLoading(load, preview);
     }
   }
 
-  refreshPreview(model);
+  preview.Refresh();
   settingsFile.Write(settings::kSettingsSection, settings::kLastPathKey, lastPath);
   settingsFile.Write(settings::kSettingsSection, settings::kLastFilterKey, choice.filterIndex);
   return LoadOutcome::Finished;

@@ -4,7 +4,8 @@
 
 #include "formats/IniFile.h"
 
-#include "core/MainModel.h"
+#include "core/AddFile.h"
+#include "core/Preview.h"
 #include "open/FilterList.h"
 #include "open/Playlist.h"
 
@@ -28,11 +29,11 @@ struct OpenChoice {
 
 // Carries out what the dialog delivered, from the wait pointer to the saved
 // "lastpath" and "lastfilter" (section "Settings"): files or playlists are
-// added in order with the cancel flag tested after each; with `allFiles`
+// added in order with a stop looked for after each; with `allFiles`
 // the folder's files that pass the filter row and aren't hidden (a name
 // beginning with ".") unless ShowHiddenFiles is on, then, with
 // `subFolders`, those of every folder below, breadth first, unreadable
-// folders passed over. A cancel clears the flag, refreshes and ends without
+// folders passed over. A stop is spent, refreshes and ends without
 // saving "lastpath" or "lastfilter". The refresh runs at the end. The
 // filter row's pattern is tested as one pattern; a `filterIndex` outside
 // the list means row 1. "lastpath" is the folder of the first path through
@@ -41,8 +42,9 @@ struct OpenChoice {
 // the caller passes the index in force for files. A chosen path that is
 // neither file nor folder while CheckExistence is off ends the command with
 // AddFile's RuntimeFault, after the refresh. No path at all changes nothing.
-LoadOutcome RunOpenChoice(MainModel& model, const OpenChoice& choice, const std::vector<FilterRow>& filters,
-                          const formats::IniFile& settingsFile, bool showHiddenFiles);
+LoadOutcome RunOpenChoice(ListLoad& load, Preview& preview, const OpenChoice& choice,
+                          const std::vector<FilterRow>& filters, const formats::IniFile& settingsFile,
+                          bool showHiddenFiles);
 
 // Where the dialogs open next: "lastpath", or the home folder when it is
 // missing or gone (the root when there is no home folder).

@@ -8,7 +8,6 @@
 #include "base/Paths.h"
 #include "base/Utf8.h"
 #include "core/AddFile.h"
-#include "core/RefreshPreview.h"
 #include "formats/IniLines.h"
 
 namespace nomra::open {
@@ -89,20 +88,20 @@ std::vector<std::string> ReadPlaylistEntries(const std::string& playlistPath, pl
   return ReadEntries(playlistPath, fileSystem).value_or(std::vector<std::string>());
 }
 
-LoadOutcome LoadPlaylist(MainModel& model, const std::string& playlistPath) {
-  const auto entries = ReadEntries(playlistPath, model.fileSystem);
+LoadOutcome LoadPlaylist(ListLoad& load, Preview& preview, const std::string& playlistPath) {
+  const auto entries = ReadEntries(playlistPath, load.fileSystem);
   if (!entries) return LoadOutcome::Finished;  // a missing playlist changes nothing, not even the view
 
   for (std::string entry : *entries) {
     try {
-      AddFile(model, entry);
+      AddFile(load, entry);
     } catch (const RuntimeFault&) {
       // An entry that names nothing is passed over.
     }
-    // The caller clears the flag: it may have more to stop.
-    if (model.cancelLoading) return LoadOutcome::Cancelled;
+    // The caller spends the stop: it may have more to stop.
+    if (load.stopAsked) return LoadOutcome::Cancelled;
   }
-  refreshPreview(model);
+  preview.Refresh();
   return LoadOutcome::Finished;
 }
 

@@ -2,7 +2,8 @@
 #include <string>
 #include <vector>
 
-#include "core/MainModel.h"
+#include "core/AddFile.h"
+#include "core/Preview.h"
 
 namespace nomra::open {
 
@@ -20,10 +21,11 @@ std::vector<std::string> ReadPlaylistEntries(const std::string& playlistPath, pl
 
 enum class LoadOutcome { Finished, Cancelled };
 
-// Adds every entry through AddFile, failures ignored. When the cancel flag
-// is set after an entry it returns at once, leaving the flag set and
-// running no refresh; otherwise the refresh runs after the last entry. A
-// missing or unreadable playlist changes nothing, the view included.
-LoadOutcome LoadPlaylist(MainModel& model, const std::string& playlistPath);
+// Adds every entry through AddFile, failures ignored. When the user asked
+// to stop (load.stopAsked) after an entry it returns at once, leaving the
+// stop asked and running no refresh; otherwise the preview is refreshed
+// after the last entry. A missing or unreadable playlist changes nothing,
+// the view included.
+LoadOutcome LoadPlaylist(ListLoad& load, Preview& preview, const std::string& playlistPath);
 
 }  // namespace nomra::open

@@ -3,7 +3,6 @@
 #include "base/Fault.h"
 #include "base/Paths.h"
 #include "core/AddFile.h"
-#include "core/RefreshPreview.h"
 #include "core/BusyPointer.h"
 #include "open/FolderWalk.h"
 #include "open/PowerFilters.h"
@@ -37,14 +36,14 @@ std::vector<std::string> StageFiles(const FolderSelection& selection, platform::
   return staged;
 }
 
-LoadOutcome LoadStagedFiles(MainModel& model, std::vector<std::string>& staged) {
-  BusyPointer busy(model.frontEnd);
+LoadOutcome LoadStagedFiles(ListLoad& load, Preview& preview, std::vector<std::string>& staged) {
+  BusyPointer busy(load.frontEnd);
   LoadOutcome outcome = LoadOutcome::Finished;
   try {
     for (std::string path : staged) {
-      AddFile(model, path);
-      if (model.cancelLoading) {
-        model.cancelLoading = false;
+      AddFile(load, path);
+      if (load.stopAsked) {
+        load.stopAsked = false;
         outcome = LoadOutcome::Cancelled;
         break;
       }
@@ -52,11 +51,11 @@ LoadOutcome LoadStagedFiles(MainModel& model, std::vector<std::string>& staged) 
   } catch (const RuntimeFault&) {
     // A staged path that names nothing ends the load with a fault; what
     // came before it is shown, and nothing stays staged for a later load.
-    refreshPreview(model);
+    preview.Refresh();
     staged.clear();
     throw;
   }
-  refreshPreview(model);
+  preview.Refresh();
   staged.clear();
   return outcome;
 }

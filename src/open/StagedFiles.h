@@ -2,7 +2,8 @@
 #include <string>
 #include <vector>
 
-#include "core/MainModel.h"
+#include "core/AddFile.h"
+#include "core/Preview.h"
 #include "open/Playlist.h"
 
 namespace nomra::open {
@@ -28,11 +29,11 @@ struct FolderSelection {
 // ".") unless showHiddenFiles is on.
 std::vector<std::string> StageFiles(const FolderSelection& selection, platform::FileSystem& fileSystem);
 
-// Adds every staged path through AddFile with the cancel flag tested after
-// each, under the wait pointer; a cancel clears the flag and stops. The
+// Adds every staged path through AddFile with a stop looked for after
+// each, under the wait pointer; a stop is spent and ends the load. The
 // refresh runs either way and the staging list is emptied. A path that is
 // neither file nor folder while CheckExistence is off ends the load with
 // AddFile's RuntimeFault, after the refresh and the emptying.
-LoadOutcome LoadStagedFiles(MainModel& model, std::vector<std::string>& staged);
+LoadOutcome LoadStagedFiles(ListLoad& load, Preview& preview, std::vector<std::string>& staged);
 
 }  // namespace nomra::open

@@ -1,7 +1,7 @@
 #pragma once
 #include <string>
 
-#include "core/MainModel.h"
+#include "rename/ActionContext.h"
 #include "dialog/DialogModel.h"
 
 namespace nomra {
@@ -42,10 +42,10 @@ class ActionDialog {
 
   // The dialog's own checks of its inputs, before anything is stored or
   // changed; false stops the apply (the check has told the user why).
-  virtual bool CheckInputs(MainModel&) { return true; }
+  virtual bool CheckInputs(const ActionContext&) { return true; }
 
   // Rewrites the pending names from the inputs.
-  virtual void Run(MainModel& model) = 0;
+  virtual void Run(const ActionContext& context) = 0;
 
  private:
   dialog::DialogModel model_;

@@ -6,48 +6,48 @@ namespace nomra {
 
 namespace {
 
-void RestoreInputs(ActionDialog& dialog, MainModel& model) {
-  const ScriptSession& session = model.script;
+void RestoreInputs(ActionDialog& dialog, const ActionContext& context) {
+  const ScriptSession& session = context.script;
   if (session.runMode == 1 || session.runMode == 2) {
-    dialog::RestoreDialogState(dialog.Model(), std::to_string(session.runStep), dialog::kScriptMode, session, model.fileSystem, model.frontEnd);
+    dialog::RestoreDialogState(dialog.Model(), std::to_string(session.runStep), dialog::kScriptMode, session, context.fileSystem, context.User());
     return;
   }
   const std::string& section = dialog.Traits().restoreSection;
   if (session.runMode == 0 && session.saveDialogSettings && !section.empty()) {
-    dialog::RestoreDialogState(dialog.Model(), section, dialog::kSettingsMode, session, model.fileSystem, model.frontEnd);
+    dialog::RestoreDialogState(dialog.Model(), section, dialog::kSettingsMode, session, context.fileSystem, context.User());
   }
 }
 
 }  // namespace
 
-void LoadActionDialog(ActionDialog& dialog, MainModel& model) {
-  if (dialog.Traits().restoreMoment == RestoreMoment::OnLoad) RestoreInputs(dialog, model);
+void LoadActionDialog(ActionDialog& dialog, const ActionContext& context) {
+  if (dialog.Traits().restoreMoment == RestoreMoment::OnLoad) RestoreInputs(dialog, context);
 }
 
-bool ActivateActionDialog(ActionDialog& dialog, MainModel& model, bool firstActivation) {
+bool ActivateActionDialog(ActionDialog& dialog, const ActionContext& context, bool firstActivation) {
   if (firstActivation && dialog.Traits().restoreMoment == RestoreMoment::OnFirstActivation) {
-    RestoreInputs(dialog, model);
+    RestoreInputs(dialog, context);
   }
-  return firstActivation && model.script.runMode == 1;
+  return firstActivation && context.script.runMode == 1;
 }
 
-bool ApplyActionDialog(ActionDialog& dialog, MainModel& model) {
-  if (!dialog.CheckInputs(model)) return false;
+bool ApplyActionDialog(ActionDialog& dialog, const ActionContext& context) {
+  if (!dialog.CheckInputs(context)) return false;
   const ActionTraits& traits = dialog.Traits();
-  const ScriptSession& session = model.script;
+  const ScriptSession& session = context.script;
   if (session.saveDialogSettings && session.runMode == 0 && !traits.storeSection.empty()) {
-    dialog::StoreDialogState(dialog.Model(), traits.storeSection, dialog::kSettingsMode, session, model.fileSystem);
+    dialog::StoreDialogState(dialog.Model(), traits.storeSection, dialog::kSettingsMode, session, context.fileSystem);
   }
   if (session.recording == 1 && traits.stepType != 0) {
-    dialog::StoreDialogState(dialog.Model(), std::to_string(traits.stepType), dialog::kScriptMode, session, model.fileSystem);
+    dialog::StoreDialogState(dialog.Model(), std::to_string(traits.stepType), dialog::kScriptMode, session, context.fileSystem);
   }
-  dialog.Run(model);
+  dialog.Run(context);
   return true;
 }
 
-void PlayActionWithoutWindow(ActionDialog& dialog, MainModel& model) {
-  LoadActionDialog(dialog, model);
-  if (ActivateActionDialog(dialog, model, true)) ApplyActionDialog(dialog, model);
+void PlayActionWithoutWindow(ActionDialog& dialog, const ActionContext& context) {
+  LoadActionDialog(dialog, context);
+  if (ActivateActionDialog(dialog, context, true)) ApplyActionDialog(dialog, context);
 }
 
 }  // namespace nomra

@@ -1,5 +1,4 @@
 #pragma once
-#include "core/MainModel.h"
 #include "rename/ActionDialog.h"
 
 namespace nomra {
@@ -8,19 +7,19 @@ namespace nomra {
 
 // Opening: the remembered inputs (no script playing, remembering on) or the
 // step being played, for the dialogs that restore on loading.
-void LoadActionDialog(ActionDialog& dialog, MainModel& model);
+void LoadActionDialog(ActionDialog& dialog, const ActionContext& context);
 
 // Coming to the front; the dialogs that restore then do so the first time.
 // True when a script plays all steps, so the OK handler must run at once.
-bool ActivateActionDialog(ActionDialog& dialog, MainModel& model, bool firstActivation);
+bool ActivateActionDialog(ActionDialog& dialog, const ActionContext& context, bool firstActivation);
 
 // The apply button: the dialog's checks, then its inputs remembered (when
 // no script plays) and recorded (when a recording runs), then the action.
 // False when the checks refused the inputs and nothing was done.
-bool ApplyActionDialog(ActionDialog& dialog, MainModel& model);
+bool ApplyActionDialog(ActionDialog& dialog, const ActionContext& context);
 
 // A whole opening without a window, as a played script passes through a
 // dialog: load, come to the front, and OK when all steps run.
-void PlayActionWithoutWindow(ActionDialog& dialog, MainModel& model);
+void PlayActionWithoutWindow(ActionDialog& dialog, const ActionContext& context);
 
 }  // namespace nomra

@@ -26,7 +26,8 @@ void RemoveScriptFile(platform::FileSystem& fileSystem, const std::string& path)
 
 }  // namespace
 
-ScriptChooser::ScriptChooser(MainModel& model) : model_(model), dialog_("frmScript") {
+ScriptChooser::ScriptChooser(ScriptSession& session, platform::FileSystem& fileSystem, FrontEnd& frontEnd)
+    : session_(session), fileSystem_(fileSystem), frontEnd_(frontEnd), dialog_("frmScript") {
   dialog_.AddNoValue("lblScript");
   dialog_.AddList(kScriptList, {}, false);
   dialog_.AddNoValue(kRunOptions);
@@ -41,7 +42,7 @@ void ScriptChooser::Load() {
   dialog::DialogInput& list = dialog_.At(kScriptList);
   list.rows.clear();
   fileNames_.clear();
-  for (StoredScript& script : ListStoredScripts(model_.fileSystem, model_.script.dataFolder)) {
+  for (StoredScript& script : ListStoredScripts(fileSystem_, session_.dataFolder)) {
     list.rows.push_back(std::move(script.displayText));
     fileNames_.push_back(std::move(script.fileName));
   }
@@ -58,20 +59,20 @@ bool ScriptChooser::Start() {
     DeleteChosen(row);
     return false;
   }
-  dialog::StoreDialogState(dialog_, kChooserSection, dialog::kSettingsMode, model_.script, model_.fileSystem);
-  model_.script.runMode = dialog_.IsSelected(kRunSingleSteps) ? 2 : 1;
-  model_.script.runPath = ScriptFolder(model_.script.dataFolder) + fileNames_[row];
+  dialog::StoreDialogState(dialog_, kChooserSection, dialog::kSettingsMode, session_, fileSystem_);
+  session_.runMode = dialog_.IsSelected(kRunSingleSteps) ? 2 : 1;
+  session_.runPath = ScriptFolder(session_.dataFolder) + fileNames_[row];
   return true;
 }
 
-void ScriptChooser::Cancel() { model_.script.runMode = 0; }
+void ScriptChooser::Cancel() { session_.runMode = 0; }
 
 void ScriptChooser::DeleteChosen(int row) {
   dialog::DialogInput& list = dialog_.At(kScriptList);
   const Answer answer =
-      model_.frontEnd.Ask({lang::kDeleteScriptQuestion, lang::kAttentionCaption, MessageStyle::YesNoDefaultNo, {list.rows[row]}});
+      frontEnd_.Ask({lang::kDeleteScriptQuestion, lang::kAttentionCaption, MessageStyle::YesNoDefaultNo, {list.rows[row]}});
   if (answer != Answer::Yes) return;
-  RemoveScriptFile(model_.fileSystem, ScriptFolder(model_.script.dataFolder) + fileNames_[row]);
+  RemoveScriptFile(fileSystem_, ScriptFolder(session_.dataFolder) + fileNames_[row]);
   list.rows.erase(list.rows.begin() + row);
   fileNames_.erase(fileNames_.begin() + row);
   list.number = -1;

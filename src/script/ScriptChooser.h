@@ -2,7 +2,9 @@
 #include <string>
 #include <vector>
 
-#include "core/MainModel.h"
+#include "core/FrontEnd.h"
+#include "dialog/ScriptSession.h"
+#include "platform/FileSystem.h"
 #include "dialog/DialogModel.h"
 
 namespace nomra {
@@ -11,7 +13,7 @@ namespace nomra {
 // chosen one, or deleting it.
 class ScriptChooser {
  public:
-  explicit ScriptChooser(MainModel& model);
+  ScriptChooser(ScriptSession& session, platform::FileSystem& fileSystem, FrontEnd& frontEnd);
 
   dialog::DialogModel& Model() { return dialog_; }
 
@@ -36,7 +38,9 @@ class ScriptChooser {
  private:
   void DeleteChosen(int row);
 
-  MainModel& model_;
+  ScriptSession& session_;
+  platform::FileSystem& fileSystem_;
+  FrontEnd& frontEnd_;
   dialog::DialogModel dialog_;
   std::vector<std::string> fileNames_;
 };

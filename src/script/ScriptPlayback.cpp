@@ -16,7 +16,6 @@ namespace {
 
 constexpr int kFirstStepType = 1;
 constexpr int kLastStepType = 10;
-constexpr int kNoScriptStatusText = 5;
 
 bool FileExists(platform::FileSystem& fileSystem, const std::string& path) {
   return fileSystem.Status(path).kind == platform::EntryKind::File;
@@ -58,32 +57,31 @@ void PlayScript(ScriptSession& session, platform::FileSystem& fileSystem, const 
   session.runPath.clear();
 }
 
-void PlayStepWithoutWindow(MainModel& model, int stepType) {
+void PlayStepWithoutWindow(const ActionContext& context, int stepType) {
   const std::unique_ptr<ActionDialog> dialog = CreateActionDialog(stepType);
-  if (dialog) PlayActionWithoutWindow(*dialog, model);
+  if (dialog) PlayActionWithoutWindow(*dialog, context);
 }
 
-bool RunSelectedScript(MainModel& model, std::string_view fileName, const StepOpener& openStep) {
-  ScriptSession& session = model.script;
+bool RunSelectedScript(ScriptSession& session, platform::FileSystem& fileSystem, std::string_view fileName,
+                       const StepOpener& openStep) {
   session.runPath = ScriptFolder(session.dataFolder) + std::string(fileName);
-  if (!fileName.empty() && FileExists(model.fileSystem, session.runPath)) {
+  if (!fileName.empty() && FileExists(fileSystem, session.runPath)) {
     session.runMode = 1;
-    PlayScript(session, model.fileSystem, openStep);
+    PlayScript(session, fileSystem, openStep);
     return true;
   }
-  model.selectedScriptLabel = model.statusTexts[kNoScriptStatusText];
   session.runPath.clear();
   return false;
 }
 
-bool RunScriptArgument(MainModel& model, std::string_view text, const StepOpener& openStep) {
-  ScriptSession& session = model.script;
+bool RunScriptArgument(ScriptSession& session, platform::FileSystem& fileSystem, std::string_view text,
+                       const StepOpener& openStep) {
   const std::string name = WithoutDoubleQuotes(text);
   session.runPath = name;
-  if (!FileExists(model.fileSystem, session.runPath)) session.runPath = ScriptFolder(session.dataFolder) + name;
-  if (!FileExists(model.fileSystem, session.runPath)) return false;
+  if (!FileExists(fileSystem, session.runPath)) session.runPath = ScriptFolder(session.dataFolder) + name;
+  if (!FileExists(fileSystem, session.runPath)) return false;
   session.runMode = 1;
-  PlayScript(session, model.fileSystem, openStep);
+  PlayScript(session, fileSystem, openStep);
   return true;
 }
 

@@ -2,7 +2,9 @@
 #include <functional>
 #include <string_view>
 
-#include "core/MainModel.h"
+#include "dialog/ScriptSession.h"
+#include "platform/FileSystem.h"
+#include "rename/ActionContext.h"
 
 namespace nomra {
 
@@ -17,16 +19,18 @@ void PlayScript(ScriptSession& session, platform::FileSystem& fileSystem, const 
 
 // The opener without a window: the step's action dialog restores the step
 // and, when all steps run, applies itself.
-void PlayStepWithoutWindow(MainModel& model, int stepType);
+void PlayStepWithoutWindow(const ActionContext& context, int stepType);
 
 // The "RunSelectedScript" button: plays the script of that file name in
-// the scripts folder when it exists; otherwise the selected-script label
-// shows status text 5 and nothing plays. True when it played.
-bool RunSelectedScript(MainModel& model, std::string_view fileName, const StepOpener& openStep);
+// the scripts folder when it exists; otherwise nothing plays (and the
+// window tells that no script is chosen). True when it played.
+bool RunSelectedScript(ScriptSession& session, platform::FileSystem& fileSystem, std::string_view fileName,
+                       const StepOpener& openStep);
 
 // A script named on the command line (the text behind "/runscript=",
 // quotes and all): a path, or else a name in the scripts folder. A name that
 // can't be found is passed over without a message. True when it played.
-bool RunScriptArgument(MainModel& model, std::string_view text, const StepOpener& openStep);
+bool RunScriptArgument(ScriptSession& session, platform::FileSystem& fileSystem, std::string_view text,
+                       const StepOpener& openStep);
 
 }  // namespace nomra

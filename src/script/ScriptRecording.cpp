@@ -21,23 +21,24 @@ std::string DateTimeText(const std::tm& moment) {
 }
 
 // The name the user gives, or nothing when the recording is discarded.
-std::optional<std::string> AskScriptName(MainModel& model, const LocalClock& clock) {
+std::optional<std::string> AskScriptName(FrontEnd& frontEnd, const LocalClock& clock) {
   for (;;) {
-    std::string answer = model.frontEnd.AskInput({lang::kScriptNamePrompt, lang::kSaveScriptCaption, MessageStyle::OkInformation, {}},
+    std::string answer = frontEnd.AskInput({lang::kScriptNamePrompt, lang::kSaveScriptCaption, MessageStyle::OkInformation, {}},
                                                  DateTimeText(clock()));
     if (!TrimBlanks(answer).empty()) return answer;
-    const Answer discard = model.frontEnd.Ask({lang::kDiscardRecordingQuestion, lang::kSaveScriptCaption, MessageStyle::YesNoDefaultNo, {}});
+    const Answer discard = frontEnd.Ask({lang::kDiscardRecordingQuestion, lang::kSaveScriptCaption, MessageStyle::YesNoDefaultNo, {}});
     if (discard == Answer::Yes) return std::nullopt;
   }
 }
 
 // Two scripts stored within one second would share a name: the later one
 // takes the next free second, so that none replaces another.
-bool MoveIntoScriptFolder(MainModel& model, const std::string& folder, const LocalClock& clock) {
+bool MoveIntoScriptFolder(const ScriptSession& session, platform::FileSystem& fileSystem, const std::string& folder,
+                          const LocalClock& clock) {
   std::tm moment = clock();
   for (int attempt = 0; attempt < 3600; ++attempt) {
     const platform::RenameResult result =
-        model.fileSystem.RenameNoReplace(model.script.tempPath, folder + ScriptFileName(moment));
+        fileSystem.RenameNoReplace(session.tempPath, folder + ScriptFileName(moment));
     if (result.ok) return true;
     if (result.error != EEXIST) return false;
     ++moment.tm_sec;
@@ -59,20 +60,20 @@ void BeginScriptRecording(ScriptSession& session, platform::FileSystem& fileSyst
   formats::IniFile(fileSystem, session.tempPath).Write(kScriptMainSection, kScriptStepsKey, 0L);
 }
 
-bool EndScriptRecording(MainModel& model, const LocalClock& clock) {
-  ScriptSession& session = model.script;
+bool EndScriptRecording(ScriptSession& session, platform::FileSystem& fileSystem, FrontEnd& frontEnd,
+                        const LocalClock& clock) {
   session.recording = 0;
   const std::string folder = ScriptFolder(session.dataFolder);
-  model.fileSystem.MakeFolder(folder, 0777);
+  fileSystem.MakeFolder(folder, 0777);
 
-  const formats::IniFile recorded(model.fileSystem, session.tempPath);
+  const formats::IniFile recorded(fileSystem, session.tempPath);
   if (recorded.ReadInt(kScriptMainSection, kScriptStepsKey) <= 0) return false;
-  const std::optional<std::string> name = AskScriptName(model, clock);
+  const std::optional<std::string> name = AskScriptName(frontEnd, clock);
   if (!name) return false;
   recorded.Write(kScriptMainSection, kScriptNameKey, *name);
-  settings::CompactIniFile(model.fileSystem, session.tempPath, session.dataFolder);
-  if (!MoveIntoScriptFolder(model, folder, clock)) {
-    model.frontEnd.ShowFault("The script could not be stored in " + folder + "; the recording stays in " +
+  settings::CompactIniFile(fileSystem, session.tempPath, session.dataFolder);
+  if (!MoveIntoScriptFolder(session, fileSystem, folder, clock)) {
+    frontEnd.ShowFault("The script could not be stored in " + folder + "; the recording stays in " +
                              session.tempPath + ".");
     return false;
   }

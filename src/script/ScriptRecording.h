@@ -1,7 +1,8 @@
 #pragma once
 #include "base/LocalClock.h"
-#include "core/MainModel.h"
-#include "core/ScriptSession.h"
+#include "core/FrontEnd.h"
+#include "dialog/ScriptSession.h"
+#include "platform/FileSystem.h"
 
 namespace nomra {
 
@@ -17,6 +18,7 @@ void BeginScriptRecording(ScriptSession& session, platform::FileSystem& fileSyst
 // cancelled name is asked again unless the user discards the recording, which
 // leaves "script.tmp" as it is. True when a script was stored, so the
 // caller fills the script menu again.
-bool EndScriptRecording(MainModel& model, const LocalClock& clock);
+bool EndScriptRecording(ScriptSession& session, platform::FileSystem& fileSystem, FrontEnd& frontEnd,
+                        const LocalClock& clock);
 
 }  // namespace nomra

@@ -24,9 +24,9 @@ bool HasSwitch(std::string_view argument, std::string_view name) {
                     [](char expected, char actual) { return expected == AsciiLower(actual); });
 }
 
-bool IsFileOrFolder(MainModel& model, const std::string& path) {
+bool IsFileOrFolder(platform::FileSystem& fileSystem, const std::string& path) {
   if (path.empty()) return false;
-  const platform::EntryKind kind = model.fileSystem.Status(path).kind;
+  const platform::EntryKind kind = fileSystem.Status(path).kind;
   return kind == platform::EntryKind::File || kind == platform::EntryKind::Folder;
 }
 
@@ -71,14 +71,14 @@ std::vector<std::string> ArgumentsFromArgv(int argc, char** argv) {
   return arguments;
 }
 
-void RunCommandLine(const std::vector<std::string>& arguments, MainModel& model, const CommandLineSwitches& switches) {
+void RunCommandLine(const std::vector<std::string>& arguments, ListLoad& load, const CommandLineSwitches& switches) {
   if (arguments.empty()) return;
   const std::size_t endMark = arguments.size() - 1;
   for (std::size_t i = 0; i < endMark; ++i) {
     const std::string& argument = arguments[i];
-    if (IsFileOrFolder(model, argument)) {
+    if (IsFileOrFolder(load.fileSystem, argument)) {
       std::string path = argument;
-      AddFile(model, path);
+      AddFile(load, path);
     } else if (HasSwitch(argument, kOpenFromFileSwitch)) {
       if (switches.openFromFile) switches.openFromFile(WithoutDoubleQuotes(argument.substr(kOpenFromFileSwitch.size())));
     } else if (HasSwitch(argument, kRunScriptSwitch)) {

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/MainModel.h"
+#include "core/AddFile.h"
 
 namespace nomra {
 
@@ -43,6 +43,6 @@ struct CommandLineSwitches {
 // "/runscript=", in any case and with at least one character behind the
 // "=", go to their switch; anything else is passed over in silence. No
 // refresh runs here. A fault of AddFile ends the run and goes to the caller.
-void RunCommandLine(const std::vector<std::string>& arguments, MainModel& model, const CommandLineSwitches& switches);
+void RunCommandLine(const std::vector<std::string>& arguments, ListLoad& load, const CommandLineSwitches& switches);
 
 }  // namespace nomra

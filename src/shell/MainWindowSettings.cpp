@@ -112,7 +112,7 @@ void WriteLayoutOnClose(const MainWindowSettings& s, const formats::IniFile& fil
   file.Write(kMainSection, kWindowHeightKey, s.h);
 }
 
-void WriteSettingsOnClose(const MainWindowSettings& s, const MainModel& model, const formats::IniFile& file) {
+void WriteSettingsOnClose(const MainWindowSettings& s, const ListOptions& options, const formats::IniFile& file) {
   file.Write(kSettingsSection, kSplashKey, s.splash);
   file.Write(kSettingsSection, kButtonBarMainKey, s.btnbarMain);
   file.Write(kSettingsSection, kButtonBarScriptKey, s.btnbarScript);
@@ -125,9 +125,9 @@ void WriteSettingsOnClose(const MainWindowSettings& s, const MainModel& model, c
   file.Write(kFrmOpenSection, kCheckSubKey, s.chkSub);
   file.Write(kFrmOpenSection, kDialogueStyleKey, LastCharacter(s.openFileTag));
   file.Write(kSettingsSection, kRenameStyleKey, LastCharacter(s.takeChangesTag));
-  file.Write(kSettingsSection, kExpertModeKey, FromBoolean(model.expertMode));
-  file.Write(kSettingsSection, kLoadExifDatesKey, FromBoolean(model.loadExifDates));
-  file.Write(kSettingsSection, kCheckExistenceKey, FromBoolean(model.checkExistence));
+  file.Write(kSettingsSection, kExpertModeKey, FromBoolean(options.expertMode));
+  file.Write(kSettingsSection, kLoadExifDatesKey, FromBoolean(options.loadExifDates));
+  file.Write(kSettingsSection, kCheckExistenceKey, FromBoolean(options.checkExistence));
   file.Write(kFrmOpenSection, kShowHiddenFilesKey, FromBoolean(s.showHiddenFiles));
 }
 

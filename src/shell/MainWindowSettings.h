@@ -4,7 +4,7 @@
 
 #include "core/FrontEnd.h"
 #include "formats/IniFile.h"
-#include "core/MainModel.h"
+#include "core/ListOptions.h"
 
 namespace nomra {
 
@@ -16,7 +16,7 @@ inline constexpr long kDefaultDialogForeColor = 0;
 // when it closes, in the form the settings file keeps it. -1 stands for a
 // missing key wherever a missing key means "leave the control as it is".
 // The flags that the list itself needs (ExpertMode, LoadEXIFDates,
-// CheckExistence, protren, secquest1 to secquest3) live in MainModel.
+// CheckExistence, protren, secquest1 to secquest3) are the ListOptions.
 struct MainWindowSettings {
   // Section "Main". Widths and places are in twips; index 0 is head 1.
   std::array<long, kColumnHeadCount> columnWidths{-1, -1, -1, -1, -1, -1, -1, -1};
@@ -75,7 +75,8 @@ void WriteLayoutOnClose(const MainWindowSettings& settings, const formats::IniFi
 // PreviewSortOrder, the assistant's Visible, BackColor, ForeColor, chkAll,
 // chkSub, DialogueStyle, RenameStyle, ExpertMode, LoadEXIFDates,
 // CheckExistence and ShowHiddenFiles, in this order.
-void WriteSettingsOnClose(const MainWindowSettings& settings, const MainModel& model, const formats::IniFile& settingsFile);
+void WriteSettingsOnClose(const MainWindowSettings& settings, const ListOptions& options,
+                          const formats::IniFile& settingsFile);
 
 // The width of a column head (1 to 8) whose width is missing: 3000 for the
 // names and the folder, 1800 for the three before the size, 1400 for the

@@ -13,11 +13,11 @@ namespace {
 
 // A flag of the settings; a value that isn't a number is shown and the
 // default stands, so one bad line can't stop the program.
-bool ReadFlag(MainModel& model, const formats::IniFile& file, const char* section, const char* key, bool fallback) {
+bool ReadFlag(FrontEnd& frontEnd, const formats::IniFile& file, const char* section, const char* key, bool fallback) {
   try {
     return ToBoolean(file.ReadInt(section, key), fallback);
   } catch (const RuntimeFault& fault) {
-    model.frontEnd.ShowFault(fault.what());
+    frontEnd.ShowFault(fault.what());
     return fallback;
   }
 }
@@ -45,22 +45,25 @@ StartupPaths PrepareStartup(platform::FileSystem& fileSystem, platform::DataLoca
   return paths;
 }
 
-void LoadStartupSettings(MainModel& model, const StartupPaths& paths) {
+void LoadStartupSettings(const StartupPaths& paths, const StartupTarget& target) {
   using namespace settings;
-  const formats::IniFile file(model.fileSystem, paths.settingsPath);
-  model.securityQuestions[0] = ReadFlag(model, file, kSettingsSection, kSecurityQuestion1Key, false);
-  model.securityQuestions[1] = ReadFlag(model, file, kSettingsSection, kSecurityQuestion2Key, false);
-  model.securityQuestions[2] = ReadFlag(model, file, kSettingsSection, kSecurityQuestion3Key, false);
-  model.expertMode = ReadFlag(model, file, kSettingsSection, kExpertModeKey, false);
-  model.checkExistence = ReadFlag(model, file, kSettingsSection, kCheckExistenceKey, false);
-  model.loadExifDates = ReadFlag(model, file, kSettingsSection, kLoadExifDatesKey, true);
-  model.protocolRenames = ReadFlag(model, file, kSettingsSection, kProtocolRenamesKey, false);
-  model.dataFolder = paths.dataFolder;
-  model.script.dataFolder = paths.dataFolder;
-  model.script.settingsPath = paths.settingsPath;
-  model.script.saveDialogSettings = ReadFlag(model, file, kSettingsSection, kSaveDialogSettingsKey, false);
-  model.script.tempPath = paths.dataFolder + kScriptTempFileName;
-  if (paths.dataFolderUsable) CreateProtocolIfMissing(model.fileSystem, paths.dataFolder);
+  const formats::IniFile file(target.fileSystem, paths.settingsPath);
+  FrontEnd& frontEnd = target.frontEnd;
+  ListOptions& options = target.options;
+  options.securityQuestions[0] = ReadFlag(frontEnd, file, kSettingsSection, kSecurityQuestion1Key, false);
+  options.securityQuestions[1] = ReadFlag(frontEnd, file, kSettingsSection, kSecurityQuestion2Key, false);
+  options.securityQuestions[2] = ReadFlag(frontEnd, file, kSettingsSection, kSecurityQuestion3Key, false);
+  options.expertMode = ReadFlag(frontEnd, file, kSettingsSection, kExpertModeKey, false);
+  options.checkExistence = ReadFlag(frontEnd, file, kSettingsSection, kCheckExistenceKey, false);
+  options.loadExifDates = ReadFlag(frontEnd, file, kSettingsSection, kLoadExifDatesKey, true);
+  options.protocolRenames = ReadFlag(frontEnd, file, kSettingsSection, kProtocolRenamesKey, false);
+  options.dataFolder = paths.dataFolder;
+  ScriptSession& script = target.script;
+  script.dataFolder = paths.dataFolder;
+  script.settingsPath = paths.settingsPath;
+  script.saveDialogSettings = ReadFlag(frontEnd, file, kSettingsSection, kSaveDialogSettingsKey, false);
+  script.tempPath = paths.dataFolder + kScriptTempFileName;
+  if (paths.dataFolderUsable) CreateProtocolIfMissing(target.fileSystem, paths.dataFolder);
 }
 
 }  // namespace nomra

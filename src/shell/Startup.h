@@ -1,7 +1,9 @@
 #pragma once
 #include <string>
 
-#include "core/MainModel.h"
+#include "core/FrontEnd.h"
+#include "core/ListOptions.h"
+#include "dialog/ScriptSession.h"
 #include "platform/DataLocations.h"
 #include "platform/FileSystem.h"
 
@@ -19,9 +21,18 @@ struct StartupPaths {
 StartupPaths PrepareStartup(platform::FileSystem& fileSystem, platform::DataLocations& locations,
                             const std::string& dataFolderOverride);
 
-// Reads the flags the list needs from the settings into the model and creates
-// the rename protocol when it is missing. A value that isn't a number is
-// shown as a fault and the default is used instead; the start goes on.
-void LoadStartupSettings(MainModel& model, const StartupPaths& paths);
+// Where the start-up settings go, and what reading them needs.
+struct StartupTarget {
+  platform::FileSystem& fileSystem;
+  FrontEnd& frontEnd;   // a value that isn't a number is shown as a fault
+  ListOptions& options;
+  ScriptSession& script;
+};
+
+// Reads the flags the list and the dialogs need from the settings and
+// creates the rename protocol when it is missing. A value that isn't a
+// number is shown as a fault and the default is used instead; the start
+// goes on.
+void LoadStartupSettings(const StartupPaths& paths, const StartupTarget& target);
 
 }  // namespace nomra

@@ -5,8 +5,8 @@
 
 namespace nomra {
 
-void ApplyStructure(MainModel& model, std::string_view structure) {
-  RewritePendingNames(model, [&](int row, const FileEntry&) { return EvaluateStructure(model, row, structure); });
+void ApplyStructure(const ActionContext& context, std::string_view structure) {
+  RewritePendingNames(context, [&](int, FileEntry& row) { return EvaluateStructure(row, structure); });
 }
 
 }  // namespace nomra

@@ -1,12 +1,12 @@
 #pragma once
 #include <string_view>
 
-#include "core/MainModel.h"
+#include "rename/ActionContext.h"
 
 namespace nomra {
 
 // Sets the pending name of every row in scope to what the name structure
 // gives for that row.
-void ApplyStructure(MainModel& model, std::string_view structure);
+void ApplyStructure(const ActionContext& context, std::string_view structure);
 
 }  // namespace nomra

@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/MainModel.h"
+#include "core/FileEntry.h"
 
 namespace nomra {
 
@@ -17,15 +17,15 @@ class MetadataSteps {
 
   // EXIF data of a JPEG (the load, then the tags), when s holds "<EXIF" or
   // "<DT" while the row has no EXIF date yet.
-  virtual void ExifTags(MainModel&, int /*row*/, std::string_view /*pending*/, std::string& /*s*/) const {}
+  virtual void ExifTags(FileEntry& /*row*/, std::string_view /*pending*/, std::string& /*s*/) const {}
   // The fields of an SMS message file, when s holds "<SMS".
-  virtual void SmsTags(MainModel&, int /*row*/, std::string& /*s*/) const {}
+  virtual void SmsTags(FileEntry& /*row*/, std::string& /*s*/) const {}
   // The <DT( tags: the file's dates in a chosen format.
-  virtual void DateTags(MainModel&, int /*row*/, std::string& /*s*/) const {}
+  virtual void DateTags(FileEntry& /*row*/, std::string& /*s*/) const {}
   // Short names and the CRC-32, each computed only when its tag is there.
-  virtual void ShortNameAndChecksumTags(MainModel&, int /*row*/, std::string& /*s*/) const {}
+  virtual void ShortNameAndChecksumTags(FileEntry& /*row*/, std::string& /*s*/) const {}
   // ID3 tags and MPEG data of an MP3, when s holds "<ID3_" or "<MP3_".
-  virtual void Id3AndMpegTags(MainModel&, int /*row*/, std::string& /*s*/) const {}
+  virtual void Id3AndMpegTags(FileEntry& /*row*/, std::string& /*s*/) const {}
 };
 
 // The steps as they stand until their readers exist: every tag stays.

@@ -26,7 +26,7 @@ std::vector<std::string> PartNumbers() {
 
 }  // namespace
 
-NamePartPicker::NamePartPicker(MainModel& model) : model_(model), dialog_("frmSelNamePart") {
+NamePartPicker::NamePartPicker(const FileList& list) : list_(list), dialog_("frmSelNamePart") {
   dialog_.AddNoValue("lblSeparator");
   dialog_.AddText(kSeparatorInput);
   dialog_.AddNoValue("lblPartCount");
@@ -45,7 +45,7 @@ NamePartPicker::NamePartPicker(MainModel& model) : model_(model), dialog_("frmSe
 }
 
 void NamePartPicker::Load(std::string_view target) {
-  FitPreviewScrollBar(dialog_, model_);
+  FitPreviewScrollBar(dialog_, list_);
   if (HoldsTagNoCase(target, kTag)) {
     const TagArguments args = ParseTagArguments(target, kTag);
     if (!args.empty()) dialog_.SetText(kSeparatorInput, StripQuotes(args[0]));
@@ -87,7 +87,7 @@ std::string NamePartPicker::TagText() const {
 }
 
 void NamePartPicker::RefreshPreview() {
-  const FileEntry* entry = PreviewEntry(dialog_, model_);
+  const FileEntry* entry = PreviewEntry(dialog_, list_);
   dialog_.SetText(kFileNameInput, entry == nullptr ? std::string() : (*entry)[kColNewName]);
   if (entry == nullptr || !OkEnabled()) {
     dialog_.SetText(kResultInput, {});

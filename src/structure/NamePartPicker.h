@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/MainModel.h"
+#include "core/FileList.h"
 #include "dialog/DialogModel.h"
 
 namespace nomra {
@@ -13,7 +13,7 @@ namespace nomra {
 // and gives back the text its OK writes there.
 class NamePartPicker {
  public:
-  explicit NamePartPicker(MainModel& model);
+  explicit NamePartPicker(const FileList& list);
 
   dialog::DialogModel& Model() { return dialog_; }
   const dialog::DialogModel& Model() const { return dialog_; }
@@ -37,7 +37,7 @@ class NamePartPicker {
   void RefreshPreview();
 
  private:
-  MainModel& model_;
+  const FileList& list_;
   dialog::DialogModel dialog_;
 };
 

@@ -26,8 +26,8 @@ bool HoldsText(const std::string& text) { return !TrimBlanks(text).empty(); }
 
 }  // namespace
 
-NameStructureEditor::NameStructureEditor(MainModel& model, const lang::MessageCatalog& catalog)
-    : model_(model), catalog_(catalog), dialog_("frmNameStructure") {
+NameStructureEditor::NameStructureEditor(const ActionContext& context, const lang::MessageCatalog& catalog)
+    : context_(context), catalog_(catalog), dialog_("frmNameStructure") {
   for (const char* name : {"frameMain", "lstStructures", "cmdStructureAdd", "cmdStructureEdit", "cmdStructureDel",
                            "frameEdit", "lblName"}) {
     dialog_.AddNoValue(name);
@@ -46,14 +46,14 @@ NameStructureEditor::NameStructureEditor(MainModel& model, const lang::MessageCa
   AddFrameButtons(dialog_);
 }
 
-std::string NameStructureEditor::StructuresFile() const { return StructuresFilePath(model_.dataFolder); }
+std::string NameStructureEditor::StructuresFile() const { return StructuresFilePath(context_.script.dataFolder); }
 
 void NameStructureEditor::Load() {
   loading_ = true;
-  structures_ = LoadStoredStructures(model_.fileSystem, StructuresFile());
+  structures_ = LoadStoredStructures(context_.fileSystem, StructuresFile());
   elements_ = ElementChoices(catalog_);
   functions_ = FunctionChoices(catalog_);
-  FitPreviewScrollBar(dialog_, model_);
+  FitPreviewScrollBar(dialog_, context_.State().list);
   mode_ = StructureEditMode::None;
   Choose(structures_.empty() ? -1 : 0);
   loading_ = false;
@@ -88,7 +88,7 @@ void NameStructureEditor::SetPreviewRow(int row) {
 
 void NameStructureEditor::RefreshPreview() {
   if (loading_) return;
-  const FileEntry* entry = PreviewEntry(dialog_, model_);
+  const FileEntry* entry = PreviewEntry(dialog_, context_.State().list);
   if (entry == nullptr) {
     dialog_.SetText(kFileNameInput, {});
     dialog_.SetText(kResultInput, {});
@@ -99,7 +99,7 @@ void NameStructureEditor::RefreshPreview() {
   // key typed would be in the way of mending it.
   std::string result;
   try {
-    result = EvaluateStructure(model_, dialog_.Number(kPreviewScrollBar), dialog_.Text(kStructureInput));
+    result = EvaluateStructure(context_.State().list.Item(dialog_.Number(kPreviewScrollBar)), dialog_.Text(kStructureInput));
   } catch (const RuntimeFault& fault) {
     result = fault.what();
   }
@@ -119,7 +119,7 @@ void NameStructureEditor::Edit() {
 
 void NameStructureEditor::Delete() {
   if (chosen_ < 0) return;
-  const Answer answer = model_.frontEnd.Ask(
+  const Answer answer = context_.User().Ask(
       {lang::kRemoveStructureQuestion, lang::kRemoveStructureCaption, MessageStyle::YesNoDefaultNo, {structures_[chosen_].name}});
   if (answer != Answer::Yes) return;
   structures_.erase(structures_.begin() + chosen_);
@@ -146,12 +146,12 @@ void NameStructureEditor::CancelEdit() {
 }
 
 bool NameStructureEditor::Apply() {
-  SaveStoredStructures(model_.fileSystem, StructuresFile(), structures_);
+  SaveStoredStructures(context_.fileSystem, StructuresFile(), structures_);
   if (!CheckStructure()) {
     if (!Editing()) mode_ = chosen_ >= 0 ? StructureEditMode::Edit : StructureEditMode::Add;
     return false;
   }
-  if (chosen_ >= 0) ApplyStructure(model_, structures_[chosen_].structure);
+  if (chosen_ >= 0) ApplyStructure(context_, structures_[chosen_].structure);
   return true;
 }
 
@@ -161,16 +161,16 @@ bool NameStructureEditor::CheckStructure() {
   const SyntaxTexts texts{catalog_.GetText(lang::kMessagesSection, lang::kCheckInputQuestion),
                           catalog_.GetText(lang::kMessagesSection, lang::kCorrectSyntaxText)};
   try {
-    lastFailure_ = CheckStructureSyntax(model_, dialog_.Text(kStructureInput), texts);
+    lastFailure_ = CheckStructureSyntax(context_.State().list, dialog_.Text(kStructureInput), texts);
   } catch (const RuntimeFault& fault) {
     // The test evaluation met one of the language's faults: the structure
     // can't be used as it stands.
     lastFailure_ = SyntaxFailure{};
-    model_.frontEnd.ShowFault(fault.what());
+    context_.User().ShowFault(fault.what());
     return false;
   }
   if (!lastFailure_) return true;
-  model_.frontEnd.Ask(lastFailure_->message);
+  context_.User().Ask(lastFailure_->message);
   return false;
 }
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "core/MainModel.h"
+#include "rename/ActionContext.h"
 #include "dialog/DialogModel.h"
 #include "lang/MessageCatalog.h"
 #include "structure/StoredStructures.h"
@@ -21,7 +21,7 @@ enum class StructureEditMode { None, Add, Edit };
 // records no script step.
 class NameStructureEditor {
  public:
-  NameStructureEditor(MainModel& model, const lang::MessageCatalog& catalog);
+  NameStructureEditor(const ActionContext& context, const lang::MessageCatalog& catalog);
 
   dialog::DialogModel& Model() { return dialog_; }
   const dialog::DialogModel& Model() const { return dialog_; }
@@ -85,7 +85,7 @@ class NameStructureEditor {
   void ShowChosen();
   std::string StructuresFile() const;
 
-  MainModel& model_;
+  ActionContext context_;
   const lang::MessageCatalog& catalog_;
   dialog::DialogModel dialog_;
   std::vector<StoredStructure> structures_;

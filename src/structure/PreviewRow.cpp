@@ -6,17 +6,17 @@ namespace nomra {
 
 void AddPreviewScrollBar(dialog::DialogModel& dialog) { dialog.AddScrollBar(kPreviewScrollBar, 1, 1); }
 
-void FitPreviewScrollBar(dialog::DialogModel& dialog, const MainModel& model) {
+void FitPreviewScrollBar(dialog::DialogModel& dialog, const FileList& list) {
   dialog::DialogInput& bar = dialog.At(kPreviewScrollBar);
   bar.minimum = 1;
-  bar.maximum = std::max(1, model.list.Count());
+  bar.maximum = std::max(1, list.Count());
   bar.number = 1;
 }
 
-const FileEntry* PreviewEntry(const dialog::DialogModel& dialog, const MainModel& model) {
+const FileEntry* PreviewEntry(const dialog::DialogModel& dialog, const FileList& list) {
   const int row = dialog.Number(kPreviewScrollBar);
-  if (row < 1 || row > model.list.Count()) return nullptr;
-  return &model.list.Item(row);
+  if (row < 1 || row > list.Count()) return nullptr;
+  return &list.Item(row);
 }
 
 }  // namespace nomra

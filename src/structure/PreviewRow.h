@@ -1,5 +1,5 @@
 #pragma once
-#include "core/MainModel.h"
+#include "core/FileList.h"
 #include "dialog/DialogModel.h"
 
 namespace nomra {
@@ -13,9 +13,9 @@ void AddPreviewScrollBar(dialog::DialogModel& dialog);
 
 // Fits VScroll1's range to the list as it is now (1 to 1 for an empty list)
 // and puts it on row 1.
-void FitPreviewScrollBar(dialog::DialogModel& dialog, const MainModel& model);
+void FitPreviewScrollBar(dialog::DialogModel& dialog, const FileList& list);
 
 // The row VScroll1 points at; nullptr when the list has no such row.
-const FileEntry* PreviewEntry(const dialog::DialogModel& dialog, const MainModel& model);
+const FileEntry* PreviewEntry(const dialog::DialogModel& dialog, const FileList& list);
 
 }  // namespace nomra

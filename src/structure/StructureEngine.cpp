@@ -21,8 +21,7 @@ const MetadataSteps& NoMetadataReaders() {
 
 // One fixed series of textual steps, each open to what the ones before it
 // put in; the order and what each leaves behind are the language.
-std::string EvaluateStructure(MainModel& model, int row, std::string_view structure, const MetadataSteps& metadata) {
-  const FileEntry& entry = model.list.Item(row);
+std::string EvaluateStructure(FileEntry& entry, std::string_view structure, const MetadataSteps& metadata) {
   const std::string pending = entry[kColNewName];
   std::string s(structure.empty() ? std::string_view(pending) : structure);
 
@@ -30,13 +29,13 @@ std::string EvaluateStructure(MainModel& model, int row, std::string_view struct
   ReplaceNameTags(s, pending);
   ReplaceExtensionTags(s, pending);
 
-  metadata.ExifTags(model, row, pending, s);
-  if (HoldsTagNoCase(s, "<SMS")) metadata.SmsTags(model, row, s);
-  metadata.DateTags(model, row, s);
-  metadata.ShortNameAndChecksumTags(model, row, s);
+  metadata.ExifTags(entry, pending, s);
+  if (HoldsTagNoCase(s, "<SMS")) metadata.SmsTags(entry, s);
+  metadata.DateTags(entry, s);
+  metadata.ShortNameAndChecksumTags(entry, s);
   // Reading an MP3 for every row is what these tags cost; without them no file is opened.
   if (s.find("<ID3_") != std::string::npos || s.find("<MP3_") != std::string::npos) {
-    metadata.Id3AndMpegTags(model, row, s);
+    metadata.Id3AndMpegTags(entry, s);
   }
 
   ResolveIntCharPair(s);

@@ -2,17 +2,17 @@
 #include <string>
 #include <string_view>
 
-#include "core/MainModel.h"
+#include "core/FileEntry.h"
 #include "structure/MetadataSteps.h"
 
 namespace nomra {
 
-// The new name (stem and extension) that a name structure gives for row
-// `row` (1-based), by the language's fixed series of substitutions. An empty
-// structure takes the row's pending name as the structure. Nothing is
-// written to the row but, at most, its EXIF date. Throws RuntimeFault at
-// the language's run-time faults.
-std::string EvaluateStructure(MainModel& model, int row, std::string_view structure,
+// The new name (stem and extension) that a name structure gives for a row,
+// by the language's fixed series of substitutions. An empty structure takes
+// the row's pending name as the structure. Nothing is written to the row
+// but, at most, its EXIF date. Throws RuntimeFault at the language's
+// run-time faults.
+std::string EvaluateStructure(FileEntry& row, std::string_view structure,
                               const MetadataSteps& metadata = NoMetadataReaders());
 
 }  // namespace nomra

@@ -69,14 +69,14 @@ std::optional<SyntaxFailure> CheckCaseBrackets(std::string_view text, std::strin
   return Failure(lang::kStructureError4, {opening, closing, kLineBreaks + texts.correctSyntax});
 }
 
-std::optional<SyntaxFailure> CheckStructureSyntax(MainModel& model, std::string_view structure,
+std::optional<SyntaxFailure> CheckStructureSyntax(FileList& list, std::string_view structure,
                                                   const SyntaxTexts& texts) {
   if (auto failure = CheckBracketWalk(structure, texts)) return failure;
   for (const std::string_view code : kCheckedCaseCodes) {
     if (auto failure = CheckCaseBrackets(structure, code, texts)) return failure;
   }
-  if (model.list.Count() == 0) return std::nullopt;
-  const std::string result = EvaluateStructure(model, 1, structure);
+  if (list.Count() == 0) return std::nullopt;
+  const std::string result = EvaluateStructure(list.Item(1), structure);
   if (result.find_first_of("<>") == std::string::npos) return std::nullopt;
   return Failure(lang::kStructureError3, {texts.checkInput + kLineBreaks + texts.correctSyntax});
 }

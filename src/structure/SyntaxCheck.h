@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "core/FrontEnd.h"
-#include "core/MainModel.h"
+#include "core/FileList.h"
 
 namespace nomra {
 
@@ -35,7 +35,7 @@ std::optional<SyntaxFailure> CheckCaseBrackets(std::string_view text, std::strin
 // brackets must pair up, and a test evaluation on row 1 must leave no "<" or
 // ">". An empty list has no row to test on, so that step is left out there.
 // A run-time fault of the test evaluation is thrown on to the caller.
-std::optional<SyntaxFailure> CheckStructureSyntax(MainModel& model, std::string_view structure,
+std::optional<SyntaxFailure> CheckStructureSyntax(FileList& list, std::string_view structure,
                                                   const SyntaxTexts& texts);
 
 }  // namespace nomra

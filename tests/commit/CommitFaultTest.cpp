@@ -81,8 +81,8 @@ TEST_F(CommitFaults, NameTakenAfterThePlanIsNeverOverwritten) {
   const std::string temporary = PathOf("x") + std::string(kTemporaryMark);
   EXPECT_EQ(ReadWholeFile(temporary), "content of a");
   EXPECT_FALSE(Exists(PathOf("a")));
-  EXPECT_EQ(model.list.Count(), 1);
-  EXPECT_EQ(model.list.Item(1).key, temporary);
+  EXPECT_EQ(state.list.Count(), 1);
+  EXPECT_EQ(state.list.Item(1).key, temporary);
 }
 
 TEST_F(CommitFaults, RowAheadThatFailsLeavesTheRowBehindUnderItsTemporaryName) {

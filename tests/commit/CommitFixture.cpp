@@ -6,7 +6,6 @@
 
 #include "commit/RenameFiles.h"
 #include "core/AddFile.h"
-#include "core/RefreshPreview.h"
 
 namespace nomra::testing {
 
@@ -22,17 +21,17 @@ std::tm FixedLocalTime() {
 }
 
 CommitTest::CommitTest() {
-  model.statusTexts[1] = "%1 files in %2 folders, %3 changed";
-  model.statusTexts[3] = "Renamed";
-  model.dataFolder = data.Path();
+  texts.listSummary = "%1 files in %2 folders, %3 changed";
+  texts.renamed = "Renamed";
+  options.dataFolder = data.Path();
   fileSystem.ownFolder = data.Path();
 }
 
 FileEntry& CommitTest::AddRow(const std::string& name, const std::string& content) {
   std::string path = files.WriteFile(name, content.empty() ? "content of " + name : content);
-  AddFile(model, path);
-  refreshPreview(model);
-  FileEntry* row = model.list.Find(path);
+  AddFile(load, path);
+  preview.Refresh();
+  FileEntry* row = state.list.Find(path);
   if (row == nullptr) throw std::runtime_error("no row for " + path);
   return *row;
 }
@@ -42,8 +41,8 @@ void CommitTest::AddForeignFile(const std::string& name, const std::string& cont
 }
 
 FileEntry& CommitTest::Row(const std::string& oldName) {
-  for (int position = 1; position <= model.list.Count(); ++position) {
-    FileEntry& row = model.list.Item(position);
+  for (int position = 1; position <= state.list.Count(); ++position) {
+    FileEntry& row = state.list.Item(position);
     if (row[kColOldName] == oldName) return row;
   }
   throw std::runtime_error("no row named " + oldName);
@@ -51,18 +50,18 @@ FileEntry& CommitTest::Row(const std::string& oldName) {
 
 void CommitTest::Rename(const std::string& oldName, const std::string& newName) {
   Row(oldName)[kColNewName] = newName;
-  refreshPreview(model);
+  preview.Refresh();
 }
 
 CommitResult CommitTest::CommitAll() {
-  CommitResult result = mdlRenameFiles(model, kWholeList, FixedLocalTime);
-  refreshPreview(model);
+  CommitResult result = mdlRenameFiles(Commit(), kWholeList, FixedLocalTime);
+  preview.Refresh();
   return result;
 }
 
 CommitResult CommitTest::CommitRow(int position) {
-  CommitResult result = mdlRenameFiles(model, position, FixedLocalTime);
-  refreshPreview(model);
+  CommitResult result = mdlRenameFiles(Commit(), position, FixedLocalTime);
+  preview.Refresh();
   return result;
 }
 
@@ -83,15 +82,9 @@ std::multiset<std::string> CommitTest::Contents() const {
 
 std::vector<std::string> CommitTest::Keys() {
   std::vector<std::string> keys;
-  model.list.ForEach([&](const FileEntry& row) { keys.push_back(row.key); });
+  state.list.ForEach([&](const FileEntry& row) { keys.push_back(row.key); });
   std::sort(keys.begin(), keys.end());
   return keys;
-}
-
-std::vector<std::string> CommitTest::Column(int column) {
-  std::vector<std::string> values;
-  model.list.ForEach([&](const FileEntry& row) { values.push_back(row[column]); });
-  return values;
 }
 
 std::vector<std::string> CommitTest::TextKeys(const CommitResult& result) {

@@ -8,9 +8,8 @@
 
 #include "commit/CommitFileSystem.h"
 #include "commit/CommitResult.h"
-#include "core/MainModel.h"
-#include "support/ScriptedFrontEnd.h"
-#include "support/TempFolder.h"
+#include "base/Quoting.h"
+#include "support/ListFixture.h"
 
 namespace nomra::testing {
 
@@ -20,7 +19,7 @@ std::tm FixedLocalTime();
 // A list over real files, a data folder of its own and a file system that
 // logs every rename; each file holds a text of its own, so a test can tell
 // where each one went.
-class CommitTest : public ::testing::Test {
+class CommitTest : public ListTestOver<CommitFileSystem> {
  protected:
   CommitTest();
 
@@ -43,21 +42,15 @@ class CommitTest : public ::testing::Test {
   std::vector<std::string> NamesOnDisk() const;
   std::string ContentOf(const std::string& name) const { return ReadWholeFile(PathOf(name)); }
   std::vector<std::string> Keys();
-  std::vector<std::string> Column(int column);
   std::string ProtocolPath() const { return data.Path() + "renamed.nrp"; }
   std::string JournalPath() const { return data.Path() + "commit.journal"; }
   // What the files of the folder hold, whatever their names.
   std::multiset<std::string> Contents() const;
 
   static std::vector<std::string> TextKeys(const CommitResult& result);
-  static std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
 
   TempFolder files;
   TempFolder data;
-  CommitFileSystem fileSystem;
-  ScriptedFrontEnd frontEnd;
-  NoExifDates noExif;
-  MainModel model{fileSystem, frontEnd, noExif};
 };
 
 }  // namespace nomra::testing

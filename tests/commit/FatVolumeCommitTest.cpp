@@ -23,8 +23,8 @@
 #include "commit/RandomBatch.h"
 #include "commit/RenameFiles.h"
 #include "core/AddFile.h"
-#include "core/RefreshPreview.h"
 #include "platform/posix/PosixFileSystem.h"
+#include "support/ListFixture.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
 
@@ -37,11 +37,11 @@ constexpr char kDriverLosesFiles[] =
     "this FAT driver refuses a rename to a name ending in the temporary mark and loses the file it was asked "
     "to rename, so no commit through a temporary name can keep every file here";
 
-class FatVolumeCommit : public ::testing::Test {
+class FatVolumeCommit : public ListTestOver<CommitFileSystem> {
  protected:
   FatVolumeCommit() {
-    model.statusTexts[3] = "Renamed";
-    model.dataFolder = data.Path();
+    texts.renamed = "Renamed";
+    options.dataFolder = data.Path();
     fileSystem.ownFolder = data.Path();
   }
 
@@ -74,12 +74,12 @@ class FatVolumeCommit : public ::testing::Test {
 
   // Loads the file at `path` as the next row and gives it a pending name.
   FileEntry& AddRow(std::string path, const std::string& newName) {
-    AddFile(model, path);
-    refreshPreview(model);
-    FileEntry* row = model.list.Find(path);
+    AddFile(load, path);
+    preview.Refresh();
+    FileEntry* row = state.list.Find(path);
     if (row == nullptr) throw std::runtime_error("no row for " + path);
     (*row)[kColNewName] = newName;
-    refreshPreview(model);
+    preview.Refresh();
     return *row;
   }
 
@@ -123,10 +123,6 @@ class FatVolumeCommit : public ::testing::Test {
   TempFolder work;
   TempFolder data;
   FatVolume volume;
-  CommitFileSystem fileSystem;  // the real rule of the folder: CaseMode::Sensitive
-  ScriptedFrontEnd frontEnd;
-  NoExifDates noExif;
-  MainModel model{fileSystem, frontEnd, noExif};
 };
 
 TEST_F(FatVolumeCommit, TheVolumeIsFoundToIgnoreCase) {
@@ -182,8 +178,8 @@ TEST_F(FatVolumeCommit, AChangeOfCaseAloneLeavesTheNewSpellingOnDisk) {
   WriteFileAt(folder + "n1", "content of n1");
   FileEntry& row = AddRow(folder + "n1", "N1");
 
-  const CommitResult result = mdlRenameFiles(model, kWholeList, FixedLocalTime);
-  refreshPreview(model);
+  const CommitResult result = mdlRenameFiles(Commit(), kWholeList, FixedLocalTime);
+  preview.Refresh();
 
   EXPECT_EQ(Listing(folder), std::vector<std::string>{"N1"});
   EXPECT_EQ(ReadWholeFile(folder + "N1"), "content of n1");
@@ -203,8 +199,8 @@ TEST_F(FatVolumeCommit, ASwapEndsAsTheDriverAllowsTemporaryNames) {
   FileEntry& first = AddRow(folder + "a", "b");
   FileEntry& second = AddRow(folder + "b", "a");
 
-  const CommitResult result = mdlRenameFiles(model, kWholeList, FixedLocalTime);
-  refreshPreview(model);
+  const CommitResult result = mdlRenameFiles(Commit(), kWholeList, FixedLocalTime);
+  preview.Refresh();
 
   EXPECT_EQ(Listing(folder), (std::vector<std::string>{"a", "b"}));
   if (acceptsTemporary) {

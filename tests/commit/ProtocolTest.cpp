@@ -36,7 +36,7 @@ TEST(ProtocolRecordText, NamesAreNeitherQuotedNorEscapedAndKeepTheirBytes) {
 }
 
 TEST_F(RenameProtocol, EachRenameOfABatchIsOneLineWithTheFinalName) {
-  model.protocolRenames = true;
+  options.protocolRenames = true;
   data.WriteFile("renamed.nrp", "20000101000000\"/old/\"x\"y\r\n");
   AddRow("A");
   AddRow("B");
@@ -53,7 +53,7 @@ TEST_F(RenameProtocol, EachRenameOfABatchIsOneLineWithTheFinalName) {
 }
 
 TEST_F(RenameProtocol, FailedRenamesWriteNoLine) {
-  model.protocolRenames = true;
+  options.protocolRenames = true;
   AddRow("a");
   AddRow("b");
   AddForeignFile("taken");
@@ -66,7 +66,7 @@ TEST_F(RenameProtocol, FailedRenamesWriteNoLine) {
 }
 
 TEST_F(RenameProtocol, WithoutLoggingTheFileIsOpenedButNothingWritten) {
-  model.protocolRenames = false;
+  options.protocolRenames = false;
   AddRow("a");
   Rename("a", "x");
   ASSERT_FALSE(Exists(ProtocolPath()));
@@ -81,8 +81,8 @@ TEST_F(RenameProtocol, WithoutLoggingTheFileIsOpenedButNothingWritten) {
 
 // The journal lives in the same missing folder: its row follows the protocol's.
 TEST_F(RenameProtocol, ProtocolThatCannotBeOpenedIsOneReportRowAndTheRenamesStillHappen) {
-  model.protocolRenames = true;
-  model.dataFolder = data.Path() + "missing/folder/";
+  options.protocolRenames = true;
+  options.dataFolder = data.Path() + "missing/folder/";
   AddRow("a");
   Rename("a", "x");
 
@@ -98,7 +98,7 @@ TEST_F(RenameProtocol, ProtocolThatCannotBeOpenedIsOneReportRowAndTheRenamesStil
 }
 
 TEST_F(RenameProtocol, ListWithoutADataFolderReportsTheProtocolAndTheJournalAndWritesNoFileElsewhere) {
-  model.dataFolder.clear();
+  options.dataFolder.clear();
   AddRow("a");
   Rename("a", "x");
 
@@ -112,19 +112,19 @@ TEST_F(RenameProtocol, ListWithoutADataFolderReportsTheProtocolAndTheJournalAndW
 
 TEST_F(RenameProtocol, StartUpReadsWhetherToLogAndWhereTheDataFolderIs) {
   data.WriteFile("settings.nrp", "[Settings]\r\nprotren=1\r\n");
-  model.dataFolder.clear();
+  options.dataFolder.clear();
   const StartupPaths paths = PrepareStartup(RealFiles(), RealLocations(), data.Path());
 
-  LoadStartupSettings(model, paths);
+  LoadStartupSettings(paths, {fileSystem, frontEnd, options, script});
 
-  EXPECT_TRUE(model.protocolRenames);
-  EXPECT_EQ(model.dataFolder, data.Path());
+  EXPECT_TRUE(options.protocolRenames);
+  EXPECT_EQ(options.dataFolder, data.Path());
 }
 
 TEST_F(RenameProtocol, StartUpWithoutTheSettingDoesNotLog) {
-  model.protocolRenames = true;
-  LoadStartupSettings(model, PrepareStartup(RealFiles(), RealLocations(), data.Path()));
-  EXPECT_FALSE(model.protocolRenames);
+  options.protocolRenames = true;
+  LoadStartupSettings(PrepareStartup(RealFiles(), RealLocations(), data.Path()), {fileSystem, frontEnd, options, script});
+  EXPECT_FALSE(options.protocolRenames);
 }
 
 }  // namespace

@@ -16,7 +16,6 @@
 #include "commit/CommitFixture.h"
 #include "commit/RenameFiles.h"
 #include "core/AddFile.h"
-#include "core/RefreshPreview.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
 
@@ -170,30 +169,28 @@ void RunBatch(const BatchVolume& volume, const BatchGenerator& generator, const 
   }
   std::sort(contentsBefore.begin(), contentsBefore.end());
 
-  CommitFileSystem fileSystem;
+  ListParts<CommitFileSystem> list;
+  CommitFileSystem& fileSystem = list.fileSystem;
   fileSystem.mode = volume.mode;
-  ScriptedFrontEnd frontEnd;
-  NoExifDates noExif;
-  MainModel model(fileSystem, frontEnd, noExif);
-  model.statusTexts[3] = "Renamed";
-  model.dataFolder = volume.dataFolder;
+  list.texts.renamed = "Renamed";
+  list.options.dataFolder = volume.dataFolder;
   fileSystem.ownFolder = volume.dataFolder;
   std::vector<FileEntry*> rows;
   for (std::size_t i = 0; i < rowCount; ++i) {
     std::string path = folder + plan.names[i];
-    AddFile(model, path);
-    rows.push_back(model.list.Find(path));
+    AddFile(list.load, path);
+    rows.push_back(list.state.list.Find(path));
     ASSERT_NE(rows.back(), nullptr) << path;
   }
-  refreshPreview(model);
+  list.preview.Refresh();
   for (std::size_t i = 0; i < rowCount; ++i) (*rows[i])[kColNewName] = plan.targets[i];
-  refreshPreview(model);
+  list.preview.Refresh();
   for (std::size_t i = 0; i < rowCount; ++i) {
     if (plan.vanished[i]) std::remove((folder + plan.names[i]).c_str());
   }
 
-  const CommitResult result = mdlRenameFiles(model, kWholeList, FixedLocalTime);
-  refreshPreview(model);
+  const CommitResult result = mdlRenameFiles(list.Commit(), kWholeList, FixedLocalTime);
+  list.preview.Refresh();
 
   const std::map<std::string, std::string> filesAfter = FilesIn(folder);
   EXPECT_EQ(SortedContents(filesAfter), contentsBefore) << "a file's content was lost or doubled";
@@ -229,7 +226,7 @@ void RunBatch(const BatchVolume& volume, const BatchGenerator& generator, const 
   if (!volume.mayRefuseTemporaryNames && generator.AllCanBeRenamed(plan)) {
     EXPECT_TRUE(result.notRenamed.empty()) << "every row could have been renamed; first: "
                                            << result.notRenamed.front().Describe();
-    EXPECT_EQ(model.changedCount, 0);
+    EXPECT_EQ(list.state.changedCount, 0);
   }
 }
 

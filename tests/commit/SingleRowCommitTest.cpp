@@ -23,7 +23,7 @@ TEST_F(SingleRowCommit, RenamesThatRowOnlyAndListsNothingAsRenamed) {
   EXPECT_EQ(ContentOf("x"), "content of a");
   EXPECT_EQ(Row("x").key, PathOf("x"));
   EXPECT_EQ(Row("b")[kColNewName], "y") << "the other row keeps its pending name";
-  EXPECT_EQ(model.changedCount, 1);
+  EXPECT_EQ(state.changedCount, 1);
 }
 
 TEST_F(SingleRowCommit, HistoryColumnsThatHoldANameTakeTheNewOneAndEmptyOnesStayEmpty) {
@@ -76,7 +76,7 @@ TEST_F(SingleRowCommit, RowWithoutPendingChangeTouchesNoFileButItsHistoryTakesIt
 }
 
 TEST_F(SingleRowCommit, RenameIsWrittenToTheProtocolWhenRenamesAreLogged) {
-  model.protocolRenames = true;
+  options.protocolRenames = true;
   AddRow("a");
   Rename("a", "x");
 

@@ -22,21 +22,21 @@ TEST_F(TakeChanges, WithoutTheSecurityQuestionNothingIsAskedAndTheFilesAreRename
   AddRow("a");
   Rename("a", "x");
 
-  const std::optional<CommitResult> result = takeChanges(model, "TakeChanges1", services);
+  const std::optional<CommitResult> result = takeChanges(Commit(), preview, "TakeChanges1", services);
 
   ASSERT_TRUE(result.has_value());
   EXPECT_TRUE(frontEnd.asked.empty());
   EXPECT_EQ(NamesOnDisk(), Names{"x"});
-  EXPECT_EQ(model.changedCount, 0) << "the list was refreshed";
+  EXPECT_EQ(state.changedCount, 0) << "the list was refreshed";
 }
 
 TEST_F(TakeChanges, WithTheSecurityQuestionAYesRenames) {
-  model.securityQuestions[1] = true;
+  options.securityQuestions[1] = true;
   frontEnd.answers = {Answer::Yes};
   AddRow("a");
   Rename("a", "x");
 
-  const std::optional<CommitResult> result = takeChanges(model, "", services);
+  const std::optional<CommitResult> result = takeChanges(Commit(), preview, "", services);
 
   ASSERT_EQ(frontEnd.asked.size(), 1u);
   EXPECT_EQ(frontEnd.asked[0].textKey, "MsgText03");
@@ -47,26 +47,26 @@ TEST_F(TakeChanges, WithTheSecurityQuestionAYesRenames) {
 }
 
 TEST_F(TakeChanges, WithTheSecurityQuestionANoChangesNothing) {
-  model.securityQuestions[1] = true;
+  options.securityQuestions[1] = true;
   frontEnd.answers = {Answer::No};
   AddRow("a");
   Rename("a", "x");
 
-  const std::optional<CommitResult> result = takeChanges(model, "TakeChanges1", services);
+  const std::optional<CommitResult> result = takeChanges(Commit(), preview, "TakeChanges1", services);
 
   EXPECT_FALSE(result.has_value());
   EXPECT_EQ(frontEnd.asked.size(), 1u);
   EXPECT_EQ(NamesOnDisk(), Names{"a"});
-  EXPECT_EQ(model.changedCount, 1);
+  EXPECT_EQ(state.changedCount, 1);
 }
 
 TEST_F(TakeChanges, OtherSecurityQuestionsAskNothing) {
-  model.securityQuestions[0] = true;
-  model.securityQuestions[2] = true;
+  options.securityQuestions[0] = true;
+  options.securityQuestions[2] = true;
   AddRow("a");
   Rename("a", "x");
 
-  takeChanges(model, "TakeChanges1", services);
+  takeChanges(Commit(), preview, "TakeChanges1", services);
 
   EXPECT_TRUE(frontEnd.asked.empty());
   EXPECT_EQ(NamesOnDisk(), Names{"x"});
@@ -76,7 +76,7 @@ TEST_F(TakeChanges, TheDialogVariantIsNotBuiltAndDoesNothing) {
   AddRow("a");
   Rename("a", "x");
 
-  const std::optional<CommitResult> result = takeChanges(model, "TakeChanges2", services);
+  const std::optional<CommitResult> result = takeChanges(Commit(), preview, "TakeChanges2", services);
 
   EXPECT_FALSE(result.has_value());
   EXPECT_EQ(NamesOnDisk(), Names{"a"});
@@ -95,12 +95,12 @@ TEST_F(TakeChanges, ReportIsShownAndRemovingRenamedRowsLeavesTheFailedOnes) {
     return NotRenamedChoice::RemoveRenamed;
   };
 
-  takeChanges(model, "TakeChanges1", services);
+  takeChanges(Commit(), preview, "TakeChanges1", services);
 
   EXPECT_EQ(shown, 1);
   EXPECT_EQ(Keys(), Names{PathOf("a")});
-  EXPECT_EQ(model.list.Count(), 1);
-  EXPECT_EQ(model.changedCount, 1);
+  EXPECT_EQ(state.list.Count(), 1);
+  EXPECT_EQ(state.changedCount, 1);
   EXPECT_EQ(NamesOnDisk(), (Names{"a", "c", "taken"}));
 }
 
@@ -113,56 +113,56 @@ TEST_F(TakeChanges, ReportIsNotShownWhenEverythingWasRenamed) {
     return NotRenamedChoice::RemoveRenamed;
   };
 
-  takeChanges(model, "TakeChanges1", services);
+  takeChanges(Commit(), preview, "TakeChanges1", services);
 
   EXPECT_EQ(shown, 0);
-  EXPECT_EQ(model.list.Count(), 1);
+  EXPECT_EQ(state.list.Count(), 1);
 }
 
 TEST_F(TakeChanges, RemovingAllRowsWithYesTakesTheirChangesFirst) {
-  DiskCommitter committer(model, services);
-  model.committer = &committer;
+  DiskCommitter committer(Commit(), services);
+  rowCommitter = &committer;
   AddRow("a");
   AddRow("b");
   Rename("a", "b");
   Rename("b", "a");
   frontEnd.answers = {Answer::Yes};
 
-  EXPECT_TRUE(deleteFromList(model));
+  EXPECT_TRUE(deleteFromList(List(), rowCommitter, window.delListTag));
 
-  EXPECT_TRUE(model.list.Empty());
+  EXPECT_TRUE(state.list.Empty());
   EXPECT_EQ(ContentOf("b"), "content of a");
   EXPECT_EQ(ContentOf("a"), "content of b");
   EXPECT_TRUE(committer.LastResult().notRenamed.empty());
 }
 
 TEST_F(TakeChanges, RemovingOneRowWithYesRenamesThatRowAlone) {
-  DiskCommitter committer(model, services);
-  model.committer = &committer;
+  DiskCommitter committer(Commit(), services);
+  rowCommitter = &committer;
   AddRow("a");
   AddRow("b");
   Rename("a", "x");
   Rename("b", "y");
   frontEnd.answers = {Answer::Yes};
 
-  EXPECT_TRUE(btnBarLeftDel1File(model, Row("a").position));
+  EXPECT_TRUE(btnBarLeftDel1File(List(), rowCommitter, Row("a").position));
 
   EXPECT_EQ(NamesOnDisk(), (Names{"b", "x"}));
   EXPECT_EQ(Keys(), Names{PathOf("b")});
 }
 
 TEST_F(TakeChanges, RemovingRowsWithPendingChangesRenamesEachOneAlone) {
-  DiskCommitter committer(model, services);
-  model.committer = &committer;
+  DiskCommitter committer(Commit(), services);
+  rowCommitter = &committer;
   AddRow("a");
   AddRow("b");
   AddRow("c");
   Rename("a", "x");
   Rename("c", "b");  // b stays and keeps its name
-  model.delListTag = "DelList4";
+  window.delListTag = "DelList4";
   frontEnd.answers = {Answer::Yes};
 
-  EXPECT_TRUE(deleteFromList(model));
+  EXPECT_TRUE(deleteFromList(List(), rowCommitter, window.delListTag));
 
   EXPECT_EQ(NamesOnDisk(), (Names{"b", "c", "x"}));
   EXPECT_EQ(Keys(), Names{PathOf("b")});

@@ -9,7 +9,6 @@
 #include "commit/CommitExecution.h"
 #include "commit/CommitFixture.h"
 #include "commit/NotRenamedReport.h"
-#include "core/RefreshPreview.h"
 
 namespace nomra::testing {
 namespace {
@@ -33,7 +32,7 @@ TEST_F(WholeListCommit, ChainWithItsFirstRowFirstGoesThroughATemporaryName) {
   EXPECT_EQ(fileSystem.renames[0].second, PathOf("B") + std::string(kTemporaryMark));
   EXPECT_EQ(Keys(), (Names{PathOf("B"), PathOf("C")}));
   EXPECT_EQ(Column(kColOldName), (Names{"B", "C"}));
-  EXPECT_EQ(model.changedCount, 0);
+  EXPECT_EQ(state.changedCount, 0);
 }
 
 TEST_F(WholeListCommit, ChainWithItsLastRowFirstNeedsNoTemporaryName) {
@@ -65,8 +64,8 @@ TEST_F(WholeListCommit, SwapGivesEachFileTheOthersName) {
   EXPECT_EQ(ContentOf("B"), "content of A");
   EXPECT_EQ(ContentOf("A"), "content of B");
   EXPECT_EQ(Keys(), (Names{PathOf("A"), PathOf("B")}));
-  EXPECT_EQ(model.list.Item(1)[kColOldName], "B");
-  EXPECT_EQ(model.list.Find(PathOf("B"))->position, 1) << "the first row now holds B";
+  EXPECT_EQ(state.list.Item(1)[kColOldName], "B");
+  EXPECT_EQ(state.list.Find(PathOf("B"))->position, 1) << "the first row now holds B";
 }
 
 TEST_F(WholeListCommit, CycleOfFourGoesRound) {
@@ -146,7 +145,7 @@ TEST_F(WholeListCommit, ChainEndingOnAFileOutsideTheListRenamesNothing) {
   EXPECT_EQ(ContentOf("A"), "content of A");
   EXPECT_EQ(ContentOf("C"), "content of C");
   EXPECT_EQ(Column(kColOldName), (Names{"A", "B"}));
-  EXPECT_EQ(model.changedCount, 2);
+  EXPECT_EQ(state.changedCount, 2);
 }
 
 TEST_F(WholeListCommit, BlockedRowsReportTheKeyOfTheRowAtTheirRunningNumber) {
@@ -212,8 +211,8 @@ TEST_F(WholeListCommit, RemovingRenamedRowsKeepsTheFailedOnesAndTheOneThroughATe
   EXPECT_EQ(result.renamed,
             (Names{PathOf("B") + std::string(kTemporaryMark), PathOf("C"), PathOf("E")}));
 
-  ApplyNotRenamedChoice(model, result, true);
-  refreshPreview(model);
+  ApplyNotRenamedChoice(Commit(), result, true);
+  preview.Refresh();
 
   EXPECT_EQ(Keys(), (Names{PathOf("B"), PathOf("F")}));
   EXPECT_EQ(Row("B")[kColNewName], "B");
@@ -228,13 +227,13 @@ TEST_F(WholeListCommit, NoActionKeepsEveryRow) {
   Rename("F", "G");
 
   const CommitResult result = CommitAll();
-  ApplyNotRenamedChoice(model, result, false);
+  ApplyNotRenamedChoice(Commit(), result, false);
 
-  EXPECT_EQ(model.list.Count(), 2);
+  EXPECT_EQ(state.list.Count(), 2);
 }
 
 TEST_F(WholeListCommit, BatchWithoutPendingChangesTouchesNothing) {
-  model.protocolRenames = true;
+  options.protocolRenames = true;
   data.WriteFile("renamed.nrp", "earlier record\r\n");
   AddRow("A");
   AddRow("B");
@@ -254,15 +253,15 @@ TEST_F(WholeListCommit, SuccessfulBatchClearsTheHistorySoUndoIsOff) {
   Rename("A", "first");
   Rename("A", "second");
   Rename("B", "other");
-  ASSERT_GT(model.undoLevels, 0);
+  ASSERT_GT(state.undoLevels, 0);
 
   const CommitResult result = CommitAll();
 
   ASSERT_TRUE(result.notRenamed.empty());
-  EXPECT_EQ(model.undoLevels, 0);
-  EXPECT_FALSE(model.commands.IsEnabled("mnuUndo"));
+  EXPECT_EQ(state.undoLevels, 0);
+  EXPECT_FALSE(window.commands.IsEnabled("mnuUndo"));
   for (int position = 1; position <= 2; ++position) {
-    const FileEntry& row = model.list.Item(position);
+    const FileEntry& row = state.list.Item(position);
     EXPECT_EQ(row[kColHistory0], row[kColNewName]);
     for (int column = kColHistoryFirst; column <= kColHistoryLast; ++column) EXPECT_TRUE(row[column].empty());
   }
@@ -276,14 +275,14 @@ TEST_F(WholeListCommit, UndoLevelsFollowTheFirstRowWhenItWasNotRenamed) {
   Rename("A", "first");
   Rename("A", "taken");
   Rename("B", "other");
-  const int levelsBefore = model.undoLevels;
+  const int levelsBefore = state.undoLevels;
   ASSERT_GT(levelsBefore, 0);
 
   const CommitResult result = CommitAll();
 
   ASSERT_EQ(TextKeys(result), Names{"MsgText05"});
-  EXPECT_EQ(model.undoLevels, levelsBefore);
-  EXPECT_TRUE(model.list.Item(2)[kColHistoryFirst].empty()) << "the renamed row lost its history";
+  EXPECT_EQ(state.undoLevels, levelsBefore);
+  EXPECT_TRUE(state.list.Item(2)[kColHistoryFirst].empty()) << "the renamed row lost its history";
 }
 
 TEST_F(WholeListCommit, ForbiddenCharactersAndAnEmptyNameAreReportedAndTheBatchGoesOn) {
@@ -359,8 +358,8 @@ TEST_F(WholeListCommit, RowsOfTwoFoldersSwapWithinEach) {
   AddRow("one/b");
   AddRow("two/a");
   AddRow("two/b");
-  model.list.ForEach([](FileEntry& row) { row[kColNewName] = row[kColOldName] == "a" ? "b" : "a"; });
-  refreshPreview(model);
+  state.list.ForEach([](FileEntry& row) { row[kColNewName] = row[kColOldName] == "a" ? "b" : "a"; });
+  preview.Refresh();
 
   const CommitResult result = CommitAll();
 
@@ -383,7 +382,7 @@ TEST_F(WholeListCommit, EachRenameCountsInTheStatusAndTheEndResetsIt) {
   ASSERT_GE(frontEnd.statusTexts.size(), 2u);
   EXPECT_EQ(frontEnd.statusTexts[0], "Renamed 1");
   EXPECT_EQ(frontEnd.statusTexts[1], "Renamed 2");
-  EXPECT_EQ(model.statusCounter, 0);
+  EXPECT_EQ(state.statusCounter, 0);
   EXPECT_EQ(frontEnd.busyDepth, 0);
 }
 

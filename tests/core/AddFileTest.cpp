@@ -46,9 +46,9 @@ void SetModified(const std::string& path, std::time_t when) {
 TEST_F(AddFileTest, AddedFileFillsItsColumns) {
   std::string path = temp.WriteFile("photo.txt", std::string(1234, 'x'));
   SetModified(path, 1700000000);
-  AddFile(model, path);
-  ASSERT_EQ(model.list.Count(), 1);
-  const FileEntry& row = model.list.Item(1);
+  AddFile(load, path);
+  ASSERT_EQ(state.list.Count(), 1);
+  const FileEntry& row = state.list.Item(1);
   EXPECT_EQ(row.key, temp.Path() + "photo.txt");
   EXPECT_EQ(row[kColPath], temp.Path());
   EXPECT_EQ(row[kColOldName], "photo.txt");
@@ -67,51 +67,48 @@ TEST_F(AddFileTest, RelativePathBecomesAbsolute) {
   const std::string saved = std::filesystem::current_path();
   std::filesystem::current_path(temp.Path());
   std::string path = "./sub/../rel.txt";
-  AddFile(model, path);
+  AddFile(load, path);
   std::filesystem::current_path(saved);
   EXPECT_EQ(path, temp.Path() + "rel.txt");
-  ASSERT_EQ(model.list.Count(), 1);
-  EXPECT_EQ(model.list.Item(1).key, temp.Path() + "rel.txt");
+  ASSERT_EQ(state.list.Count(), 1);
+  EXPECT_EQ(state.list.Item(1).key, temp.Path() + "rel.txt");
 }
 
 TEST_F(AddFileTest, FileIsNeverListedTwice) {
   std::string path = temp.WriteFile("a.txt");
-  AddFile(model, path);
+  AddFile(load, path);
   std::string again = temp.Path() + "./a.txt";
-  AddFile(model, again);
-  EXPECT_EQ(model.list.Count(), 1);
+  AddFile(load, again);
+  EXPECT_EQ(state.list.Count(), 1);
 }
 
-TEST(AddFileDates, UnreadableDatesKeepThe1980Text) {
-  testing::TempFolder temp;
-  DatelessFileSystem fs;
-  testing::ScriptedFrontEnd ui;
-  NoExifDates exif;
-  MainModel model(fs, ui, exif);
+class AddFileDates : public testing::ListTestOver<DatelessFileSystem> {};
+
+TEST_F(AddFileDates, UnreadableDatesKeepThe1980Text) {
   std::string path = temp.WriteFile("old.txt");
-  AddFile(model, path);
-  EXPECT_EQ(model.list.Item(1)[kColCreated], "1980-01-01 00:00:00");
-  EXPECT_EQ(model.list.Item(1)[kColModified], "1980-01-01 00:00:00");
+  AddFile(load, path);
+  EXPECT_EQ(state.list.Item(1)[kColCreated], "1980-01-01 00:00:00");
+  EXPECT_EQ(state.list.Item(1)[kColModified], "1980-01-01 00:00:00");
 }
 
 TEST_F(AddFileTest, MissingPathIsSkippedSilentlyWhenExistenceIsChecked) {
-  model.checkExistence = true;
+  options.checkExistence = true;
   std::string path = temp.Path() + "nothing-here.txt";
-  EXPECT_NO_THROW(AddFile(model, path));
-  EXPECT_EQ(model.list.Count(), 0);
+  EXPECT_NO_THROW(AddFile(load, path));
+  EXPECT_EQ(state.list.Count(), 0);
   EXPECT_TRUE(frontEnd.faults.empty());
 }
 
 TEST_F(AddFileTest, MissingPathIsAFaultForTheCallerWhenExistenceIsNotChecked) {
-  model.checkExistence = false;
+  options.checkExistence = false;
   std::string path = temp.Path() + "nothing-here.txt";
   try {
-    AddFile(model, path);
+    AddFile(load, path);
     FAIL() << "a missing path must reach the caller";
   } catch (const RuntimeFault& fault) {
     EXPECT_NE(std::string(fault.what()).find("nothing-here.txt"), std::string::npos);
   }
-  EXPECT_EQ(model.list.Count(), 0);
+  EXPECT_EQ(state.list.Count(), 0);
 }
 
 TEST_F(AddFileTest, FolderIsWalkedWholeFilesBeforeSubfolders) {
@@ -120,15 +117,15 @@ TEST_F(AddFileTest, FolderIsWalkedWholeFilesBeforeSubfolders) {
   temp.WriteFile("top/.hidden");
   temp.WriteFile("top/z.txt");
   std::string folder = temp.Path() + "top";
-  AddFile(model, folder);
-  ASSERT_EQ(model.list.Count(), 4);
+  AddFile(load, folder);
+  ASSERT_EQ(state.list.Count(), 4);
   // The files of the folder itself come first, in whatever order the file
   // system gives them; the subfolder's file comes last.
   std::vector<std::string> firstThree;
-  for (int i = 1; i <= 3; ++i) firstThree.push_back(model.list.Item(i)[kColOldName]);
+  for (int i = 1; i <= 3; ++i) firstThree.push_back(state.list.Item(i)[kColOldName]);
   std::sort(firstThree.begin(), firstThree.end());
   EXPECT_EQ(firstThree, (std::vector<std::string>{".hidden", "a.txt", "z.txt"}));
-  EXPECT_EQ(model.list.Item(4).key, temp.Path() + "top/sub/deep.txt");
+  EXPECT_EQ(state.list.Item(4).key, temp.Path() + "top/sub/deep.txt");
 }
 
 TEST_F(AddFileTest, LinkToAFolderIsNotWalked) {
@@ -137,31 +134,29 @@ TEST_F(AddFileTest, LinkToAFolderIsNotWalked) {
   ASSERT_EQ(symlink((temp.Path() + "real").c_str(), (temp.Path() + "walk/loop").c_str()), 0);
   ASSERT_EQ(symlink((temp.Path() + "walk").c_str(), (temp.Path() + "walk/self").c_str()), 0);
   std::string folder = temp.Path() + "walk";
-  AddFile(model, folder);
-  EXPECT_EQ(model.list.Count(), 0);
+  AddFile(load, folder);
+  EXPECT_EQ(state.list.Count(), 0);
 }
 
-TEST(AddFileFolders, UnreadableFolderIsPassedOver) {
-  // Refuses to list one folder, as a folder without read permission does for
-  // anyone but root.
-  class RefusingFileSystem final : public testing::ForwardingFileSystem {
-   public:
-    bool ListFolder(const std::string& folder, const EntryVisitor& visit) override {
-      if (folder.find("/closed") != std::string::npos) return false;
-      return real.ListFolder(folder, visit);
-    }
-  };
-  testing::TempFolder temp;
-  RefusingFileSystem fs;
-  testing::ScriptedFrontEnd ui;
-  NoExifDates exif;
-  MainModel model(fs, ui, exif);
+// Refuses to list one folder, as a folder without read permission does for
+// anyone but root.
+class RefusingFileSystem final : public testing::ForwardingFileSystem {
+ public:
+  bool ListFolder(const std::string& folder, const EntryVisitor& visit) override {
+    if (folder.find("/closed") != std::string::npos) return false;
+    return real.ListFolder(folder, visit);
+  }
+};
+
+class AddFileFolders : public testing::ListTestOver<RefusingFileSystem> {};
+
+TEST_F(AddFileFolders, UnreadableFolderIsPassedOver) {
   temp.WriteFile("tree/open/a.txt");
   temp.WriteFile("tree/closed/b.txt");
   std::string folder = temp.Path() + "tree";
-  EXPECT_NO_THROW(AddFile(model, folder));
-  ASSERT_EQ(model.list.Count(), 1);
-  EXPECT_EQ(model.list.Item(1)[kColOldName], "a.txt");
+  EXPECT_NO_THROW(AddFile(load, folder));
+  ASSERT_EQ(state.list.Count(), 1);
+  EXPECT_EQ(state.list.Item(1)[kColOldName], "a.txt");
 }
 
 TEST_F(AddFileTest, FolderWithoutReadPermissionIsPassedOver) {
@@ -170,8 +165,8 @@ TEST_F(AddFileTest, FolderWithoutReadPermissionIsPassedOver) {
   temp.WriteFile("tree/closed/b.txt");
   ASSERT_EQ(chmod((temp.Path() + "tree/closed").c_str(), 0), 0);
   std::string folder = temp.Path() + "tree";
-  EXPECT_NO_THROW(AddFile(model, folder));
-  ASSERT_EQ(model.list.Count(), 1);
+  EXPECT_NO_THROW(AddFile(load, folder));
+  ASSERT_EQ(state.list.Count(), 1);
 }
 
 TEST_F(AddFileTest, NameThatIsNotUtf8KeepsItsBytes) {
@@ -181,21 +176,21 @@ TEST_F(AddFileTest, NameThatIsNotUtf8KeepsItsBytes) {
   ASSERT_GE(fd, 0);
   close(fd);
   std::string folder = temp.Path();
-  AddFile(model, folder);
-  ASSERT_EQ(model.list.Count(), 1);
-  EXPECT_EQ(model.list.Item(1)[kColOldName], name);
-  EXPECT_EQ(model.list.Item(1).key, full);
+  AddFile(load, folder);
+  ASSERT_EQ(state.list.Count(), 1);
+  EXPECT_EQ(state.list.Item(1)[kColOldName], name);
+  EXPECT_EQ(state.list.Item(1).key, full);
 }
 
 TEST_F(AddFileTest, EventsArePumpedOnEveryHundredthCall) {
   temp.MakeFolder("many");
   for (int i = 0; i < 250; ++i) temp.WriteFile("many/f" + std::to_string(i));
   std::string folder = temp.Path() + "many";
-  AddFile(model, folder);
-  EXPECT_EQ(model.list.Count(), 250);
+  AddFile(load, folder);
+  EXPECT_EQ(state.list.Count(), 250);
   // 251 calls: the folder itself and each file.
-  EXPECT_EQ(model.addCounter, 251);
-  EXPECT_EQ(frontEnd.pumps, 2);
+  EXPECT_EQ(state.addCounter, 251);
+  EXPECT_EQ(progress.ticks, 2);
 }
 
 TEST_F(AddFileTest, StatusCountsEachAddedFile) {
@@ -203,19 +198,19 @@ TEST_F(AddFileTest, StatusCountsEachAddedFile) {
   ASSERT_GE(frontEnd.statusTexts.size(), 2u);
   EXPECT_EQ(frontEnd.statusTexts[0], "Adding 1");
   EXPECT_EQ(frontEnd.statusTexts[1], "Adding 2");
-  EXPECT_EQ(model.statusCounter, 0) << "the refresh clears the running number";
+  EXPECT_EQ(state.statusCounter, 0) << "the refresh clears the running number";
 }
 
 TEST_F(AddFileTest, LateRowGetsTheHistoryLevelsInForce) {
   AddFiles({"first.txt"});
   SetNewName(1, "one.txt");
-  refreshPreview(model);
+  preview.Refresh();
   SetNewName(1, "two.txt");
-  refreshPreview(model);
-  ASSERT_EQ(model.undoLevels, 2);
+  preview.Refresh();
+  ASSERT_EQ(state.undoLevels, 2);
   std::string path = temp.WriteFile("late.txt");
-  AddFile(model, path);
-  const FileEntry* late = model.list.Find(path);
+  AddFile(load, path);
+  const FileEntry* late = state.list.Find(path);
   ASSERT_NE(late, nullptr);
   EXPECT_EQ((*late)[kColHistory0], "late.txt");
   EXPECT_EQ((*late)[kColHistoryFirst], "late.txt");
@@ -223,33 +218,30 @@ TEST_F(AddFileTest, LateRowGetsTheHistoryLevelsInForce) {
   EXPECT_EQ((*late)[kColHistoryFirst + 2], "");
 }
 
-TEST(AddFileExif, JpegFilesAskForTheirExifDateWhenEnabled) {
-  testing::TempFolder temp;
-  platform::PosixFileSystem fs;
-  testing::ScriptedFrontEnd ui;
+// A load whose EXIF dates come from a reader that notes each file asked.
+class AddFileExif : public testing::ListTest {
+ protected:
   RecordingExifReader exif;
-  MainModel model(fs, ui, exif);
-  model.loadExifDates = true;
+  ListLoad withExif{state, fileSystem, frontEnd, progress, exif, options, texts};
+};
+
+TEST_F(AddFileExif, JpegFilesAskForTheirExifDateWhenEnabled) {
+  options.loadExifDates = true;
   for (const char* name : {"a.JPG", "b.jpeg", "c.png", "d.jpg.txt"}) {
     std::string path = temp.WriteFile(name);
-    AddFile(model, path);
+    AddFile(withExif, path);
   }
   ASSERT_EQ(exif.asked.size(), 2u);
-  EXPECT_EQ(model.list.Item(1)[kColExifDate], "2001-02-03 04:05:06");
-  EXPECT_EQ(model.list.Item(3)[kColExifDate], "");
+  EXPECT_EQ(state.list.Item(1)[kColExifDate], "2001-02-03 04:05:06");
+  EXPECT_EQ(state.list.Item(3)[kColExifDate], "");
 }
 
-TEST(AddFileExif, NoExifDateIsReadWhenDisabled) {
-  testing::TempFolder temp;
-  platform::PosixFileSystem fs;
-  testing::ScriptedFrontEnd ui;
-  RecordingExifReader exif;
-  MainModel model(fs, ui, exif);
-  model.loadExifDates = false;
+TEST_F(AddFileExif, NoExifDateIsReadWhenDisabled) {
+  options.loadExifDates = false;
   std::string path = temp.WriteFile("a.jpg");
-  AddFile(model, path);
+  AddFile(withExif, path);
   EXPECT_TRUE(exif.asked.empty());
-  EXPECT_EQ(model.list.Item(1)[kColExifDate], "");
+  EXPECT_EQ(state.list.Item(1)[kColExifDate], "");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/Fault.h"
+#include "support/ForwardingFileSystem.h"
 #include "support/ListFixture.h"
 
 namespace nomra {

@@ -12,16 +12,16 @@ class ManualEditTest : public testing::ListTest {};
 
 TEST_F(ManualEditTest, TypedNameBecomesThePendingNameAsTyped) {
   AddFiles({"a.txt"});
-  EXPECT_TRUE(ApplyManualEdit(model, 1, " new name.txt "));
-  EXPECT_EQ(model.list.Item(1)[kColNewName], " new name.txt ");
-  EXPECT_EQ(model.changedCount, 1);
+  EXPECT_TRUE(ApplyManualEdit(List(), 1, " new name.txt "));
+  EXPECT_EQ(state.list.Item(1)[kColNewName], " new name.txt ");
+  EXPECT_EQ(state.changedCount, 1);
 }
 
 TEST_F(ManualEditTest, NameOfOnlyBlanksIsIgnored) {
   AddFiles({"a.txt"});
-  EXPECT_FALSE(ApplyManualEdit(model, 1, "   "));
-  EXPECT_FALSE(ApplyManualEdit(model, 1, ""));
-  EXPECT_EQ(model.list.Item(1)[kColNewName], "a.txt");
+  EXPECT_FALSE(ApplyManualEdit(List(), 1, "   "));
+  EXPECT_FALSE(ApplyManualEdit(List(), 1, ""));
+  EXPECT_EQ(state.list.Item(1)[kColNewName], "a.txt");
 }
 
 TEST_F(ManualEditTest, ForbiddenCharactersAreDiscardedWhileTyping) {
@@ -35,8 +35,8 @@ TEST_F(ManualEditTest, ForbiddenCharactersAreDiscardedWhileTyping) {
 
 TEST_F(ManualEditTest, InPlaceEditRemovesForbiddenCharacters) {
   AddFiles({"a.txt"});
-  ApplyLabelEdit(model, 1, "b<1>:2.txt");
-  EXPECT_EQ(model.list.Item(1)[kColNewName], "b12.txt");
+  ApplyLabelEdit(List(), 1, "b<1>:2.txt");
+  EXPECT_EQ(state.list.Item(1)[kColNewName], "b12.txt");
 }
 
 }  // namespace

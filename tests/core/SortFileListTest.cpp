@@ -13,39 +13,39 @@ TEST_F(SortTest, NewNameSortPutsTwoBeforeTen) {
   AddFiles({"b.txt", "a.txt"});
   SetNewName(1, "track 10.mp3");
   SetNewName(2, "track 2.mp3");
-  sortFileList(model, 4);
+  sortFileList(state.list, frontEnd, 4);
   EXPECT_EQ(Column(kColNewName), (std::vector<std::string>{"track 2.mp3", "track 10.mp3"}));
-  EXPECT_EQ(model.list.sortKey, kColNewName);
+  EXPECT_EQ(state.list.sortKey, kColNewName);
 }
 
 TEST_F(SortTest, DescendingReversesTheOrder) {
   AddFiles({"f2.txt", "f10.txt", "f1.txt"});
-  model.list.sortOrder = 1;
-  sortFileList(model, 3);
+  state.list.sortOrder = 1;
+  sortFileList(state.list, frontEnd, 3);
   EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"f10.txt", "f2.txt", "f1.txt"}));
 }
 
 TEST_F(SortTest, TextComparesWithoutCase) {
   AddFiles({"b.txt", "A.txt", "c.txt"});
-  sortFileList(model, 3);
+  sortFileList(state.list, frontEnd, 3);
   EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"A.txt", "b.txt", "c.txt"}));
 }
 
 TEST_F(SortTest, DateColumnSortsInDateOrder) {
   AddFiles({"x", "y", "z"});
-  model.list.Item(1)[kColModified] = "2021-10-02 09:00:00";
-  model.list.Item(2)[kColModified] = "2021-09-30 23:59:59";
-  model.list.Item(3)[kColModified] = "2020-12-31 10:00:00";
-  sortFileList(model, 6);
+  state.list.Item(1)[kColModified] = "2021-10-02 09:00:00";
+  state.list.Item(2)[kColModified] = "2021-09-30 23:59:59";
+  state.list.Item(3)[kColModified] = "2020-12-31 10:00:00";
+  sortFileList(state.list, frontEnd, 6);
   EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"z", "y", "x"}));
 }
 
 TEST_F(SortTest, SizeSortsByThePaddedTagNotTheShownText) {
   for (auto [name, size] : {std::pair{"big", 20000}, std::pair{"small", 9}, std::pair{"mid", 1000}}) {
     std::string path = temp.WriteFile(name, std::string(static_cast<std::size_t>(size), 'x'));
-    AddFile(model, path);
+    AddFile(load, path);
   }
-  sortFileList(model, 8);
+  sortFileList(state.list, frontEnd, 8);
   EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"small", "mid", "big"}));
   EXPECT_EQ(Column(kColSortKey)[0], "000000000009");
 }
@@ -53,73 +53,73 @@ TEST_F(SortTest, SizeSortsByThePaddedTagNotTheShownText) {
 TEST_F(SortTest, UnsortedOnANeverSortedListKeepsTheOrder) {
   AddFiles({"c", "a", "b"});
   const auto before = Column(kColOldName);
-  sortFileList(model, 21);
+  sortFileList(state.list, frontEnd, 21);
   EXPECT_EQ(Column(kColOldName), before);
-  EXPECT_EQ(model.list.sortKey, kColListPosition);
+  EXPECT_EQ(state.list.sortKey, kColListPosition);
 }
 
 TEST_F(SortTest, UnsortedGoesBackToTheOrderOfTheLastRefresh) {
   AddFiles({"c", "a", "b"});
   const auto loaded = Column(kColOldName);
-  sortFileList(model, 3);
+  sortFileList(state.list, frontEnd, 3);
   ASSERT_NE(Column(kColOldName), loaded);
-  mnuViewSortingUnsorted(model);
+  mnuViewSortingUnsorted(state.list, frontEnd);
   EXPECT_EQ(Column(kColOldName), loaded);
-  EXPECT_EQ(CheckedSortMenuEntry(model), 0);
+  EXPECT_EQ(CheckedSortMenuEntry(state.list), 0);
 }
 
 TEST_F(SortTest, UnknownColumnChangesNothing) {
   AddFiles({"c", "a", "b"});
-  model.list.sortKey = kColNewName;
+  state.list.sortKey = kColNewName;
   const auto before = Column(kColOldName);
   for (int head : {1, 9, 15, 20, 22, 0, -3}) {
-    sortFileList(model, head);
+    sortFileList(state.list, frontEnd, head);
     EXPECT_EQ(Column(kColOldName), before) << "head " << head;
-    EXPECT_EQ(model.list.sortKey, kColNewName);
+    EXPECT_EQ(state.list.sortKey, kColNewName);
   }
 }
 
 TEST_F(SortTest, SecondClickOnTheSameHeadSortsDescending) {
   AddFiles({"a", "b", "c"});
-  ClickColumnHead(model, 3);
-  EXPECT_EQ(model.list.sortOrder, 0);
-  ClickColumnHead(model, 3);
-  EXPECT_EQ(model.list.sortOrder, 1);
+  ClickColumnHead(state.list, frontEnd, 3);
+  EXPECT_EQ(state.list.sortOrder, 0);
+  ClickColumnHead(state.list, frontEnd, 3);
+  EXPECT_EQ(state.list.sortOrder, 1);
   EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"c", "b", "a"}));
-  ClickColumnHead(model, 3);
-  EXPECT_EQ(model.list.sortOrder, 0) << "a third click goes back to ascending";
+  ClickColumnHead(state.list, frontEnd, 3);
+  EXPECT_EQ(state.list.sortOrder, 0) << "a third click goes back to ascending";
 }
 
 TEST_F(SortTest, ClickOnAnotherHeadSortsAscending) {
   AddFiles({"a", "b"});
-  ClickColumnHead(model, 3);
-  ClickColumnHead(model, 3);
-  ASSERT_EQ(model.list.sortOrder, 1);
-  ClickColumnHead(model, 4);
-  EXPECT_EQ(model.list.sortOrder, 0);
-  EXPECT_EQ(model.lastClickedColumn, 4);
+  ClickColumnHead(state.list, frontEnd, 3);
+  ClickColumnHead(state.list, frontEnd, 3);
+  ASSERT_EQ(state.list.sortOrder, 1);
+  ClickColumnHead(state.list, frontEnd, 4);
+  EXPECT_EQ(state.list.sortOrder, 0);
+  EXPECT_EQ(state.list.lastClickedHead, 4);
 }
 
 TEST_F(SortTest, MenuEntriesComeInPairsPerHead) {
   AddFiles({"a", "b"});
-  mnuViewSortingSorted(model, 1);
-  EXPECT_EQ(model.list.sortKey, 1);
-  EXPECT_EQ(model.list.sortOrder, 0);
-  EXPECT_EQ(CheckedSortMenuEntry(model), 1);
-  mnuViewSortingSorted(model, 4);
-  EXPECT_EQ(model.list.sortKey, 2);
-  EXPECT_EQ(model.list.sortOrder, 1);
-  EXPECT_EQ(CheckedSortMenuEntry(model), 4);
-  mnuViewSortingSorted(model, 14);
-  EXPECT_EQ(model.list.sortKey, kColSize);
-  EXPECT_EQ(CheckedSortMenuEntry(model), 14);
+  mnuViewSortingSorted(state.list, frontEnd, 1);
+  EXPECT_EQ(state.list.sortKey, 1);
+  EXPECT_EQ(state.list.sortOrder, 0);
+  EXPECT_EQ(CheckedSortMenuEntry(state.list), 1);
+  mnuViewSortingSorted(state.list, frontEnd, 4);
+  EXPECT_EQ(state.list.sortKey, 2);
+  EXPECT_EQ(state.list.sortOrder, 1);
+  EXPECT_EQ(CheckedSortMenuEntry(state.list), 4);
+  mnuViewSortingSorted(state.list, frontEnd, 14);
+  EXPECT_EQ(state.list.sortKey, kColSize);
+  EXPECT_EQ(CheckedSortMenuEntry(state.list), 14);
 }
 
 TEST_F(SortTest, EqualTextsKeepTheirOrder) {
   AddFiles({"one/x.txt", "two/x.txt", "three/x.txt"});
-  mnuViewSortingUnsorted(model);
+  mnuViewSortingUnsorted(state.list, frontEnd);
   const auto folders = Column(kColPath);
-  sortFileList(model, 3);
+  sortFileList(state.list, frontEnd, 3);
   EXPECT_EQ(Column(kColPath), folders);
 }
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "core/ScriptSession.h"
+#include "dialog/ScriptSession.h"
 #include "dialog/DialogModel.h"
 #include "dialog/DialogState.h"
 #include "settings/SettingsKeys.h"

@@ -80,29 +80,29 @@ TEST_F(DeleteFilesTest, FailureOfTheCallComesBackAsZero) {
 
 class DeleteListFilesTest : public ListOperationsTest {
  protected:
-  DeleteListFilesTest() { model.expertMode = true; }
+  DeleteListFilesTest() { options.expertMode = true; }
   nomra::testing::ScopedEnvironment dataHome{"XDG_DATA_HOME", temp.Path() + "data"};
 };
 
 TEST_F(DeleteListFilesTest, WithoutExpertModeNothingHappens) {
   AddFiles({"a.txt"});
-  model.expertMode = false;
+  options.expertMode = false;
   frontEnd.answers = {Answer::Yes};
 
-  EXPECT_FALSE(DeleteListFiles(model, false, services));
+  EXPECT_FALSE(DeleteListFiles(List(), options.expertMode, false, services));
 
   EXPECT_TRUE(Exists(temp.Path() + "a.txt"));
-  EXPECT_EQ(model.list.Count(), 1);
+  EXPECT_EQ(state.list.Count(), 1);
 }
 
 TEST_F(DeleteListFilesTest, DeletedFilesLeaveTheListAfterTheQuestion) {
   AddFiles({"a.txt", "b.txt"});
   frontEnd.answers = {Answer::Yes};
 
-  EXPECT_TRUE(DeleteListFiles(model, true, services));
+  EXPECT_TRUE(DeleteListFiles(List(), options.expertMode, true, services));
 
   EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kTrashMany});
-  EXPECT_EQ(model.list.Count(), 0);
+  EXPECT_EQ(state.list.Count(), 0);
   EXPECT_TRUE(Exists(temp.Path() + "data/Trash/files/a.txt"));
 }
 
@@ -110,19 +110,19 @@ TEST_F(DeleteListFilesTest, NoToTheQuestionKeepsFilesAndRows) {
   AddFiles({"a.txt", "b.txt"});
   frontEnd.answers = {Answer::No};
 
-  DeleteListFiles(model, false, services);
+  DeleteListFiles(List(), options.expertMode, false, services);
 
-  EXPECT_EQ(model.list.Count(), 2);
+  EXPECT_EQ(state.list.Count(), 2);
   EXPECT_TRUE(Exists(temp.Path() + "a.txt"));
 }
 
 TEST_F(DeleteListFilesTest, OnlyTheRowsOfTheApplyScopeAreDeleted) {
   AddFiles({"a.txt", "b.txt", "c.txt"});
-  model.list.Item(2).selected = true;
-  model.applyScope = 1;
+  state.list.Item(2).selected = true;
+  state.applyScope = 1;
   frontEnd.answers = {Answer::Yes};
 
-  DeleteListFiles(model, false, services);
+  DeleteListFiles(List(), options.expertMode, false, services);
 
   EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"a.txt", "c.txt"}));
   EXPECT_FALSE(Exists(temp.Path() + "b.txt"));
@@ -130,12 +130,12 @@ TEST_F(DeleteListFilesTest, OnlyTheRowsOfTheApplyScopeAreDeleted) {
 
 TEST_F(DeleteListFilesTest, EmptySelectionDeletesNothingAndNoRowGoes) {
   AddFiles({"a.txt", "b.txt"});
-  model.applyScope = 1;
+  state.applyScope = 1;
 
-  DeleteListFiles(model, false, services);
+  DeleteListFiles(List(), options.expertMode, false, services);
 
   EXPECT_TRUE(frontEnd.asked.empty());
-  EXPECT_EQ(model.list.Count(), 2);
+  EXPECT_EQ(state.list.Count(), 2);
 }
 
 TEST_F(DeleteListFilesTest, RowOfAFileThatCouldNotBeDeletedStays) {
@@ -149,7 +149,7 @@ TEST_F(DeleteListFilesTest, RowOfAFileThatCouldNotBeDeletedStays) {
   OperationServices with{refusing, withTrash, frontEnd, progress};
   frontEnd.answers = {Answer::Yes, Answer::Ok, Answer::Yes};
 
-  DeleteListFiles(model, false, with);
+  DeleteListFiles(List(), options.expertMode, false, with);
 
   EXPECT_EQ(Column(kColOldName), std::vector<std::string>{"b.txt"});
 }

@@ -17,7 +17,7 @@ class ListOperationsTest : public nomra::testing::ListTest {
   }
   std::vector<std::string> Keys() {
     std::vector<std::string> keys;
-    model.list.ForEach([&](const FileEntry& row) { keys.push_back(row.key); });
+    state.list.ForEach([&](const FileEntry& row) { keys.push_back(row.key); });
     return keys;
   }
 

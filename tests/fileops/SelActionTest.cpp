@@ -18,33 +18,33 @@ using nomra::testing::Exists;
 class SelActionTest : public ListOperationsTest {
  protected:
   SelActionTest() {
-    model.committer = &committer;
-    model.script.settingsPath = settingsFolder.Path() + "settings.nrp";
-    model.dataFolder = settingsFolder.Path();
+    rowCommitter = &committer;
+    script.settingsPath = settingsFolder.Path() + "settings.nrp";
+    options.dataFolder = settingsFolder.Path();
     target = temp.MakeFolder("target");
   }
 
   // A file holding its own relative path, added as a row.
   void Add(const std::string& relative) {
     std::string path = temp.WriteFile(relative, relative);
-    AddFile(model, path);
+    AddFile(load, path);
   }
   FrmSelAction Opened(const std::string& tag) {
     FrmSelAction dialog(tag);
-    dialog.Activate(model);
-    dialog.cmdSelPath(target, model.fileSystem);
+    dialog.Activate(Actions());
+    dialog.cmdSelPath(target, fileSystem);
     return dialog;
   }
   void Choose(FrmSelAction& dialog, const char* option) { dialog.Model().SetOption(option, true); }
 
   TempFolder settingsFolder;
-  DiskCommitter committer{model};
+  DiskCommitter committer{Commit()};
   std::string target;
 };
 
 TEST_F(SelActionTest, CopyOfTheNewNamesIsChosenWhenNothingIsStored) {
   FrmSelAction dialog(kSelActionTag);
-  dialog.Activate(model);
+  dialog.Activate(Actions());
 
   EXPECT_TRUE(dialog.Model().IsSelected("optRenCopy"));
   EXPECT_FALSE(dialog.Model().IsSelected("optRenOriginal"));
@@ -74,10 +74,10 @@ TEST_F(SelActionTest, CopyModeShowsTheUpdateCheckBoxToChoose) {
 }
 
 TEST_F(SelActionTest, MoveModeKeepsTheUpdateCheckBoxCheckedAndDisabled) {
-  Ini(model.script.settingsPath).Write(kMoveFilesTag, "chkUpdateList", "0");
+  Ini(script.settingsPath).Write(kMoveFilesTag, "chkUpdateList", "0");
   FrmSelAction dialog(kMoveFilesTag);
 
-  dialog.Activate(model);
+  dialog.Activate(Actions());
 
   EXPECT_TRUE(dialog.ShowsUpdateList());
   EXPECT_FALSE(dialog.UpdateListEnabled());
@@ -88,26 +88,26 @@ TEST_F(SelActionTest, TagOfNoModeIsRefused) { EXPECT_THROW(FrmSelAction("frmOthe
 
 TEST_F(SelActionTest, OkIsEnabledOnlyForAnExistingFolder) {
   FrmSelAction dialog(kCopyFilesTag);
-  dialog.Activate(model);
+  dialog.Activate(Actions());
   EXPECT_FALSE(dialog.OkEnabled());
 
   dialog.Model().SetText("txtTargetPath", temp.WriteFile("plain.txt"));
-  dialog.txtTargetPath_Change(model.fileSystem);
+  dialog.txtTargetPath_Change(fileSystem);
   EXPECT_FALSE(dialog.OkEnabled());
 
   dialog.Model().SetText("txtTargetPath", temp.Path() + "missing");
-  dialog.txtTargetPath_Change(model.fileSystem);
+  dialog.txtTargetPath_Change(fileSystem);
   EXPECT_FALSE(dialog.OkEnabled());
 
   dialog.Model().SetText("txtTargetPath", target);
-  dialog.txtTargetPath_Change(model.fileSystem);
+  dialog.txtTargetPath_Change(fileSystem);
   EXPECT_TRUE(dialog.OkEnabled());
 }
 
 TEST_F(SelActionTest, CancelledFolderBrowserChangesNothing) {
   FrmSelAction dialog = Opened(kCopyFilesTag);
 
-  dialog.cmdSelPath("", model.fileSystem);
+  dialog.cmdSelPath("", fileSystem);
 
   EXPECT_EQ(dialog.Model().Text("txtTargetPath"), target);
   EXPECT_TRUE(dialog.OkEnabled());
@@ -117,14 +117,14 @@ TEST_F(SelActionTest, RemembersItsInputsUnderItsTag) {
   Add("a.txt");
   FrmSelAction dialog = Opened(kCopyFilesTag);
   dialog.Model().SetNumber("chkUpdateList", 1);
-  ASSERT_TRUE(dialog.cmdOK(model, services));
+  ASSERT_TRUE(dialog.cmdOK(Actions(), rowCommitter, services));
 
   FrmSelAction again(kCopyFilesTag);
-  again.Activate(model);
+  again.Activate(Actions());
   FrmSelAction otherMode(kMoveFilesTag);
-  otherMode.Activate(model);
+  otherMode.Activate(Actions());
 
-  EXPECT_EQ(Ini(model.script.settingsPath).ReadString(kCopyFilesTag, "txtTargetPath"), target);
+  EXPECT_EQ(Ini(script.settingsPath).ReadString(kCopyFilesTag, "txtTargetPath"), target);
   EXPECT_EQ(again.Model().Text("txtTargetPath"), target);
   EXPECT_EQ(again.Model().Number("chkUpdateList"), 1);
   EXPECT_TRUE(again.OkEnabled());
@@ -134,11 +134,11 @@ TEST_F(SelActionTest, RemembersItsInputsUnderItsTag) {
 TEST_F(SelActionTest, CopyTakesTheSelectedFilesAndLeavesTheListWithoutUpdate) {
   Add("a.txt");
   Add("b.txt");
-  model.list.Item(2).selected = true;
+  state.list.Item(2).selected = true;
   const std::vector<std::string> before = Keys();
   FrmSelAction dialog = Opened(kCopyFilesTag);
 
-  EXPECT_TRUE(dialog.cmdOK(model, services));
+  EXPECT_TRUE(dialog.cmdOK(Actions(), rowCommitter, services));
 
   EXPECT_EQ(ReadWholeFile(target + "b.txt"), "b.txt");
   EXPECT_FALSE(Exists(target + "a.txt"));
@@ -149,24 +149,24 @@ TEST_F(SelActionTest, CopyTakesTheSelectedFilesAndLeavesTheListWithoutUpdate) {
 TEST_F(SelActionTest, CopyWithUpdateShowsTheCopiesInTheList) {
   Add("a.txt");
   Add("b.txt");
-  model.list.Item(1).selected = true;
+  state.list.Item(1).selected = true;
   FrmSelAction dialog = Opened(kCopyFilesTag);
   dialog.Model().SetNumber("chkUpdateList", 1);
 
-  dialog.cmdOK(model, services);
+  dialog.cmdOK(Actions(), rowCommitter, services);
 
   // The refresh puts the rows in folder order.
   EXPECT_EQ(Keys(), (std::vector<std::string>{temp.Path() + "b.txt", target + "a.txt"}));
-  EXPECT_EQ(model.list.Item(2)[kColPath], target);
+  EXPECT_EQ(state.list.Item(2)[kColPath], target);
 }
 
 TEST_F(SelActionTest, MovedFilesAreFollowedByTheirRows) {
   Add("a.txt");
   Add("sub/b.txt");
-  model.list.ForEach([](FileEntry& row) { row.selected = true; });
+  state.list.ForEach([](FileEntry& row) { row.selected = true; });
   FrmSelAction dialog = Opened(kMoveFilesTag);
 
-  EXPECT_TRUE(dialog.cmdOK(model, services));
+  EXPECT_TRUE(dialog.cmdOK(Actions(), rowCommitter, services));
 
   EXPECT_EQ(ReadWholeFile(target + "b.txt"), "sub/b.txt");
   EXPECT_FALSE(Exists(temp.Path() + "a.txt"));
@@ -176,25 +176,25 @@ TEST_F(SelActionTest, MovedFilesAreFollowedByTheirRows) {
 TEST_F(SelActionTest, MovedFileKeptBesideAnotherIsFollowedUnderItsNewName) {
   Add("a.txt");
   temp.WriteFile("target/a.txt", "other");
-  model.list.Item(1).selected = true;
+  state.list.Item(1).selected = true;
   frontEnd.answers = {Answer::No, Answer::Yes};
   FrmSelAction dialog = Opened(kMoveFilesTag);
 
-  dialog.cmdOK(model, services);
+  dialog.cmdOK(Actions(), rowCommitter, services);
 
   EXPECT_EQ(Keys(), std::vector<std::string>{target + "a (2).txt"});
-  EXPECT_EQ(model.list.Item(1)[kColNewName], "a (2).txt");
+  EXPECT_EQ(state.list.Item(1)[kColNewName], "a (2).txt");
   EXPECT_EQ(ReadWholeFile(target + "a.txt"), "other");
 }
 
 TEST_F(SelActionTest, SkippedMoveLeavesTheRowWithItsFile) {
   Add("a.txt");
   temp.WriteFile("target/a.txt", "other");
-  model.list.Item(1).selected = true;
+  state.list.Item(1).selected = true;
   frontEnd.answers = {Answer::No, Answer::No};
   FrmSelAction dialog = Opened(kMoveFilesTag);
 
-  dialog.cmdOK(model, services);
+  dialog.cmdOK(Actions(), rowCommitter, services);
 
   EXPECT_EQ(Keys(), std::vector<std::string>{temp.Path() + "a.txt"});
 }
@@ -202,10 +202,10 @@ TEST_F(SelActionTest, SkippedMoveLeavesTheRowWithItsFile) {
 TEST_F(SelActionTest, SelectedRowWithTheNameOfALaterRowStopsWithTheDialogOpen) {
   Add("one/a.txt");
   Add("two/a.txt");
-  model.list.Item(1).selected = true;
+  state.list.Item(1).selected = true;
   FrmSelAction dialog = Opened(kCopyFilesTag);
 
-  EXPECT_FALSE(dialog.cmdOK(model, services));
+  EXPECT_FALSE(dialog.cmdOK(Actions(), rowCommitter, services));
 
   EXPECT_EQ(AskedKeys(), std::vector<std::string>{"MsgText26"});
   EXPECT_EQ(frontEnd.asked[0].captionKey, "msgCapAttention");
@@ -217,10 +217,10 @@ TEST_F(SelActionTest, SelectedRowWithTheNameOfALaterRowStopsWithTheDialogOpen) {
 TEST_F(SelActionTest, SelectedRowIsComparedOnlyWithTheRowsAfterIt) {
   Add("one/a.txt");
   Add("two/a.txt");
-  model.list.Item(2).selected = true;
+  state.list.Item(2).selected = true;
   FrmSelAction dialog = Opened(kCopyFilesTag);
 
-  EXPECT_TRUE(dialog.cmdOK(model, services));
+  EXPECT_TRUE(dialog.cmdOK(Actions(), rowCommitter, services));
 
   EXPECT_EQ(ReadWholeFile(target + "a.txt"), "two/a.txt");
 }
@@ -233,7 +233,7 @@ class TakeChangesCopyTest : public SelActionTest {
     Add("b.txt");
     SetNewName(1, "A.txt");
     SetNewName(2, "B.txt");
-    refreshPreview(model);
+    preview.Refresh();
   }
 };
 
@@ -241,7 +241,7 @@ TEST_F(TakeChangesCopyTest, CopiesGetTheNewNamesAndTheListShowsThemUnchanged) {
   AddPending();
   FrmSelAction dialog = Opened(kSelActionTag);
 
-  EXPECT_TRUE(dialog.cmdOK(model, services));
+  EXPECT_TRUE(dialog.cmdOK(Actions(), rowCommitter, services));
 
   EXPECT_EQ(NamesIn(temp.Path()), (std::vector<std::string>{"a.txt", "b.txt", "target"}));
   EXPECT_EQ(ReadWholeFile(target + "A.txt"), "a.txt");
@@ -249,9 +249,9 @@ TEST_F(TakeChangesCopyTest, CopiesGetTheNewNamesAndTheListShowsThemUnchanged) {
   EXPECT_EQ(Keys(), (std::vector<std::string>{target + "A.txt", target + "B.txt"}));
   EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"A.txt", "B.txt"}));
   EXPECT_EQ(Column(kColNewName), (std::vector<std::string>{"A.txt", "B.txt"}));
-  EXPECT_EQ(model.changedCount, 0);
-  EXPECT_EQ(model.list.Item(1)[kColHistory0], "");
-  EXPECT_EQ(model.undoLevels, 0);
+  EXPECT_EQ(state.changedCount, 0);
+  EXPECT_EQ(state.list.Item(1)[kColHistory0], "");
+  EXPECT_EQ(state.undoLevels, 0);
 }
 
 TEST_F(TakeChangesCopyTest, OriginalsAreRenamedAndTheCopiesKeepTheOldNames) {
@@ -259,12 +259,12 @@ TEST_F(TakeChangesCopyTest, OriginalsAreRenamedAndTheCopiesKeepTheOldNames) {
   FrmSelAction dialog = Opened(kSelActionTag);
   Choose(dialog, "optRenOriginal");
 
-  dialog.cmdOK(model, services);
+  dialog.cmdOK(Actions(), rowCommitter, services);
 
   EXPECT_EQ(NamesIn(temp.Path()), (std::vector<std::string>{"A.txt", "B.txt", "target"}));
   EXPECT_EQ(NamesIn(target), (std::vector<std::string>{"a.txt", "b.txt"}));
   EXPECT_EQ(Keys(), (std::vector<std::string>{temp.Path() + "A.txt", temp.Path() + "B.txt"}));
-  EXPECT_EQ(model.changedCount, 0);
+  EXPECT_EQ(state.changedCount, 0);
 }
 
 TEST_F(TakeChangesCopyTest, BothGetTheNewNamesAndTheListShowsTheCopies) {
@@ -272,7 +272,7 @@ TEST_F(TakeChangesCopyTest, BothGetTheNewNamesAndTheListShowsTheCopies) {
   FrmSelAction dialog = Opened(kSelActionTag);
   Choose(dialog, "optRenBoth");
 
-  dialog.cmdOK(model, services);
+  dialog.cmdOK(Actions(), rowCommitter, services);
 
   EXPECT_EQ(NamesIn(temp.Path()), (std::vector<std::string>{"A.txt", "B.txt", "target"}));
   EXPECT_EQ(NamesIn(target), (std::vector<std::string>{"A.txt", "B.txt"}));
@@ -285,7 +285,7 @@ TEST_F(TakeChangesCopyTest, OriginalThatCouldNotBeRenamedLosesItsPendingName) {
   FrmSelAction dialog = Opened(kSelActionTag);
   Choose(dialog, "optRenOriginal");
 
-  dialog.cmdOK(model, services);
+  dialog.cmdOK(Actions(), rowCommitter, services);
 
   EXPECT_EQ(ReadWholeFile(temp.Path() + "b.txt"), "b.txt");
   EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"A.txt", "b.txt"}));
@@ -300,7 +300,7 @@ TEST_F(TakeChangesCopyTest, StoppedCopyIsTakenLikeAFinishedOne) {
   FrmSelAction dialog = Opened(kSelActionTag);
   Choose(dialog, "optRenBoth");
 
-  EXPECT_TRUE(dialog.cmdOK(model, services));
+  EXPECT_TRUE(dialog.cmdOK(Actions(), rowCommitter, services));
 
   EXPECT_TRUE(NamesIn(target).empty());
   EXPECT_EQ(NamesIn(temp.Path()), (std::vector<std::string>{"A.txt", "B.txt", "target"}));
@@ -312,7 +312,7 @@ TEST_F(TakeChangesCopyTest, EqualNewNamesStopBeforeAnyCopy) {
   SetNewName(2, "A.txt");
   FrmSelAction dialog = Opened(kSelActionTag);
 
-  EXPECT_FALSE(dialog.cmdOK(model, services));
+  EXPECT_FALSE(dialog.cmdOK(Actions(), rowCommitter, services));
 
   EXPECT_EQ(AskedKeys(), std::vector<std::string>{"MsgText26"});
   EXPECT_TRUE(NamesIn(target).empty());
@@ -326,7 +326,7 @@ TEST_F(TakeChangesCopyTest, WithOriginalsRenamedTheOldNamesAreCompared) {
   FrmSelAction dialog = Opened(kSelActionTag);
   Choose(dialog, "optRenOriginal");
 
-  EXPECT_FALSE(dialog.cmdOK(model, services));
+  EXPECT_FALSE(dialog.cmdOK(Actions(), rowCommitter, services));
 
   EXPECT_EQ(AskedKeys(), std::vector<std::string>{"MsgText26"});
 }

@@ -114,7 +114,7 @@ class FilterRowsWithOddCharactersTest : public testing::OpenTest {
     choice.paths = {temp.Path() + "files"};
     choice.allFiles = true;
     choice.filterIndex = filterIndex;
-    RunOpenChoice(model, choice, filters, Ini(settingsFile), false);
+    RunOpenChoice(load, preview, choice, filters, Ini(settingsFile), false);
   }
 
   std::vector<FilterRow> filters;

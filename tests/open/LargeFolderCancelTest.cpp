@@ -46,17 +46,17 @@ class LargeFolderCancelTest : public testing::OpenTest {
   // The user presses the button once the stop count of files is reached;
   // AddFile lets events through on every hundredth call.
   void StopAfterManyFiles() {
-    frontEnd.onPump = [this] {
-      if (model.addCounter < kStopAfter) return;
+    progress.onTick = [this] {
+      if (state.addCounter < kStopAfter) return;
       if (busyDuringLoad < 0) busyDuringLoad = frontEnd.busyDepth;
-      model.cancelLoading = true;
+      progress.stopNow = true;
     };
   }
 
   // Every row is one of the folder's files.
   bool RowsComeFromTheFolder() const {
     bool all = true;
-    model.list.ForEach([&](const FileEntry& row) { all = all && row.key.starts_with(Folder()); });
+    state.list.ForEach([&](const FileEntry& row) { all = all && row.key.starts_with(Folder()); });
     return all;
   }
 
@@ -72,14 +72,14 @@ TEST_F(LargeFolderCancelTest, AllFilesOfTheOpenCommandKeepWhatWasLoadedWhenStopp
   choice.allFiles = true;
   StopAfterManyFiles();
 
-  EXPECT_EQ(RunOpenChoice(model, choice, filters, Ini(settingsFile), false), LoadOutcome::Cancelled);
+  EXPECT_EQ(RunOpenChoice(load, preview, choice, filters, Ini(settingsFile), false), LoadOutcome::Cancelled);
 
   // The file during whose adding the button was pressed still comes in.
-  EXPECT_EQ(model.list.Count(), kStopAfter);
-  EXPECT_GT(model.list.Count(), 0);
-  EXPECT_LT(model.list.Count(), kFileCount);
+  EXPECT_EQ(state.list.Count(), kStopAfter);
+  EXPECT_GT(state.list.Count(), 0);
+  EXPECT_LT(state.list.Count(), kFileCount);
   EXPECT_TRUE(RowsComeFromTheFolder());
-  EXPECT_FALSE(model.cancelLoading);
+  EXPECT_FALSE(load.stopAsked);
   EXPECT_TRUE(Refreshed());
   EXPECT_EQ(Setting("lastpath"), "");
   EXPECT_EQ(Setting("lastfilter"), "");
@@ -92,12 +92,12 @@ TEST_F(LargeFolderCancelTest, StagedFilesKeepWhatWasLoadedWhenStopped) {
   for (int i = 0; i < kFileCount; ++i) staged.push_back(Folder() + FileName(i));
   StopAfterManyFiles();
 
-  EXPECT_EQ(LoadStagedFiles(model, staged), LoadOutcome::Cancelled);
+  EXPECT_EQ(LoadStagedFiles(load, preview, staged), LoadOutcome::Cancelled);
 
-  EXPECT_EQ(model.list.Count(), kStopAfter);
+  EXPECT_EQ(state.list.Count(), kStopAfter);
   EXPECT_TRUE(RowKeys().contains(Folder() + FileName(0)));
   EXPECT_FALSE(RowKeys().contains(Folder() + FileName(kStopAfter)));
-  EXPECT_FALSE(model.cancelLoading);
+  EXPECT_FALSE(load.stopAsked);
   EXPECT_TRUE(Refreshed());
   EXPECT_TRUE(staged.empty());
   EXPECT_EQ(busyDuringLoad, 1);
@@ -107,11 +107,11 @@ TEST_F(LargeFolderCancelTest, StagedFilesKeepWhatWasLoadedWhenStopped) {
 TEST_F(LargeFolderCancelTest, PlaylistKeepsWhatWasLoadedAndLeavesTheFlagToItsCaller) {
   StopAfterManyFiles();
 
-  EXPECT_EQ(LoadPlaylist(model, Playlist()), LoadOutcome::Cancelled);
+  EXPECT_EQ(LoadPlaylist(load, preview, Playlist()), LoadOutcome::Cancelled);
 
-  EXPECT_EQ(model.list.Count(), kStopAfter);
+  EXPECT_EQ(state.list.Count(), kStopAfter);
   EXPECT_TRUE(RowsComeFromTheFolder());
-  EXPECT_TRUE(model.cancelLoading);
+  EXPECT_TRUE(load.stopAsked);
   EXPECT_FALSE(Refreshed());
   // A playlist on its own shows no wait pointer; the command around it does.
   EXPECT_EQ(busyDuringLoad, 0);
@@ -124,10 +124,10 @@ TEST_F(LargeFolderCancelTest, PlaylistOfTheOpenCommandIsStoppedAndTheFlagCleared
   choice.paths = {Playlist(), Playlist()};
   StopAfterManyFiles();
 
-  EXPECT_EQ(RunOpenChoice(model, choice, {}, Ini(settingsFile), false), LoadOutcome::Cancelled);
+  EXPECT_EQ(RunOpenChoice(load, preview, choice, {}, Ini(settingsFile), false), LoadOutcome::Cancelled);
 
-  EXPECT_EQ(model.list.Count(), kStopAfter);
-  EXPECT_FALSE(model.cancelLoading);
+  EXPECT_EQ(state.list.Count(), kStopAfter);
+  EXPECT_FALSE(load.stopAsked);
   EXPECT_TRUE(Refreshed());
   EXPECT_EQ(Setting("lastpath"), "");
   EXPECT_EQ(busyDuringLoad, 1);

@@ -24,7 +24,7 @@ class OpenCommandTest : public testing::OpenTest {
   }
 
   LoadOutcome Run(const OpenChoice& choice, bool showHiddenFiles = false) {
-    return RunOpenChoice(model, choice, filters, Ini(settingsFile), showHiddenFiles);
+    return RunOpenChoice(load, preview, choice, filters, Ini(settingsFile), showHiddenFiles);
   }
 
   // Every file of the folder, all of them through row 2 ("*.mp3").
@@ -89,7 +89,7 @@ TEST_F(OpenCommandTest, CancelAfterAChosenFileStopsWithoutRememberingTheFolder) 
   CancelAtFile(1);
   EXPECT_EQ(Run(choice), LoadOutcome::Cancelled);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{a}));
-  EXPECT_FALSE(model.cancelLoading);
+  EXPECT_FALSE(load.stopAsked);
   EXPECT_TRUE(Refreshed());
   EXPECT_EQ(Setting("lastpath"), "");
   EXPECT_EQ(Setting("lastfilter"), "");
@@ -97,7 +97,7 @@ TEST_F(OpenCommandTest, CancelAfterAChosenFileStopsWithoutRememberingTheFolder) 
 }
 
 TEST_F(OpenCommandTest, ChosenPathThatNamesNothingEndsTheCommandWithAFault) {
-  model.checkExistence = false;
+  options.checkExistence = false;
   const std::string a = temp.WriteFile("a.mp3");
   OpenChoice choice;
   choice.paths = {a, temp.Path() + "gone.mp3", temp.WriteFile("c.mp3")};
@@ -128,7 +128,7 @@ TEST_F(OpenCommandTest, AllFilesWithSeveralPatternsTakesNothing) {
   temp.WriteFile("music/a.mp3");
   temp.WriteFile("music/b.ogg");
   Run(AllFilesOf(temp.Path() + "music", 3));
-  EXPECT_EQ(model.list.Count(), 0);
+  EXPECT_EQ(state.list.Count(), 0);
 }
 
 TEST_F(OpenCommandTest, AllFilesThroughTheFirstRowLeavesNamesWithoutADot) {
@@ -169,7 +169,7 @@ TEST_F(OpenCommandTest, DroppedFolderTakesTheHiddenFilesTheDialogLeavesOut) {
   EXPECT_FALSE(RowKeys().contains(hidden));
 
   std::string dropped = temp.Path() + "music";
-  AddFile(model, dropped);
+  AddFile(load, dropped);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{shown, hidden}));
 }
 
@@ -220,8 +220,8 @@ TEST_F(OpenCommandTest, CancelDuringTheFolderWalkStopsWithoutRememberingTheFolde
   choice.subFolders = true;
   CancelAtFile(2);
   EXPECT_EQ(Run(choice), LoadOutcome::Cancelled);
-  EXPECT_EQ(model.list.Count(), 2);
-  EXPECT_FALSE(model.cancelLoading);
+  EXPECT_EQ(state.list.Count(), 2);
+  EXPECT_FALSE(load.stopAsked);
   EXPECT_TRUE(Refreshed());
   EXPECT_EQ(Setting("lastpath"), "");
   EXPECT_EQ(Setting("lastfilter"), "");
@@ -233,8 +233,8 @@ TEST_F(OpenCommandTest, CancelWhileTheLastFileIsAddedIsNotLeftStanding) {
   temp.WriteFile("music/b.mp3");
   CancelAtFile(2);
   EXPECT_EQ(Run(AllFilesOf(temp.Path() + "music")), LoadOutcome::Cancelled);
-  EXPECT_EQ(model.list.Count(), 2);
-  EXPECT_FALSE(model.cancelLoading);
+  EXPECT_EQ(state.list.Count(), 2);
+  EXPECT_FALSE(load.stopAsked);
   EXPECT_EQ(Setting("lastpath"), "");
 }
 
@@ -275,7 +275,7 @@ TEST_F(OpenCommandTest, CancelInAPlaylistSkipsTheLaterPlaylistsAndClearsTheFlag)
   CancelAtFile(1);
   EXPECT_EQ(Run(choice), LoadOutcome::Cancelled);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{a}));
-  EXPECT_FALSE(model.cancelLoading);
+  EXPECT_FALSE(load.stopAsked);
   EXPECT_TRUE(Refreshed());
   EXPECT_EQ(Setting("lastpath"), "");
 }

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "core/MainModel.h"
 #include "support/RealFiles.h"
 #include "settings/SettingsKeys.h"
 #include "support/ForwardingFileSystem.h"
+#include "support/ListFixture.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
 
@@ -36,51 +36,46 @@ class RecordingFileSystem final : public ForwardingFileSystem {
 };
 
 // A list over real files in a temporary folder with a settings file beside
-// them, and a front end that can press the cancel button.
-class OpenTest : public ::testing::Test {
+// them, and a progress that can press the cancel button.
+class OpenTest : public ListTestOver<RecordingFileSystem> {
  protected:
   OpenTest() {
-    model.statusTexts[1] = "%1 files in %2 folders, %3 changed";
-    model.statusTexts[2] = "Adding";
+    texts.listSummary = "%1 files in %2 folders, %3 changed";
+    texts.adding = "Adding";
   }
 
   // The cancel button is pressed while the `count`-th file from now is
   // added: AddFile lets events through on every hundredth call.
   void CancelAtFile(long count) {
-    model.addCounter = 100 - count;
-    frontEnd.onPump = [this] {
+    state.addCounter = 100 - count;
+    progress.onTick = [this] {
       busyDuringLoad = frontEnd.busyDepth;
-      model.cancelLoading = true;
+      progress.stopNow = true;
     };
   }
 
   // The event pump runs during the next file added, and notes whether the
   // wait pointer was shown then.
   void WatchPointerAtNextFile() {
-    model.addCounter = 99;
-    frontEnd.onPump = [this] { busyDuringLoad = frontEnd.busyDepth; };
+    state.addCounter = 99;
+    progress.onTick = [this] { busyDuringLoad = frontEnd.busyDepth; };
   }
 
   std::set<std::string> RowKeys() const {
     std::set<std::string> keys;
-    model.list.ForEach([&](const FileEntry& row) { keys.insert(row.key); });
+    state.list.ForEach([&](const FileEntry& row) { keys.insert(row.key); });
     return keys;
   }
 
   // The refresh always enables the open command; nothing else here does.
-  bool Refreshed() const { return model.commands.IsEnabled("OpenFile"); }
+  bool Refreshed() const { return window.commands.IsEnabled("OpenFile"); }
 
   std::string Setting(const char* key) const {
     return Ini(settingsFile).ReadString(settings::kSettingsSection, key);
   }
 
-  TempFolder temp;
   TempFolder settingsFolder;
   const std::string settingsFile = settingsFolder.Path() + settings::kSettingsFileName;
-  RecordingFileSystem fileSystem;
-  ScriptedFrontEnd frontEnd;
-  NoExifDates noExif;
-  MainModel model{fileSystem, frontEnd, noExif};
   int busyDuringLoad = -1;
 };
 

@@ -42,9 +42,9 @@ TEST_F(PlaylistBadInputTest, GarbageLinesAroundEntriesLeaveTheEntriesLoading) {
   for (int i = 0; i < 500; ++i) content += GarbageLine(random) + "\n";
   content += "b.mp3\n";
   const std::string list = temp.WriteFile("list.m3u", content);
-  model.checkExistence = false;  // every garbage line is a fault for AddFile to raise
+  options.checkExistence = false;  // every garbage line is a fault for AddFile to raise
 
-  EXPECT_EQ(LoadPlaylist(model, list), LoadOutcome::Finished);
+  EXPECT_EQ(LoadPlaylist(load, preview, list), LoadOutcome::Finished);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{a, b}));
   EXPECT_TRUE(Refreshed());
 }
@@ -59,8 +59,8 @@ TEST_F(PlaylistBadInputTest, LineOfAHundredThousandCharactersIsKeptWholeAndAddsN
   EXPECT_EQ(entries[0], temp.Path() + longLine);
   EXPECT_EQ(entries[2], temp.Path() + longLine + ".mp3");
 
-  model.checkExistence = false;
-  EXPECT_EQ(LoadPlaylist(model, list), LoadOutcome::Finished);
+  options.checkExistence = false;
+  EXPECT_EQ(LoadPlaylist(load, preview, list), LoadOutcome::Finished);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{a}));
 }
 
@@ -74,8 +74,8 @@ TEST_F(PlaylistBadInputTest, ControlCharactersStayPartOfTheEntry) {
   EXPECT_EQ(entries, (Entries{temp.Path() + "\x01\x02\x03", temp.Path() + "\x1b[2J\x1b[H",
                               temp.Path() + "\x08\x08\x08\x0b\x0c", odd}));
 
-  model.checkExistence = false;
-  EXPECT_EQ(LoadPlaylist(model, list), LoadOutcome::Finished);
+  options.checkExistence = false;
+  EXPECT_EQ(LoadPlaylist(load, preview, list), LoadOutcome::Finished);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{odd}));
 }
 
@@ -87,7 +87,7 @@ TEST_F(PlaylistBadInputTest, LineHoldingANulNamesNoFile) {
   const std::string list = temp.WriteFile("list.m3u", "a.mp3\0junk\n\0\n\0sub\nb.mp3\n"s);
 
   EXPECT_EQ(ReadPlaylistEntries(list, fileSystem), (Entries{b}));
-  EXPECT_EQ(LoadPlaylist(model, list), LoadOutcome::Finished);
+  EXPECT_EQ(LoadPlaylist(load, preview, list), LoadOutcome::Finished);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{b}));
 }
 
@@ -101,12 +101,12 @@ TEST_F(PlaylistBadInputTest, BinaryFileAsPlaylistAddsNothing) {
   for (char& c : bytes) {
     if (c == '/' || c == '.') c = '\0';
   }
-  model.checkExistence = false;
+  options.checkExistence = false;
 
   for (const char* name : {"noise.m3u", "noise.pls", "noise.bin"}) {
     const std::string list = temp.WriteFile(name, bytes);
-    EXPECT_EQ(LoadPlaylist(model, list), LoadOutcome::Finished) << name;
-    EXPECT_EQ(model.list.Count(), 0) << name;
+    EXPECT_EQ(LoadPlaylist(load, preview, list), LoadOutcome::Finished) << name;
+    EXPECT_EQ(state.list.Count(), 0) << name;
     EXPECT_TRUE(Refreshed()) << name;
   }
 }
@@ -118,12 +118,12 @@ TEST_F(PlaylistBadInputTest, HugePlaylistOfMissingEntriesRunsToItsLastLine) {
   const std::string last = temp.WriteFile("present.mp3");
   content += "present.mp3\n";
   const std::string list = temp.WriteFile("huge.m3u", content);
-  model.checkExistence = true;  // every entry is passed over in silence, none raises a fault
+  options.checkExistence = true;  // every entry is passed over in silence, none raises a fault
 
-  EXPECT_EQ(LoadPlaylist(model, list), LoadOutcome::Finished);
+  EXPECT_EQ(LoadPlaylist(load, preview, list), LoadOutcome::Finished);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{last}));
   // AddFile lets events through on every hundredth call: one call per line.
-  EXPECT_EQ(frontEnd.pumps, 200001 / 100);
+  EXPECT_EQ(progress.ticks, 200001 / 100);
   EXPECT_TRUE(Refreshed());
 }
 
@@ -134,7 +134,7 @@ TEST_F(PlaylistBadInputTest, FolderEntryLoadsTheFolderWholeAsAddFileDoes) {
   const std::string other = temp.WriteFile("elsewhere/other.ogg");
   const std::string list = temp.WriteFile("lists/list.m3u", "../music\n" + temp.Path() + "elsewhere/\n");
 
-  EXPECT_EQ(LoadPlaylist(model, list), LoadOutcome::Finished);
+  EXPECT_EQ(LoadPlaylist(load, preview, list), LoadOutcome::Finished);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{top, hidden, deep, other}));
 }
 
@@ -143,9 +143,9 @@ TEST_F(PlaylistBadInputTest, EntryNamingThePlaylistItselfAddsItAsARow) {
   temp.WriteFile("lists/self.m3u", "self.m3u\n" + m3u + "\n./self.m3u\n../lists/self.m3u\n");
   const std::string pls = temp.WriteFile("lists/self.pls", "[playlist]\nFile1=self.pls\n");
 
-  EXPECT_EQ(LoadPlaylist(model, m3u), LoadOutcome::Finished);
+  EXPECT_EQ(LoadPlaylist(load, preview, m3u), LoadOutcome::Finished);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{m3u}));
-  EXPECT_EQ(LoadPlaylist(model, pls), LoadOutcome::Finished);
+  EXPECT_EQ(LoadPlaylist(load, preview, pls), LoadOutcome::Finished);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{m3u, pls}));
 }
 

@@ -90,7 +90,7 @@ TEST_F(PlaylistTest, LoadAddsEveryEntryAndRefreshesAfterTheLast) {
   const std::string a = temp.WriteFile("a.mp3");
   const std::string b = temp.WriteFile("sub/b.mp3");
   const std::string list = temp.WriteFile("list.m3u", "#EXTM3U\na.mp3\r\nsub/b.mp3\r\n");
-  EXPECT_EQ(LoadPlaylist(model, list), LoadOutcome::Finished);
+  EXPECT_EQ(LoadPlaylist(load, preview, list), LoadOutcome::Finished);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{a, b}));
   EXPECT_TRUE(Refreshed());
   ASSERT_FALSE(frontEnd.statusTexts.empty());
@@ -98,30 +98,30 @@ TEST_F(PlaylistTest, LoadAddsEveryEntryAndRefreshesAfterTheLast) {
 }
 
 TEST_F(PlaylistTest, LoadOfAMissingPlaylistChangesNothing) {
-  EXPECT_EQ(LoadPlaylist(model, temp.Path() + "none.m3u"), LoadOutcome::Finished);
-  EXPECT_EQ(model.list.Count(), 0);
+  EXPECT_EQ(LoadPlaylist(load, preview, temp.Path() + "none.m3u"), LoadOutcome::Finished);
+  EXPECT_EQ(state.list.Count(), 0);
   EXPECT_FALSE(Refreshed());
   EXPECT_TRUE(frontEnd.statusTexts.empty());
 }
 
 TEST_F(PlaylistTest, LoadOfAnEmptyPlaylistStillRefreshes) {
-  LoadPlaylist(model, temp.WriteFile("list.m3u", "#EXTM3U\r\n"));
+  LoadPlaylist(load, preview, temp.WriteFile("list.m3u", "#EXTM3U\r\n"));
   EXPECT_TRUE(Refreshed());
 }
 
 TEST_F(PlaylistTest, LoadPassesOverEntriesThatNameNothing) {
-  model.checkExistence = false;  // AddFile reports such an entry as a fault
+  options.checkExistence = false;  // AddFile reports such an entry as a fault
   const std::string b = temp.WriteFile("b.mp3");
   const std::string list = temp.WriteFile("list.pls", "File1=/nomra-missing/a.mp3\nFile2=missing.mp3\nFile3=b.mp3\n");
-  EXPECT_EQ(LoadPlaylist(model, list), LoadOutcome::Finished);
+  EXPECT_EQ(LoadPlaylist(load, preview, list), LoadOutcome::Finished);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{b}));
   EXPECT_TRUE(Refreshed());
 }
 
 TEST_F(PlaylistTest, FileListedTwiceGivesOneRow) {
   const std::string a = temp.WriteFile("a.mp3");
-  LoadPlaylist(model, temp.WriteFile("list.m3u", "a.mp3\n" + a + "\n./a.mp3\n"));
-  EXPECT_EQ(model.list.Count(), 1);
+  LoadPlaylist(load, preview, temp.WriteFile("list.m3u", "a.mp3\n" + a + "\n./a.mp3\n"));
+  EXPECT_EQ(state.list.Count(), 1);
 }
 
 TEST_F(PlaylistTest, CancelReturnsAtOnceLeavingTheFlagAndTheView) {
@@ -130,9 +130,9 @@ TEST_F(PlaylistTest, CancelReturnsAtOnceLeavingTheFlagAndTheView) {
   temp.WriteFile("c.mp3");
   const std::string list = temp.WriteFile("list.m3u", "a.mp3\nb.mp3\nc.mp3\n");
   CancelAtFile(2);
-  EXPECT_EQ(LoadPlaylist(model, list), LoadOutcome::Cancelled);
-  EXPECT_EQ(model.list.Count(), 2);
-  EXPECT_TRUE(model.cancelLoading);
+  EXPECT_EQ(LoadPlaylist(load, preview, list), LoadOutcome::Cancelled);
+  EXPECT_EQ(state.list.Count(), 2);
+  EXPECT_TRUE(load.stopAsked);
   EXPECT_FALSE(Refreshed());
 }
 

@@ -149,7 +149,7 @@ TEST_F(StagedFilesTest, LoadAddsEveryStagedPathRefreshesAndEmptiesTheList) {
   const std::string b = temp.WriteFile("b.mp3");
   Paths staged{a, b, a};
   WatchPointerAtNextFile();
-  EXPECT_EQ(LoadStagedFiles(model, staged), LoadOutcome::Finished);
+  EXPECT_EQ(LoadStagedFiles(load, preview, staged), LoadOutcome::Finished);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{a, b}));
   EXPECT_TRUE(Refreshed());
   EXPECT_TRUE(staged.empty());
@@ -159,7 +159,7 @@ TEST_F(StagedFilesTest, LoadAddsEveryStagedPathRefreshesAndEmptiesTheList) {
 
 TEST_F(StagedFilesTest, LoadOfNothingStillRefreshes) {
   Paths staged;
-  EXPECT_EQ(LoadStagedFiles(model, staged), LoadOutcome::Finished);
+  EXPECT_EQ(LoadStagedFiles(load, preview, staged), LoadOutcome::Finished);
   EXPECT_TRUE(Refreshed());
   EXPECT_EQ(frontEnd.busyDepth, 0);
 }
@@ -168,19 +168,19 @@ TEST_F(StagedFilesTest, CancelClearsTheFlagStopsAndEmptiesTheList) {
   const std::string a = temp.WriteFile("a.mp3");
   Paths staged{a, temp.WriteFile("b.mp3"), temp.WriteFile("c.mp3")};
   CancelAtFile(1);
-  EXPECT_EQ(LoadStagedFiles(model, staged), LoadOutcome::Cancelled);
+  EXPECT_EQ(LoadStagedFiles(load, preview, staged), LoadOutcome::Cancelled);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{a}));
-  EXPECT_FALSE(model.cancelLoading);
+  EXPECT_FALSE(load.stopAsked);
   EXPECT_TRUE(Refreshed());
   EXPECT_TRUE(staged.empty());
   EXPECT_EQ(frontEnd.busyDepth, 0);
 }
 
 TEST_F(StagedFilesTest, StagedPathThatNamesNothingEndsTheLoadWithAFault) {
-  model.checkExistence = false;
+  options.checkExistence = false;
   const std::string a = temp.WriteFile("a.mp3");
   Paths staged{a, temp.Path() + "gone.mp3", temp.WriteFile("c.mp3")};
-  EXPECT_THROW(LoadStagedFiles(model, staged), RuntimeFault);
+  EXPECT_THROW(LoadStagedFiles(load, preview, staged), RuntimeFault);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{a}));
   EXPECT_TRUE(Refreshed());
   EXPECT_TRUE(staged.empty());
@@ -188,10 +188,10 @@ TEST_F(StagedFilesTest, StagedPathThatNamesNothingEndsTheLoadWithAFault) {
 }
 
 TEST_F(StagedFilesTest, StagedPathThatNamesNothingIsSkippedWhenExistenceIsChecked) {
-  model.checkExistence = true;
+  options.checkExistence = true;
   const std::string c = temp.WriteFile("c.mp3");
   Paths staged{temp.Path() + "gone.mp3", c};
-  EXPECT_EQ(LoadStagedFiles(model, staged), LoadOutcome::Finished);
+  EXPECT_EQ(LoadStagedFiles(load, preview, staged), LoadOutcome::Finished);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{c}));
 }
 

@@ -59,7 +59,7 @@ TEST_F(UnreadableFolderTest, AllFilesWithSubFoldersPassOverItAndGoOn) {
   choice.allFiles = true;
   choice.subFolders = true;
 
-  EXPECT_EQ(RunOpenChoice(model, choice, {{"All files", "*.*"}}, Ini(settingsFile), false), LoadOutcome::Finished);
+  EXPECT_EQ(RunOpenChoice(load, preview, choice, {{"All files", "*.*"}}, Ini(settingsFile), false), LoadOutcome::Finished);
 
   EXPECT_EQ(RowKeys(), (std::set<std::string>{top, b, deepB}));
   EXPECT_EQ(Setting("lastpath"), temp.Path() + "music/");
@@ -78,7 +78,7 @@ TEST_F(UnreadableFolderTest, FolderEntryOfAPlaylistPassesOverItAndGoesOn) {
   if (!LockFolderA()) GTEST_SKIP() << kReadableAnyway;
   const std::string list = temp.WriteFile("list.m3u", "music\n");
 
-  EXPECT_EQ(LoadPlaylist(model, list), LoadOutcome::Finished);
+  EXPECT_EQ(LoadPlaylist(load, preview, list), LoadOutcome::Finished);
 
   EXPECT_EQ(RowKeys(), (std::set<std::string>{top, b, deepB}));
   EXPECT_TRUE(Refreshed());

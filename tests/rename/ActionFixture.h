@@ -11,16 +11,16 @@ namespace nomra::testing {
 class ActionTest : public ListTest {
  protected:
   ActionTest() {
-    model.statusTexts[6] = "File %1 of %2";
-    model.script.dataFolder = data.Path();
-    model.script.settingsPath = data.Path() + settings::kSettingsFileName;
-    model.script.tempPath = data.Path() + settings::kScriptTempFileName;
+    texts.rowOfCount = "File %1 of %2";
+    script.dataFolder = data.Path();
+    script.settingsPath = data.Path() + settings::kSettingsFileName;
+    script.tempPath = data.Path() + settings::kScriptTempFileName;
   }
 
   std::vector<std::string> PendingNames() { return Column(kColNewName); }
 
-  std::string SettingsText() const { return ReadWholeFile(model.script.settingsPath); }
-  std::string RecordingText() const { return ReadWholeFile(model.script.tempPath); }
+  std::string SettingsText() const { return ReadWholeFile(script.settingsPath); }
+  std::string RecordingText() const { return ReadWholeFile(script.tempPath); }
 
   TempFolder data;
 };

@@ -20,13 +20,13 @@ class TestActionDialog final : public ActionDialog {
     Model().AddText("txtValue");
   }
   const ActionTraits& Traits() const override { return traits_; }
-  bool CheckInputs(MainModel& model) override {
-    if (refuse) model.frontEnd.Ask({"MsgText99", "MsgCap99", MessageStyle::OkWarning, {}});
+  bool CheckInputs(const ActionContext& context) override {
+    if (refuse) context.User().Ask({"MsgText99", "MsgCap99", MessageStyle::OkWarning, {}});
     return !refuse;
   }
-  void Run(MainModel& model) override {
+  void Run(const ActionContext& context) override {
     const std::string value = Model().Text("txtValue");
-    RewritePendingNames(model, [&](int, const FileEntry& entry) { return entry[kColNewName] + value; });
+    RewritePendingNames(context, [&](int, const FileEntry& entry) { return entry[kColNewName] + value; });
   }
   bool refuse = false;
 
@@ -46,15 +46,15 @@ class ActionFrameTest : public testing::ActionTest {
   bool Apply(const std::string& prefix, const std::string& suffix = "") {
     prefixSuffix.Model().SetText("txtPr", prefix);
     prefixSuffix.Model().SetText("txtSu", suffix);
-    return ApplyActionDialog(prefixSuffix, model);
+    return ApplyActionDialog(prefixSuffix, Actions());
   }
 
   // A script of one prefix/suffix step, chosen to be played.
   void PlayOneStepScript(int runMode, const std::string& prefix) {
-    model.script.runPath = data.WriteFile("Script/20261115023303.nrs",
+    script.runPath = data.WriteFile("Script/20261115023303.nrs",
                                           "[Main]\r\nSteps=1\r\n\r\n[1]\r\nType=5\r\ntxtPr=" + prefix + "\r\n");
-    model.script.runMode = static_cast<std::int16_t>(runMode);
-    model.script.runStep = 1;
+    script.runMode = static_cast<std::int16_t>(runMode);
+    script.runStep = 1;
   }
 
   void WriteRememberedPrefix(const std::string& prefix) {
@@ -65,7 +65,7 @@ class ActionFrameTest : public testing::ActionTest {
 };
 
 TEST_F(ActionFrameTest, ApplyRemembersTheInputsUnderFrmPSWhenRememberingIsOn) {
-  model.script.saveDialogSettings = true;
+  script.saveDialogSettings = true;
   ASSERT_TRUE(Apply("new ", "_1"));
   EXPECT_EQ(SettingsText(), "[FrmPS]\r\ntxtPr=new\xC2\x90\r\ntxtSu=_1\r\n");
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"new a_1.txt", "new b_1.txt"}));
@@ -73,16 +73,16 @@ TEST_F(ActionFrameTest, ApplyRemembersTheInputsUnderFrmPSWhenRememberingIsOn) {
 
 TEST_F(ActionFrameTest, ApplyRemembersNothingWhenRememberingIsOff) {
   ASSERT_TRUE(Apply("new"));
-  EXPECT_FALSE(testing::Exists(model.script.settingsPath));
+  EXPECT_FALSE(testing::Exists(script.settingsPath));
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"newa.txt", "newb.txt"}));
 }
 
 TEST_F(ActionFrameTest, ApplyWhileAScriptPlaysLeavesTheRememberedInputsAlone) {
-  model.script.saveDialogSettings = true;
+  script.saveDialogSettings = true;
   WriteRememberedPrefix("mine");
   const std::string remembered = SettingsText();
   for (int runMode : {1, 2}) {
-    model.script.runMode = static_cast<std::int16_t>(runMode);
+    script.runMode = static_cast<std::int16_t>(runMode);
     ASSERT_TRUE(Apply("played"));
     EXPECT_EQ(SettingsText(), remembered) << runMode;
   }
@@ -91,15 +91,15 @@ TEST_F(ActionFrameTest, ApplyWhileAScriptPlaysLeavesTheRememberedInputsAlone) {
 
 TEST_F(ActionFrameTest, ApplyDuringARecordingAppendsAStepOfTheActionsType) {
   data.WriteFile(settings::kScriptTempFileName, "[Main]\r\nSteps=0\r\n");
-  model.script.recording = 1;
+  script.recording = 1;
   ASSERT_TRUE(Apply("x"));
   EXPECT_EQ(RecordingText(), "[Main]\r\nSteps=1\r\n\r\n[1]\r\nType=5\r\ntxtPr=x\r\n");
-  EXPECT_FALSE(testing::Exists(model.script.settingsPath));
+  EXPECT_FALSE(testing::Exists(script.settingsPath));
 }
 
 TEST_F(ActionFrameTest, ApplyingTwiceRecordsTwoSteps) {
   data.WriteFile(settings::kScriptTempFileName, "[Main]\r\nSteps=0\r\n");
-  model.script.recording = 1;
+  script.recording = 1;
   ASSERT_TRUE(Apply("x"));
   ASSERT_TRUE(Apply("", "y"));
   EXPECT_EQ(RecordingText(),
@@ -109,13 +109,13 @@ TEST_F(ActionFrameTest, ApplyingTwiceRecordsTwoSteps) {
 
 TEST_F(ActionFrameTest, ApplyWithoutARecordingWritesNoStep) {
   ASSERT_TRUE(Apply("x"));
-  EXPECT_FALSE(testing::Exists(model.script.tempPath));
+  EXPECT_FALSE(testing::Exists(script.tempPath));
 }
 
 TEST_F(ActionFrameTest, ApplyBothRemembersAndRecordsWhenBothAreOn) {
   data.WriteFile(settings::kScriptTempFileName, "[Main]\r\nSteps=0\r\n");
-  model.script.recording = 1;
-  model.script.saveDialogSettings = true;
+  script.recording = 1;
+  script.saveDialogSettings = true;
   ASSERT_TRUE(Apply("x"));
   EXPECT_EQ(SettingsText(), "[FrmPS]\r\ntxtPr=x\r\n");
   EXPECT_EQ(RecordingText(), "[Main]\r\nSteps=1\r\n\r\n[1]\r\nType=5\r\ntxtPr=x\r\n");
@@ -123,110 +123,110 @@ TEST_F(ActionFrameTest, ApplyBothRemembersAndRecordsWhenBothAreOn) {
 
 TEST_F(ActionFrameTest, RefusedInputsAreNeitherRememberedNorRecordedNorApplied) {
   data.WriteFile(settings::kScriptTempFileName, "[Main]\r\nSteps=0\r\n");
-  model.script.recording = 1;
-  model.script.saveDialogSettings = true;
+  script.recording = 1;
+  script.saveDialogSettings = true;
   TestActionDialog dialog({"frmTest", "frmTest", "frmTest", 7, false, RestoreMoment::OnLoad});
   dialog.Model().SetText("txtValue", "!");
   dialog.refuse = true;
-  EXPECT_FALSE(ApplyActionDialog(dialog, model));
+  EXPECT_FALSE(ApplyActionDialog(dialog, Actions()));
   EXPECT_EQ(frontEnd.asked.size(), 1u);
-  EXPECT_FALSE(testing::Exists(model.script.settingsPath));
+  EXPECT_FALSE(testing::Exists(script.settingsPath));
   EXPECT_EQ(RecordingText(), "[Main]\r\nSteps=0\r\n");
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.txt", "b.txt"}));
 }
 
 TEST_F(ActionFrameTest, LoadRestoresTheRememberedInputsFromFrmPS) {
-  model.script.saveDialogSettings = true;
+  script.saveDialogSettings = true;
   WriteRememberedPrefix("mine\xC2\x90");
-  LoadActionDialog(prefixSuffix, model);
+  LoadActionDialog(prefixSuffix, Actions());
   EXPECT_EQ(prefixSuffix.Model().Text("txtPr"), "mine ");
 }
 
 TEST_F(ActionFrameTest, InputsRememberedOnApplyComeBackAtTheNextOpening) {
-  model.script.saveDialogSettings = true;
+  script.saveDialogSettings = true;
   ASSERT_TRUE(Apply(" two  blanks ", "."));
   PrefixSuffixDialog reopened;
-  LoadActionDialog(reopened, model);
+  LoadActionDialog(reopened, Actions());
   EXPECT_EQ(reopened.Model().Text("txtPr"), " two  blanks ");
   EXPECT_EQ(reopened.Model().Text("txtSu"), ".");
 }
 
 TEST_F(ActionFrameTest, LoadRestoresNothingWhenRememberingIsOff) {
   WriteRememberedPrefix("mine");
-  LoadActionDialog(prefixSuffix, model);
+  LoadActionDialog(prefixSuffix, Actions());
   EXPECT_EQ(prefixSuffix.Model().Text("txtPr"), "");
 }
 
 TEST_F(ActionFrameTest, LoadDuringPlaybackTakesThePlayedStepAndNotTheSettings) {
-  model.script.saveDialogSettings = true;
+  script.saveDialogSettings = true;
   WriteRememberedPrefix("mine");
   for (int runMode : {1, 2}) {
     PrefixSuffixDialog dialog;
     PlayOneStepScript(runMode, "played");
-    LoadActionDialog(dialog, model);
+    LoadActionDialog(dialog, Actions());
     EXPECT_EQ(dialog.Model().Text("txtPr"), "played") << runMode;
   }
 }
 
 TEST_F(ActionFrameTest, LoadDuringPlaybackTakesTheStepAlsoWhenRememberingIsOff) {
   PlayOneStepScript(2, "played");
-  LoadActionDialog(prefixSuffix, model);
+  LoadActionDialog(prefixSuffix, Actions());
   EXPECT_EQ(prefixSuffix.Model().Text("txtPr"), "played");
 }
 
 TEST_F(ActionFrameTest, OnlyRunningAllStepsPressesOkAtTheFirstActivation) {
-  model.script.runMode = 1;
-  EXPECT_TRUE(ActivateActionDialog(prefixSuffix, model, true));
-  EXPECT_FALSE(ActivateActionDialog(prefixSuffix, model, false));
-  model.script.runMode = 2;
-  EXPECT_FALSE(ActivateActionDialog(prefixSuffix, model, true));
-  model.script.runMode = 0;
-  EXPECT_FALSE(ActivateActionDialog(prefixSuffix, model, true));
+  script.runMode = 1;
+  EXPECT_TRUE(ActivateActionDialog(prefixSuffix, Actions(), true));
+  EXPECT_FALSE(ActivateActionDialog(prefixSuffix, Actions(), false));
+  script.runMode = 2;
+  EXPECT_FALSE(ActivateActionDialog(prefixSuffix, Actions(), true));
+  script.runMode = 0;
+  EXPECT_FALSE(ActivateActionDialog(prefixSuffix, Actions(), true));
 }
 
 TEST_F(ActionFrameTest, DialogThatRestoresOnActivationDoesSoTheFirstTimeOnly) {
-  model.script.saveDialogSettings = true;
+  script.saveDialogSettings = true;
   data.WriteFile(settings::kSettingsFileName, "[frmNumber]\r\ntxtValue=remembered\r\n");
   TestActionDialog dialog({"frmNumber", "frmNumber", "frmNumber", 1, true, RestoreMoment::OnFirstActivation});
-  LoadActionDialog(dialog, model);
+  LoadActionDialog(dialog, Actions());
   EXPECT_EQ(dialog.Model().Text("txtValue"), "");
-  ActivateActionDialog(dialog, model, true);
+  ActivateActionDialog(dialog, Actions(), true);
   EXPECT_EQ(dialog.Model().Text("txtValue"), "remembered");
   dialog.Model().SetText("txtValue", "typed");
-  ActivateActionDialog(dialog, model, false);
+  ActivateActionDialog(dialog, Actions(), false);
   EXPECT_EQ(dialog.Model().Text("txtValue"), "typed");
 }
 
 TEST_F(ActionFrameTest, MoveDialogStoresUnderFrmPSAndNeverGetsItsInputsBack) {
-  model.script.saveDialogSettings = true;
+  script.saveDialogSettings = true;
   TestActionDialog applied(MoveLikeTraits());
   applied.Model().SetText("txtValue", "moved");
-  ASSERT_TRUE(ApplyActionDialog(applied, model));
+  ASSERT_TRUE(ApplyActionDialog(applied, Actions()));
   EXPECT_EQ(SettingsText(), "[FrmPS]\r\ntxtValue=moved\r\n");
 
   TestActionDialog reopened(MoveLikeTraits());
-  LoadActionDialog(reopened, model);
-  ActivateActionDialog(reopened, model, true);
+  LoadActionDialog(reopened, Actions());
+  ActivateActionDialog(reopened, Actions(), true);
   EXPECT_EQ(reopened.Model().Text("txtValue"), "");
 }
 
 TEST_F(ActionFrameTest, DialogThatRemembersNothingStoresNoSection) {
-  model.script.saveDialogSettings = true;
+  script.saveDialogSettings = true;
   TestActionDialog dialog({"frmRenumber", "", "", 2, true, RestoreMoment::OnLoad});
   dialog.Model().SetText("txtValue", "x");
-  ASSERT_TRUE(ApplyActionDialog(dialog, model));
-  EXPECT_FALSE(testing::Exists(model.script.settingsPath));
+  ASSERT_TRUE(ApplyActionDialog(dialog, Actions()));
+  EXPECT_FALSE(testing::Exists(script.settingsPath));
 }
 
 TEST_F(ActionFrameTest, PlayingWithoutWindowAppliesTheStepWhenAllStepsRun) {
   PlayOneStepScript(1, "played_");
-  PlayActionWithoutWindow(prefixSuffix, model);
+  PlayActionWithoutWindow(prefixSuffix, Actions());
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"played_a.txt", "played_b.txt"}));
 }
 
 TEST_F(ActionFrameTest, PlayingWithoutWindowInSingleStepsLeavesTheNames) {
   PlayOneStepScript(2, "played_");
-  PlayActionWithoutWindow(prefixSuffix, model);
+  PlayActionWithoutWindow(prefixSuffix, Actions());
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.txt", "b.txt"}));
 }
 

@@ -13,11 +13,11 @@ namespace {
 
 class ActionScopeTest : public testing::ActionTest {
  protected:
-  void Select(int row) { model.list.Item(row).selected = true; }
+  void Select(int row) { state.list.Item(row).selected = true; }
 
   // Appends "!" to every pending name in scope.
   void MarkNamesInScope() {
-    RewritePendingNames(model, [](int, const FileEntry& entry) { return entry[kColNewName] + "!"; });
+    RewritePendingNames(Actions(), [](int, const FileEntry& entry) { return entry[kColNewName] + "!"; });
   }
 };
 
@@ -27,22 +27,22 @@ TEST_F(ActionScopeTest, ScopeZeroTakesEveryRowOneTheSelectedAndTwoTheOthers) {
   // For each scope: whether row 1 (selected) and row 2 lie in it.
   const std::vector<std::pair<bool, bool>> expected{{true, true}, {true, false}, {false, true}};
   for (int scope = 0; scope < 3; ++scope) {
-    model.applyScope = scope;
-    EXPECT_EQ(std::make_pair(InScope(model, 1), InScope(model, 2)), expected[scope]) << scope;
+    state.applyScope = scope;
+    EXPECT_EQ(std::make_pair(InScope(state, 1), InScope(state, 2)), expected[scope]) << scope;
   }
 }
 
 TEST_F(ActionScopeTest, OnlyRowsInScopeGetANewName) {
   AddFiles({"a", "b", "c"});
   Select(2);
-  model.applyScope = 2;
+  state.applyScope = 2;
   MarkNamesInScope();
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a!", "b", "c!"}));
 }
 
 TEST_F(ActionScopeTest, ScopeTwoWithNothingSelectedChangesEveryRow) {
   AddFiles({"a", "b", "c"});
-  model.applyScope = 2;
+  state.applyScope = 2;
   MarkNamesInScope();
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a!", "b!", "c!"}));
 }
@@ -52,18 +52,18 @@ TEST_F(ActionScopeTest, ScopeOneWithNothingSelectedChangesNoRowYetCountsAllAndRe
   // A pending name that no refresh has seen yet: only a refresh paints it.
   SetNewName(2, "renamed");
   frontEnd.statusTexts.clear();
-  model.applyScope = 1;
+  state.applyScope = 1;
   MarkNamesInScope();
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a", "renamed", "c"}));
   EXPECT_EQ(frontEnd.statusTexts,
             (std::vector<std::string>{"File 1 of 3", "File 2 of 3", "File 3 of 3", "3 files in 1 folders, 1 changed"}));
-  EXPECT_EQ(model.list.Item(2).colour, RowColour::DarkRed);
+  EXPECT_EQ(state.list.Item(2).colour, RowColour::DarkRed);
 }
 
 TEST_F(ActionScopeTest, StatusTextOfARowIsSetBeforeItsNewNameUnderTheBusyPointer) {
   AddFiles({"a", "b"});
   std::vector<std::string> seen;
-  RewritePendingNames(model, [&](int row, const FileEntry& entry) {
+  RewritePendingNames(Actions(), [&](int row, const FileEntry& entry) {
     seen.push_back(std::to_string(row) + " " + entry[kColNewName] + " " + frontEnd.statusTexts.back() + " busy " +
                    std::to_string(frontEnd.busyDepth));
     return entry[kColNewName];
@@ -73,22 +73,22 @@ TEST_F(ActionScopeTest, StatusTextOfARowIsSetBeforeItsNewNameUnderTheBusyPointer
 }
 
 TEST_F(ActionScopeTest, EmptyListTouchesNoRowReturnsThePointerAndRefreshes) {
-  model.selectedScriptLabel = "before";
+  window.selectedScriptLabel = "before";
   int calls = 0;
-  RewritePendingNames(model, [&](int, const FileEntry&) {
+  RewritePendingNames(Actions(), [&](int, const FileEntry&) {
     ++calls;
     return std::string();
   });
   EXPECT_EQ(calls, 0);
   EXPECT_EQ(frontEnd.busyDepth, 0);
   EXPECT_EQ(frontEnd.statusTexts, (std::vector<std::string>{"0 files in 0 folders, 0 changed"}));
-  EXPECT_EQ(model.selectedScriptLabel, "No script");
+  EXPECT_EQ(window.selectedScriptLabel, "No script");
 }
 
 TEST_F(ActionScopeTest, FaultEndsTheWalkAtItsRowAndTheRowsBeforeKeepTheirNames) {
   AddFiles({"a", "b", "c"});
   frontEnd.statusTexts.clear();
-  EXPECT_THROW(RewritePendingNames(model,
+  EXPECT_THROW(RewritePendingNames(Actions(),
                                    [](int row, const FileEntry& entry) {
                                      if (row == 2) throw RuntimeFault("stopped at row 2");
                                      return entry[kColNewName] + "!";
@@ -97,16 +97,16 @@ TEST_F(ActionScopeTest, FaultEndsTheWalkAtItsRowAndTheRowsBeforeKeepTheirNames) 
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a!", "b", "c"}));
   EXPECT_EQ(frontEnd.busyDepth, 0);
   EXPECT_EQ(frontEnd.statusTexts.back(), "3 files in 1 folders, 1 changed");
-  EXPECT_EQ(model.list.Item(1).colour, RowColour::DarkRed);
+  EXPECT_EQ(state.list.Item(1).colour, RowColour::DarkRed);
 }
 
 TEST_F(ActionScopeTest, StructureWithoutTagsBecomesThePendingNameOfEachRowInScope) {
   AddFiles({"a.txt", "b.txt"});
   Select(1);
-  model.applyScope = 1;
-  ApplyStructure(model, "fixed name.txt");
+  state.applyScope = 1;
+  ApplyStructure(Actions(), "fixed name.txt");
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"fixed name.txt", "b.txt"}));
-  EXPECT_EQ(model.changedCount, 1);
+  EXPECT_EQ(state.changedCount, 1);
 }
 
 }  // namespace

@@ -48,43 +48,44 @@ TEST_F(CaseActionTest, EachButtonPairGivesItsStructure) {
 TEST_F(CaseActionTest, FirstCapitalOnBothConvertsNameAndExtensionApart) {
   AddFiles({"a b.TXT"});
   Choose(1, 3);
-  dialog.Run(model);
+  dialog.Run(Actions());
   EXPECT_EQ(PendingNames(), std::vector<std::string>{"A b.Txt"});
 }
 
 TEST_F(CaseActionTest, NameWithoutStemStaysAsItIs) {
   AddFiles({".profile"});
   Choose(3, 1);
-  dialog.Run(model);
+  dialog.Run(Actions());
   EXPECT_EQ(PendingNames(), std::vector<std::string>{".profile"});
 }
 
 TEST_F(CaseActionTest, UpperCaseOfTheExtensionOnly) {
   AddFiles({"Photo.jpg", "notes"});
   Choose(3, 2);
-  dialog.Run(model);
+  dialog.Run(Actions());
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"Photo.JPG", "notes"}));
 }
 
 TEST_F(CaseActionTest, RemembersItsInputsUnderItsOwnNameAndRecordsTypeFour) {
-  model.script.saveDialogSettings = true;
-  model.script.recording = 1;
-  Ini(model.script.tempPath).Write("Main", "Steps", 0L);
+  script.saveDialogSettings = true;
+  script.recording = 1;
+  Ini(script.tempPath).Write("Main", "Steps", 0L);
   AddFiles({"a.txt"});
   Choose(4, 3);
-  ApplyActionDialog(dialog, model);
-  EXPECT_EQ(Ini(model.script.settingsPath).ReadString("frmULCase", "opt1(4)"), "-1");
-  EXPECT_EQ(Ini(model.script.settingsPath).ReadString("frmULCase", "opt2(3)"), "-1");
-  EXPECT_EQ(Ini(model.script.tempPath).ReadString("1", "Type"), "4");
+  ApplyActionDialog(dialog, Actions());
+  EXPECT_EQ(Ini(script.settingsPath).ReadString("frmULCase", "opt1(4)"), "-1");
+  EXPECT_EQ(Ini(script.settingsPath).ReadString("frmULCase", "opt2(3)"), "-1");
+  EXPECT_EQ(Ini(script.tempPath).ReadString("1", "Type"), "4");
   EXPECT_TRUE(dialog.Traits().disablesButtonsWhileRunning);
 }
 
 TEST_F(CaseActionTest, ScriptStepOfTypeFourPlaysWithoutAWindow) {
   AddFiles({"Mixed Case.Txt"});
-  const std::string script = data.WriteFile("s.nrs", "[Main]\r\nSteps=1\r\n[1]\r\nType=4\r\nopt1(4)=-1\r\nopt2(3)=-1\r\n");
-  model.script.runPath = script;
-  model.script.runMode = 1;
-  PlayScript(model.script, nomra::testing::RealFiles(), [this](int type) { PlayStepWithoutWindow(model, type); });
+  const std::string scriptFile =
+      data.WriteFile("s.nrs", "[Main]\r\nSteps=1\r\n[1]\r\nType=4\r\nopt1(4)=-1\r\nopt2(3)=-1\r\n");
+  script.runPath = scriptFile;
+  script.runMode = 1;
+  PlayScript(script, fileSystem, [this](int type) { PlayStepWithoutWindow(Actions(), type); });
   EXPECT_EQ(PendingNames(), std::vector<std::string>{"mixed case.txt"});
 }
 
@@ -107,7 +108,7 @@ TEST_F(ExtensionActionTest, ChangeIsChosenAndKeepingTheOldOneIsOffWhenNothingIsS
 TEST_F(ExtensionActionTest, LeadingDotsAndBlanksAreCleanedAndWrittenBack) {
   AddFiles({"a.doc"});
   Choose(true, false, " ..txt ");
-  dialog.Run(model);
+  dialog.Run(Actions());
   EXPECT_EQ(dialog.Model().Text("txtFE"), "txt");
   EXPECT_EQ(PendingNames(), std::vector<std::string>{"a.txt"});
 }
@@ -115,14 +116,14 @@ TEST_F(ExtensionActionTest, LeadingDotsAndBlanksAreCleanedAndWrittenBack) {
 TEST_F(ExtensionActionTest, KeepingTheOldExtensionPutsTheNewOneBehindIt) {
   AddFiles({"a.doc"});
   Choose(true, true, "..txt");
-  dialog.Run(model);
+  dialog.Run(Actions());
   EXPECT_EQ(PendingNames(), std::vector<std::string>{"a.doc.txt"});
 }
 
 TEST_F(ExtensionActionTest, ChangingToNothingRemovesTheExtensionAsRemovingDoes) {
   AddFiles({"a.doc", "b.tar.gz"});
   Choose(true, false, "");
-  dialog.Run(model);
+  dialog.Run(Actions());
   const std::vector<std::string> changed = PendingNames();
   dialog.Model().SetText("txtFE", "");
   EXPECT_EQ(changed, (std::vector<std::string>{"a", "b.tar"}));
@@ -133,20 +134,20 @@ TEST_F(ExtensionActionTest, RemovingTakesTheLastExtensionOnly) {
   AddFiles({"a.tar.gz"});
   Choose(false, true, "txt");
   EXPECT_FALSE(dialog.ChangeInputsEnabled());
-  dialog.Run(model);
+  dialog.Run(Actions());
   EXPECT_EQ(PendingNames(), std::vector<std::string>{"a.tar"});
 }
 
 TEST_F(ExtensionActionTest, RemembersItsInputsInFrmFEAndRecordsTypeThree) {
-  model.script.saveDialogSettings = true;
-  model.script.recording = 1;
-  Ini(model.script.tempPath).Write("Main", "Steps", 0L);
+  script.saveDialogSettings = true;
+  script.recording = 1;
+  Ini(script.tempPath).Write("Main", "Steps", 0L);
   AddFiles({"a.txt"});
   Choose(true, true, "bak");
-  ApplyActionDialog(dialog, model);
-  EXPECT_EQ(Ini(model.script.settingsPath).ReadString("FrmFE", "txtFE"), "bak");
-  EXPECT_EQ(Ini(model.script.settingsPath).ReadString("FrmFE", "chkAddOldFE"), "1");
-  EXPECT_EQ(Ini(model.script.tempPath).ReadString("1", "Type"), "3");
+  ApplyActionDialog(dialog, Actions());
+  EXPECT_EQ(Ini(script.settingsPath).ReadString("FrmFE", "txtFE"), "bak");
+  EXPECT_EQ(Ini(script.settingsPath).ReadString("FrmFE", "chkAddOldFE"), "1");
+  EXPECT_EQ(Ini(script.tempPath).ReadString("1", "Type"), "3");
   EXPECT_EQ(PendingNames(), std::vector<std::string>{"a.txt.bak"});
 }
 

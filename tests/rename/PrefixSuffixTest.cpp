@@ -15,7 +15,7 @@ class PrefixSuffixTest : public testing::ActionTest {
   void Run(const std::string& prefix, const std::string& suffix) {
     dialog.Model().SetText("txtPr", prefix);
     dialog.Model().SetText("txtSu", suffix);
-    dialog.Run(model);
+    dialog.Run(Actions());
   }
 
   PrefixSuffixDialog dialog;
@@ -37,7 +37,7 @@ TEST_F(PrefixSuffixTest, BothEmptyRewritesEachNameToItself) {
   frontEnd.statusTexts.clear();
   Run("", "");
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.txt", "b"}));
-  EXPECT_EQ(model.changedCount, 0);
+  EXPECT_EQ(state.changedCount, 0);
   EXPECT_EQ(frontEnd.statusTexts.front(), "File 1 of 2");
 }
 
@@ -56,11 +56,11 @@ TEST_F(PrefixSuffixTest, TagsAreNotEvaluated) {
 
 TEST_F(PrefixSuffixTest, ChangesOnlyTheRowsInScope) {
   AddFiles({"a.txt", "b.txt"});
-  model.list.Item(2).selected = true;
-  model.applyScope = 1;
+  state.list.Item(2).selected = true;
+  state.applyScope = 1;
   Run("p", "s");
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.txt", "pbs.txt"}));
-  EXPECT_EQ(model.list.Item(2).colour, RowColour::DarkRed);
+  EXPECT_EQ(state.list.Item(2).colour, RowColour::DarkRed);
 }
 
 TEST_F(PrefixSuffixTest, MultibytePrefixAndSuffix) {

@@ -39,7 +39,7 @@ class ScriptChooserTest : public testing::ScriptTest {
     return chooser.Start();
   }
 
-  ScriptChooser chooser{model};
+  ScriptChooser chooser{script, fileSystem, frontEnd};
 };
 
 TEST_F(ScriptChooserTest, MissingScriptsFolderGivesAnEmptyListAndNoStart) {
@@ -86,11 +86,11 @@ TEST_F(ScriptChooserTest, StartWithRunAllChoosesTheScriptAndStoresTheInputs) {
   ChooseRow("Suffix [2026-11-16, 10:10:10]");
   const int row = chooser.Model().Number("lstScript");
   ASSERT_TRUE(chooser.Start());
-  EXPECT_EQ(model.script.runMode, 1);
-  EXPECT_EQ(model.script.runPath, ScriptFolderPath() + "20261116101010.nrs");
+  EXPECT_EQ(script.runMode, 1);
+  EXPECT_EQ(script.runPath, ScriptFolderPath() + "20261116101010.nrs");
   EXPECT_EQ(SettingsText(), "[frmScript]\r\nlstScript=" + std::to_string(row) + "\r\noptRunAll=-1\r\n");
 
-  PlayScript(model.script, nomra::testing::RealFiles(), HeadlessOpener());
+  PlayScript(script, nomra::testing::RealFiles(), HeadlessOpener());
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a_s.jpg"}));
 }
 
@@ -100,13 +100,13 @@ TEST_F(ScriptChooserTest, StartWithSingleStepsChoosesModeTwo) {
   ChooseRow("Prefix [2026-11-15, 02:33:03]");
   chooser.Model().SetOption("optRunSingleSteps", true);
   ASSERT_TRUE(chooser.Start());
-  EXPECT_EQ(model.script.runMode, 2);
+  EXPECT_EQ(script.runMode, 2);
   EXPECT_NE(SettingsText().find("optRunSingleSteps=-1\r\n"), std::string::npos);
 }
 
 TEST_F(ScriptChooserTest, StoredInputsAreNeverReadBack) {
   data.WriteFile(settings::kSettingsFileName, "[frmScript]\r\nlstScript=0\r\noptRunSingleSteps=-1\r\n");
-  model.script.saveDialogSettings = true;
+  script.saveDialogSettings = true;
   WriteTwoScripts();
   chooser.Load();
   EXPECT_TRUE(chooser.Model().IsSelected("optRunAll"));
@@ -118,13 +118,13 @@ TEST_F(ScriptChooserTest, CancellingPlaysNothingThoughPlaybackIsStillCalled) {
   WriteTwoScripts();
   chooser.Load();
   ChooseRow("Prefix [2026-11-15, 02:33:03]");
-  model.script.runMode = 1;
+  script.runMode = 1;
   chooser.Cancel();
-  EXPECT_EQ(model.script.runMode, 0);
-  PlayScript(model.script, nomra::testing::RealFiles(), HeadlessOpener());
+  EXPECT_EQ(script.runMode, 0);
+  PlayScript(script, nomra::testing::RealFiles(), HeadlessOpener());
   EXPECT_TRUE(openedTypes.empty());
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.jpg"}));
-  EXPECT_FALSE(testing::Exists(model.script.settingsPath));
+  EXPECT_FALSE(testing::Exists(script.settingsPath));
 }
 
 TEST_F(ScriptChooserTest, DeletingAnsweredNoKeepsTheRowTheFileAndTheDialogOpen) {
@@ -138,7 +138,7 @@ TEST_F(ScriptChooserTest, DeletingAnsweredNoKeepsTheRowTheFileAndTheDialogOpen) 
   EXPECT_EQ(Rows().size(), 2u);
   EXPECT_TRUE(chooser.StartEnabled());
   EXPECT_TRUE(testing::Exists(ScriptFolderPath() + "20261115023303.nrs"));
-  EXPECT_EQ(model.script.runMode, 0);
+  EXPECT_EQ(script.runMode, 0);
 }
 
 TEST_F(ScriptChooserTest, DeletingAnsweredYesRemovesTheScriptEvenWhenReadOnly) {
@@ -149,14 +149,14 @@ TEST_F(ScriptChooserTest, DeletingAnsweredYesRemovesTheScriptEvenWhenReadOnly) {
   EXPECT_EQ(Rows(), (std::vector<std::string>{"Suffix [2026-11-16, 10:10:10]"}));
   EXPECT_EQ(chooser.FileNames(), (std::vector<std::string>{"20261116101010.nrs"}));
   EXPECT_FALSE(chooser.StartEnabled());
-  EXPECT_FALSE(testing::Exists(model.script.settingsPath));
+  EXPECT_FALSE(testing::Exists(script.settingsPath));
 }
 
 TEST_F(ScriptChooserTest, DeletedScriptStillChosenOnTheButtonShowsStatusTextFive) {
   WriteTwoScripts();
   DeletePrefixScript(Answer::Yes);
-  EXPECT_FALSE(RunSelectedScript(model, "20261115023303.nrs", HeadlessOpener()));
-  EXPECT_EQ(model.selectedScriptLabel, "No script");
+  EXPECT_FALSE(PlaySelectedScript(window, texts, script, fileSystem, "20261115023303.nrs", HeadlessOpener()));
+  EXPECT_EQ(window.selectedScriptLabel, "No script");
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.jpg"}));
 }
 

@@ -13,7 +13,7 @@ class ScriptCommandLineTest : public testing::ScriptTest {
     AddFiles({"a.jpg"});
     switches.runScript = [this](const std::string& name) {
       ++scriptArguments;
-      RunScriptArgument(model, name, HeadlessOpener());
+      RunScriptArgument(script, fileSystem, name, HeadlessOpener());
     };
   }
 
@@ -23,7 +23,7 @@ class ScriptCommandLineTest : public testing::ScriptTest {
 
 TEST_F(ScriptCommandLineTest, SwitchWithNothingBehindItIsNoScriptArgument) {
   WriteScript("20261115023303.nrs", "[Main]\r\nSteps=1\r\n[1]\r\nType=5\r\ntxtPr=x\r\n");
-  RunCommandLine(SplitCommandLine("/runscript="), model, switches);
+  RunCommandLine(SplitCommandLine("/runscript="), load, switches);
   EXPECT_EQ(scriptArguments, 0);
   EXPECT_TRUE(openedTypes.empty());
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.jpg"}));
@@ -31,10 +31,10 @@ TEST_F(ScriptCommandLineTest, SwitchWithNothingBehindItIsNoScriptArgument) {
 
 TEST_F(ScriptCommandLineTest, QuotedFileNameFindsTheScriptInTheScriptsFolder) {
   WriteScript("20261115023303.nrs", "[Main]\r\nSteps=1\r\n[1]\r\nType=5\r\ntxtPr=x\xC2\x90\r\n");
-  RunCommandLine(SplitCommandLine("/runscript=\"20261115023303.nrs\""), model, switches);
+  RunCommandLine(SplitCommandLine("/runscript=\"20261115023303.nrs\""), load, switches);
   EXPECT_EQ(scriptArguments, 1);
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"x a.jpg"}));
-  EXPECT_EQ(model.script.runMode, 0);
+  EXPECT_EQ(script.runMode, 0);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "rename/ActionFixture.h"
 #include "script/ScriptFiles.h"
 #include "script/ScriptPlayback.h"
+#include "shell/SelectedScript.h"
 
 namespace nomra::testing {
 
@@ -41,7 +42,7 @@ class ScriptTest : public ActionTest {
   StepOpener HeadlessOpener() {
     return [this](int stepType) {
       openedTypes.push_back(stepType);
-      PlayStepWithoutWindow(model, stepType);
+      PlayStepWithoutWindow(Actions(), stepType);
     };
   }
 

@@ -25,13 +25,13 @@ class ScriptPlaybackTest : public testing::ScriptTest {
 
   // Chooses the script to play, as frmScript does.
   void Choose(const std::string& fileName, const std::string& content, int runMode = 1) {
-    model.script.runPath = WriteScript(fileName, content);
-    model.script.runMode = static_cast<std::int16_t>(runMode);
+    script.runPath = WriteScript(fileName, content);
+    script.runMode = static_cast<std::int16_t>(runMode);
   }
 
-  void Play() { PlayScript(model.script, nomra::testing::RealFiles(), HeadlessOpener()); }
+  void Play() { PlayScript(script, nomra::testing::RealFiles(), HeadlessOpener()); }
 
-  bool NoScriptPlays() const { return model.script.runMode == 0 && model.script.runPath.empty(); }
+  bool NoScriptPlays() const { return script.runMode == 0 && script.runPath.empty(); }
   bool UserWasToldNothing() const {
     return frontEnd.asked.empty() && frontEnd.plainMessages.empty() && frontEnd.faults.empty();
   }
@@ -57,24 +57,24 @@ class RefusingDialog final : public ActionDialog {
     static const ActionTraits traits{"frmInsert", "frmInsert", "frmInsert", 7, false, RestoreMoment::OnLoad};
     return traits;
   }
-  bool CheckInputs(MainModel& model) override {
-    model.frontEnd.Ask({"MsgText05", "MsgCap02", MessageStyle::OkWarning, {Model().Text("txtInsert")}});
+  bool CheckInputs(const ActionContext& context) override {
+    context.User().Ask({"MsgText05", "MsgCap02", MessageStyle::OkWarning, {Model().Text("txtInsert")}});
     return false;
   }
-  void Run(MainModel&) override { ADD_FAILURE() << "a refused step ran"; }
+  void Run(const ActionContext&) override { ADD_FAILURE() << "a refused step ran"; }
 };
 
 TEST_F(ScriptPlaybackTest, ExampleScriptPlaysHeadlessToTheRightPendingNames) {
   Choose("20261115023303.nrs", kExampleScript);
   std::vector<std::string> caseOptions;
-  PlayScript(model.script, nomra::testing::RealFiles(), [&](int type) {
+  PlayScript(script, fileSystem, [&](int type) {
     openedTypes.push_back(type);
-    if (type != 4) return PlayStepWithoutWindow(model, type);
+    if (type != 4) return PlayStepWithoutWindow(Actions(), type);
     // The case dialog's option group, restored from its step.
     dialog::DialogModel caseDialog("frmULCase");
     for (int index = 0; index < 3; ++index) caseDialog.AddOption("opt2", "opt2", index);
     caseDialog.SetOption("opt2(0)", true);
-    dialog::RestoreDialogState(caseDialog, std::to_string(model.script.runStep), dialog::kScriptMode, model.script,
+    dialog::RestoreDialogState(caseDialog, std::to_string(script.runStep), dialog::kScriptMode, script,
                                nomra::testing::RealFiles(), frontEnd);
     for (const dialog::DialogInput& input : caseDialog.Inputs()) {
       if (input.selected) caseOptions.push_back(input.Key());
@@ -90,10 +90,10 @@ TEST_F(ScriptPlaybackTest, StepsArePlayedInOrderEachWithItsOwnNumber) {
   Choose("20261115023303.nrs",
          "[Main]\r\nSteps=3\r\n[1]\r\nType=5\r\ntxtPr=1\r\n[2]\r\nType=5\r\ntxtPr=2\r\n[3]\r\nType=5\r\ntxtSu=3\r\n");
   OpenedSteps opened;
-  const StepOpener noting = opened.Opener(model.script);
-  PlayScript(model.script, nomra::testing::RealFiles(), [&](int type) {
+  const StepOpener noting = opened.Opener(script);
+  PlayScript(script, fileSystem, [&](int type) {
     noting(type);
-    PlayStepWithoutWindow(model, type);
+    PlayStepWithoutWindow(Actions(), type);
   });
   EXPECT_EQ(opened.steps, (std::vector<int>{1, 2, 3}));
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"21a3.jpg", "21b3.jpg"}));
@@ -101,12 +101,12 @@ TEST_F(ScriptPlaybackTest, StepsArePlayedInOrderEachWithItsOwnNumber) {
 
 TEST_F(ScriptPlaybackTest, NothingPlaysWithoutAScriptOrARunMode) {
   OpenedSteps opened;
-  model.script.runMode = 1;
-  PlayScript(model.script, nomra::testing::RealFiles(), opened.Opener(model.script));
+  script.runMode = 1;
+  PlayScript(script, nomra::testing::RealFiles(), opened.Opener(script));
   EXPECT_TRUE(NoScriptPlays());
 
   Choose("20261115023303.nrs", kExampleScript, 0);
-  PlayScript(model.script, nomra::testing::RealFiles(), opened.Opener(model.script));
+  PlayScript(script, nomra::testing::RealFiles(), opened.Opener(script));
   EXPECT_TRUE(opened.types.empty());
   EXPECT_TRUE(NoScriptPlays());
 }
@@ -144,22 +144,22 @@ TEST_F(ScriptPlaybackTest, StepOfType11IsSkippedWithoutAMessage) {
 }
 
 TEST_F(ScriptPlaybackTest, TypesOneToTenEachOpenTheirDialog) {
-  std::string script = "[Main]\r\nSteps=12\r\n";
+  std::string text = "[Main]\r\nSteps=12\r\n";
   for (int step = 1; step <= 12; ++step) {
-    script += "[" + std::to_string(step) + "]\r\nType=" + std::to_string(step - 1) + "\r\n";
+    text += "[" + std::to_string(step) + "]\r\nType=" + std::to_string(step - 1) + "\r\n";
   }
-  Choose("20261115023303.nrs", script);
+  Choose("20261115023303.nrs", text);
   OpenedSteps opened;
-  PlayScript(model.script, nomra::testing::RealFiles(), opened.Opener(model.script));
+  PlayScript(script, nomra::testing::RealFiles(), opened.Opener(script));
   EXPECT_EQ(opened.types, (std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
 }
 
 TEST_F(ScriptPlaybackTest, StepRefusedByItsDialogsCheckShowsItsMessageAndTheNextStepRuns) {
   Choose("20261115023303.nrs", "[Main]\r\nSteps=2\r\n[1]\r\nType=7\r\ntxtInsert=bad\r\n[2]\r\nType=5\r\ntxtPr=b\r\n");
-  PlayScript(model.script, nomra::testing::RealFiles(), [&](int type) {
-    if (type != 7) return PlayStepWithoutWindow(model, type);
+  PlayScript(script, fileSystem, [&](int type) {
+    if (type != 7) return PlayStepWithoutWindow(Actions(), type);
     RefusingDialog dialog;
-    PlayActionWithoutWindow(dialog, model);
+    PlayActionWithoutWindow(dialog, Actions());
   });
   ASSERT_EQ(frontEnd.asked.size(), 1u);
   EXPECT_EQ(frontEnd.asked[0].arguments, (std::vector<std::string>{"bad"}));
@@ -181,8 +181,8 @@ TEST_F(ScriptPlaybackTest, SingleStepsWithEveryDialogCancelledLeaveTheListAndEnd
 }
 
 TEST_F(ScriptPlaybackTest, ScriptPlayedDuringARecordingIsRecordedStepByStep) {
-  ResetScriptTemp(model.script, nomra::testing::RealFiles());
-  BeginScriptRecording(model.script, nomra::testing::RealFiles());
+  ResetScriptTemp(script, nomra::testing::RealFiles());
+  BeginScriptRecording(script, nomra::testing::RealFiles());
   Choose("20261115023303.nrs",
          "[Main]\r\nSteps=2\r\nName=Two\r\n\r\n[1]\r\nType=5\r\ntxtPr=Rome\xC2\x90\r\n\r\n[2]\r\nType=5\r\ntxtSu=_x\r\n");
   Play();
@@ -192,7 +192,7 @@ TEST_F(ScriptPlaybackTest, ScriptPlayedDuringARecordingIsRecordedStepByStep) {
 }
 
 TEST_F(ScriptPlaybackTest, PlayedStepIsNotMixedWithNorStoredToTheRememberedInputs) {
-  model.script.saveDialogSettings = true;
+  script.saveDialogSettings = true;
   const std::string remembered = "[FrmPS]\r\ntxtPr=mine\r\n";
   data.WriteFile(settings::kSettingsFileName, remembered);
   Choose("20261115023303.nrs", "[Main]\r\nSteps=1\r\n\r\n[1]\r\nType=5\r\ntxtSu=_x\r\n");
@@ -203,15 +203,15 @@ TEST_F(ScriptPlaybackTest, PlayedStepIsNotMixedWithNorStoredToTheRememberedInput
 
 TEST_F(ScriptPlaybackTest, SelectedScriptThatExistsIsPlayedWithAllSteps) {
   WriteScript("20261115023303.nrs", kExampleScript);
-  EXPECT_TRUE(RunSelectedScript(model, "20261115023303.nrs", HeadlessOpener()));
+  EXPECT_TRUE(PlaySelectedScript(window, texts, script, fileSystem, "20261115023303.nrs", HeadlessOpener()));
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"Rome 2009 a.jpg", "Rome 2009 b.jpg"}));
   EXPECT_TRUE(NoScriptPlays());
 }
 
 TEST_F(ScriptPlaybackTest, SelectedScriptDeletedMeanwhileShowsStatusTextFiveAndNoMessage) {
-  model.selectedScriptLabel = "Holiday pictures [2026-11-15, 02:33:03]";
-  EXPECT_FALSE(RunSelectedScript(model, "20261115023303.nrs", HeadlessOpener()));
-  EXPECT_EQ(model.selectedScriptLabel, "No script");
+  window.selectedScriptLabel = "Holiday pictures [2026-11-15, 02:33:03]";
+  EXPECT_FALSE(PlaySelectedScript(window, texts, script, fileSystem, "20261115023303.nrs", HeadlessOpener()));
+  EXPECT_EQ(window.selectedScriptLabel, "No script");
   EXPECT_TRUE(openedTypes.empty());
   EXPECT_TRUE(NoScriptPlays());
   EXPECT_TRUE(UserWasToldNothing());
@@ -219,29 +219,29 @@ TEST_F(ScriptPlaybackTest, SelectedScriptDeletedMeanwhileShowsStatusTextFiveAndN
 
 TEST_F(ScriptPlaybackTest, ButtonWithoutAChosenScriptShowsStatusTextFive) {
   data.MakeFolder("Script");
-  EXPECT_FALSE(RunSelectedScript(model, "", HeadlessOpener()));
-  EXPECT_EQ(model.selectedScriptLabel, "No script");
+  EXPECT_FALSE(PlaySelectedScript(window, texts, script, fileSystem, "", HeadlessOpener()));
+  EXPECT_EQ(window.selectedScriptLabel, "No script");
   EXPECT_TRUE(NoScriptPlays());
 }
 
 TEST_F(ScriptPlaybackTest, ArgumentWithAPathPlaysThatFile) {
   const std::string path = data.WriteFile("elsewhere/tidy.nrs", kExampleScript);
-  EXPECT_TRUE(RunScriptArgument(model, path, HeadlessOpener()));
+  EXPECT_TRUE(RunScriptArgument(script, fileSystem, path, HeadlessOpener()));
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"Rome 2009 a.jpg", "Rome 2009 b.jpg"}));
   EXPECT_TRUE(NoScriptPlays());
 }
 
 TEST_F(ScriptPlaybackTest, ArgumentWithABareNameIsLookedForInTheScriptsFolderWithoutItsQuotes) {
   WriteScript("20261115023303.nrs", kExampleScript);
-  EXPECT_TRUE(RunScriptArgument(model, "\"20261115023303.nrs\"", HeadlessOpener()));
+  EXPECT_TRUE(RunScriptArgument(script, fileSystem, "\"20261115023303.nrs\"", HeadlessOpener()));
   EXPECT_EQ(openedTypes, (std::vector<int>{5, 4}));
   EXPECT_TRUE(NoScriptPlays());
 }
 
 TEST_F(ScriptPlaybackTest, ArgumentThatCannotBeFoundIsPassedOverSilentlyAndKeptAsThePath) {
-  EXPECT_FALSE(RunScriptArgument(model, "missing.nrs", HeadlessOpener()));
-  EXPECT_EQ(model.script.runPath, ScriptFolderPath() + "missing.nrs");
-  EXPECT_EQ(model.script.runMode, 0);
+  EXPECT_FALSE(RunScriptArgument(script, fileSystem, "missing.nrs", HeadlessOpener()));
+  EXPECT_EQ(script.runPath, ScriptFolderPath() + "missing.nrs");
+  EXPECT_EQ(script.runMode, 0);
   EXPECT_TRUE(openedTypes.empty());
   EXPECT_TRUE(UserWasToldNothing());
 }

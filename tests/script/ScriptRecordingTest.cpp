@@ -14,7 +14,7 @@ class ScriptRecordingTest : public testing::ScriptTest {
  protected:
   ScriptRecordingTest() {
     AddFiles({"a.txt"});
-    ResetScriptTemp(model.script, nomra::testing::RealFiles());
+    ResetScriptTemp(script, nomra::testing::RealFiles());
   }
 
   // The user fills the prefix and suffix dialog and presses Apply.
@@ -22,15 +22,15 @@ class ScriptRecordingTest : public testing::ScriptTest {
     PrefixSuffixDialog dialog;
     dialog.Model().SetText("txtPr", prefix);
     dialog.Model().SetText("txtSu", suffix);
-    ApplyActionDialog(dialog, model);
+    ApplyActionDialog(dialog, Actions());
   }
 
   // A whole recording of one prefix, stored under `name`.
   bool RecordOneStep(const std::string& prefix, const std::string& name) {
-    BeginScriptRecording(model.script, nomra::testing::RealFiles());
+    BeginScriptRecording(script, nomra::testing::RealFiles());
     ApplyPrefixSuffix(prefix);
     frontEnd.inputs.push_back(name);
-    return EndScriptRecording(model, clock);
+    return EndScriptRecording(script, fileSystem, frontEnd, clock);
   }
 
   std::vector<std::string> AskedKeys() const {
@@ -42,17 +42,17 @@ class ScriptRecordingTest : public testing::ScriptTest {
 
 TEST_F(ScriptRecordingTest, ResetRemovesTheWorkFileAnEarlierRunLeft) {
   data.WriteFile("script.tmp", "[Main]\r\nSteps=3\r\n");
-  model.script.tempPath.clear();
-  model.script.recording = 1;
-  ResetScriptTemp(model.script, nomra::testing::RealFiles());
-  EXPECT_EQ(model.script.tempPath, data.Path() + "script.tmp");
+  script.tempPath.clear();
+  script.recording = 1;
+  ResetScriptTemp(script, nomra::testing::RealFiles());
+  EXPECT_EQ(script.tempPath, data.Path() + "script.tmp");
   EXPECT_FALSE(testing::Exists(data.Path() + "script.tmp"));
-  EXPECT_EQ(model.script.recording, 0);
+  EXPECT_EQ(script.recording, 0);
 }
 
 TEST_F(ScriptRecordingTest, BeginningWritesOnlyTheStepCounter) {
-  BeginScriptRecording(model.script, nomra::testing::RealFiles());
-  EXPECT_EQ(model.script.recording, 1);
+  BeginScriptRecording(script, nomra::testing::RealFiles());
+  EXPECT_EQ(script.recording, 1);
   EXPECT_EQ(RecordingText(), "[Main]\r\nSteps=0\r\n");
 }
 
@@ -62,8 +62,8 @@ TEST_F(ScriptRecordingTest, RecordedStepIsStoredExactlyInTheScriptFormat) {
   EXPECT_EQ(testing::ReadWholeFile(ScriptFolderPath() + "20261115023303.nrs"),
             "[Main]\r\nSteps=1\r\nName=Holiday pictures\r\n\r\n[1]\r\nType=5\r\ntxtPr=Rome\xC2\x90"
             "2009\xC2\x90\r\n");
-  EXPECT_FALSE(testing::Exists(model.script.tempPath));
-  EXPECT_EQ(model.script.recording, 0);
+  EXPECT_FALSE(testing::Exists(script.tempPath));
+  EXPECT_EQ(script.recording, 0);
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"Rome 2009 a.txt"}));
 }
 
@@ -76,10 +76,10 @@ TEST_F(ScriptRecordingTest, NamePromptOffersThePresentDateAndTime) {
 }
 
 TEST_F(ScriptRecordingTest, RecordingWithNoStepStoresNothingAndAsksNothing) {
-  BeginScriptRecording(model.script, nomra::testing::RealFiles());
-  EXPECT_FALSE(EndScriptRecording(model, clock));
+  BeginScriptRecording(script, nomra::testing::RealFiles());
+  EXPECT_FALSE(EndScriptRecording(script, fileSystem, frontEnd, clock));
   EXPECT_TRUE(frontEnd.asked.empty());
-  EXPECT_EQ(model.script.recording, 0);
+  EXPECT_EQ(script.recording, 0);
   // The scripts folder is made all the same, and stays empty.
   EXPECT_TRUE(testing::Exists(ScriptFolderPath()));
   EXPECT_TRUE(ScriptFilesOnDisk().empty());
@@ -91,11 +91,11 @@ TEST_F(ScriptRecordingTest, CancelledNameThenNoAsksAgainWithAFreshDate) {
     ++now.tm_sec;
     return moment;
   };
-  BeginScriptRecording(model.script, nomra::testing::RealFiles());
+  BeginScriptRecording(script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("x");
   frontEnd.inputs = {"", "Second try"};
   frontEnd.answers = {Answer::No};
-  ASSERT_TRUE(EndScriptRecording(model, clock));
+  ASSERT_TRUE(EndScriptRecording(script, fileSystem, frontEnd, clock));
   EXPECT_EQ(AskedKeys(), (std::vector<std::string>{"MsgText31", "MsgText32", "MsgText31"}));
   EXPECT_EQ(frontEnd.asked[1].captionKey, "MsgCap12");
   EXPECT_EQ(frontEnd.asked[1].style, MessageStyle::YesNoDefaultNo);
@@ -106,23 +106,23 @@ TEST_F(ScriptRecordingTest, CancelledNameThenNoAsksAgainWithAFreshDate) {
 }
 
 TEST_F(ScriptRecordingTest, CancelledNameThenYesStoresNothingAndKeepsTheWorkFile) {
-  BeginScriptRecording(model.script, nomra::testing::RealFiles());
+  BeginScriptRecording(script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("x");
   const std::string recorded = RecordingText();
   frontEnd.answers = {Answer::Yes};
-  EXPECT_FALSE(EndScriptRecording(model, clock));
+  EXPECT_FALSE(EndScriptRecording(script, fileSystem, frontEnd, clock));
   EXPECT_EQ(AskedKeys(), (std::vector<std::string>{"MsgText31", "MsgText32"}));
   EXPECT_EQ(RecordingText(), recorded);
   EXPECT_TRUE(ScriptFilesOnDisk().empty());
-  EXPECT_EQ(model.script.recording, 0);
+  EXPECT_EQ(script.recording, 0);
 }
 
 TEST_F(ScriptRecordingTest, NameOfBlanksOnlyCountsAsCancelled) {
-  BeginScriptRecording(model.script, nomra::testing::RealFiles());
+  BeginScriptRecording(script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("x");
   frontEnd.inputs = {"   "};
   frontEnd.answers = {Answer::Yes};
-  EXPECT_FALSE(EndScriptRecording(model, clock));
+  EXPECT_FALSE(EndScriptRecording(script, fileSystem, frontEnd, clock));
   EXPECT_EQ(AskedKeys(), (std::vector<std::string>{"MsgText31", "MsgText32"}));
   EXPECT_TRUE(ScriptFilesOnDisk().empty());
 }
@@ -151,35 +151,35 @@ TEST_F(ScriptRecordingTest, ScriptsOfTheSameNameAreBothKeptUnderTheirOwnFileName
 }
 
 TEST_F(ScriptRecordingTest, AbandonedRecordingIsOverwrittenKeyByKeyAndItsStaleStepsArePassedOver) {
-  BeginScriptRecording(model.script, nomra::testing::RealFiles());
+  BeginScriptRecording(script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("x", "old");
   ApplyPrefixSuffix("y");
   frontEnd.answers = {Answer::Yes};
-  ASSERT_FALSE(EndScriptRecording(model, clock));
+  ASSERT_FALSE(EndScriptRecording(script, fileSystem, frontEnd, clock));
 
-  BeginScriptRecording(model.script, nomra::testing::RealFiles());
+  BeginScriptRecording(script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("", "z");
   frontEnd.inputs = {"again"};
-  ASSERT_TRUE(EndScriptRecording(model, clock));
+  ASSERT_TRUE(EndScriptRecording(script, fileSystem, frontEnd, clock));
   const std::string stored = ScriptFolderPath() + "20261115023303.nrs";
   EXPECT_EQ(testing::ReadWholeFile(stored),
             "[Main]\r\nSteps=1\r\nName=again\r\n\r\n[1]\r\nType=5\r\ntxtSu=z\r\n\r\n[2]\r\nType=5\r\ntxtPr=y\r\n");
 
   ASSERT_EQ(PendingNames(), (std::vector<std::string>{"yxaoldz.txt"}));
-  model.script.runPath = stored;
-  model.script.runMode = 1;
-  PlayScript(model.script, nomra::testing::RealFiles(), HeadlessOpener());
+  script.runPath = stored;
+  script.runMode = 1;
+  PlayScript(script, nomra::testing::RealFiles(), HeadlessOpener());
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"yxaoldzz.txt"}));
   EXPECT_EQ(openedTypes, (std::vector<int>{5}));
 }
 
 TEST_F(ScriptRecordingTest, ScriptThatCannotBeStoredStaysInTheWorkFileAndTheUserIsTold) {
   data.WriteFile("Script", "a file where the folder should be");
-  BeginScriptRecording(model.script, nomra::testing::RealFiles());
+  BeginScriptRecording(script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("x");
   const std::string recorded = RecordingText();
   frontEnd.inputs = {"Lost?"};
-  EXPECT_FALSE(EndScriptRecording(model, clock));
+  EXPECT_FALSE(EndScriptRecording(script, fileSystem, frontEnd, clock));
   EXPECT_EQ(frontEnd.faults.size(), 1u);
   EXPECT_NE(RecordingText().find("Name=Lost?"), std::string::npos);
   EXPECT_EQ(RecordingText().substr(RecordingText().find("[1]")), recorded.substr(recorded.find("[1]")));

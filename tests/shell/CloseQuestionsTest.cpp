@@ -19,14 +19,14 @@ class FailingCommitter final : public RowCommitter {
 
 class CloseQuestionsTest : public testing::ListTest {
  protected:
-  CloseQuestionsTest() { model.committer = &committer; }
+  CloseQuestionsTest() { rowCommitter = &committer; }
 
   // Two rows, one of them with a pending name.
   void ListWithOnePendingName() {
     AddFiles({"a.jpg", "b.jpg"});
     SetNewName(1, "renamed.jpg");
-    refreshPreview(model);
-    ASSERT_EQ(model.changedCount, 1);
+    preview.Refresh();
+    ASSERT_EQ(state.changedCount, 1);
   }
 
   std::function<void()> StopRecording() {
@@ -39,14 +39,14 @@ class CloseQuestionsTest : public testing::ListTest {
 
 TEST_F(CloseQuestionsTest, CloseWithNothingPendingAsksNothing) {
   AddFiles({"a.jpg"});
-  EXPECT_EQ(AskBeforeClose(model, false, StopRecording()), CloseDecision::Close);
+  EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, false, StopRecording()), CloseDecision::Close);
   EXPECT_TRUE(frontEnd.asked.empty());
   EXPECT_EQ(committer.allCommits, 0);
 }
 
 TEST_F(CloseQuestionsTest, RunningRecordingIsStoppedWhenTheUserSaysYes) {
   frontEnd.answers = {Answer::Yes};
-  EXPECT_EQ(AskBeforeClose(model, true, StopRecording()), CloseDecision::Close);
+  EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, true, StopRecording()), CloseDecision::Close);
   ASSERT_EQ(frontEnd.asked.size(), 1u);
   EXPECT_EQ(frontEnd.asked[0].textKey, "MsgText30");
   EXPECT_EQ(frontEnd.asked[0].captionKey, "MsgCap11");
@@ -56,14 +56,14 @@ TEST_F(CloseQuestionsTest, RunningRecordingIsStoppedWhenTheUserSaysYes) {
 
 TEST_F(CloseQuestionsTest, RunningRecordingIsLeftAloneWhenTheUserSaysNo) {
   frontEnd.answers = {Answer::No};
-  EXPECT_EQ(AskBeforeClose(model, true, StopRecording()), CloseDecision::Close);
+  EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, true, StopRecording()), CloseDecision::Close);
   EXPECT_EQ(recordingStops, 0);
 }
 
 TEST_F(CloseQuestionsTest, CancelOnTheRecordingQuestionRefusesAtOnce) {
   ListWithOnePendingName();
   frontEnd.answers = {Answer::Cancel, Answer::Yes};
-  EXPECT_EQ(AskBeforeClose(model, true, StopRecording()), CloseDecision::Refuse);
+  EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, true, StopRecording()), CloseDecision::Refuse);
   EXPECT_EQ(frontEnd.asked.size(), 1u) << "the pending names aren't asked about";
   EXPECT_EQ(recordingStops, 0);
   EXPECT_EQ(committer.allCommits, 0);
@@ -72,7 +72,7 @@ TEST_F(CloseQuestionsTest, CancelOnTheRecordingQuestionRefusesAtOnce) {
 TEST_F(CloseQuestionsTest, PendingChangesAreTakenWhenTheUserSaysYes) {
   ListWithOnePendingName();
   frontEnd.answers = {Answer::Yes};
-  EXPECT_EQ(AskBeforeClose(model, false, StopRecording()), CloseDecision::Close);
+  EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, false, StopRecording()), CloseDecision::Close);
   ASSERT_EQ(frontEnd.asked.size(), 1u);
   EXPECT_EQ(frontEnd.asked[0].textKey, "MsgText03");
   EXPECT_EQ(frontEnd.asked[0].captionKey, "MsgCap03");
@@ -84,16 +84,16 @@ TEST_F(CloseQuestionsTest, PendingChangesAreTakenWhenTheUserSaysYes) {
 TEST_F(CloseQuestionsTest, PendingChangesAreLeftWhenTheUserSaysNo) {
   ListWithOnePendingName();
   frontEnd.answers = {Answer::No};
-  EXPECT_EQ(AskBeforeClose(model, false, StopRecording()), CloseDecision::Close);
+  EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, false, StopRecording()), CloseDecision::Close);
   EXPECT_EQ(committer.allCommits, 0);
 }
 
 TEST_F(CloseQuestionsTest, ClosingWithPendingChangesAndCancelKeepsTheList) {
   ListWithOnePendingName();
   frontEnd.answers = {Answer::Cancel};
-  EXPECT_EQ(AskBeforeClose(model, false, StopRecording()), CloseDecision::Refuse);
+  EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, false, StopRecording()), CloseDecision::Refuse);
   EXPECT_EQ(committer.allCommits, 0);
-  ASSERT_EQ(model.list.Count(), 2);
+  ASSERT_EQ(state.list.Count(), 2);
   EXPECT_EQ(Column(kColNewName), (std::vector<std::string>{"renamed.jpg", "b.jpg"}));
   EXPECT_TRUE(testing::Exists(temp.Path() + "a.jpg"));
 }
@@ -101,7 +101,7 @@ TEST_F(CloseQuestionsTest, ClosingWithPendingChangesAndCancelKeepsTheList) {
 TEST_F(CloseQuestionsTest, BothQuestionsAreAskedInTurn) {
   ListWithOnePendingName();
   frontEnd.answers = {Answer::Yes, Answer::Yes};
-  EXPECT_EQ(AskBeforeClose(model, true, StopRecording()), CloseDecision::Close);
+  EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, true, StopRecording()), CloseDecision::Close);
   ASSERT_EQ(frontEnd.asked.size(), 2u);
   EXPECT_EQ(frontEnd.asked[0].textKey, "MsgText30");
   EXPECT_EQ(frontEnd.asked[1].textKey, "MsgText03");
@@ -110,19 +110,19 @@ TEST_F(CloseQuestionsTest, BothQuestionsAreAskedInTurn) {
 }
 
 TEST_F(CloseQuestionsTest, YesWithoutACommitterKeepsTheWindowOpen) {
-  model.committer = nullptr;
+  rowCommitter = nullptr;
   ListWithOnePendingName();
   frontEnd.answers = {Answer::Yes};
-  EXPECT_EQ(AskBeforeClose(model, false, StopRecording()), CloseDecision::Refuse);
-  EXPECT_EQ(model.list.Count(), 2);
+  EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, false, StopRecording()), CloseDecision::Refuse);
+  EXPECT_EQ(state.list.Count(), 2);
 }
 
 TEST_F(CloseQuestionsTest, FaultWhileTakingTheChangesIsShownAndTheWindowStays) {
   FailingCommitter failing;
-  model.committer = &failing;
+  rowCommitter = &failing;
   ListWithOnePendingName();
   frontEnd.answers = {Answer::Yes};
-  EXPECT_EQ(AskBeforeClose(model, false, StopRecording()), CloseDecision::Refuse);
+  EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, false, StopRecording()), CloseDecision::Refuse);
   ASSERT_EQ(frontEnd.faults.size(), 1u);
   EXPECT_NE(frontEnd.faults[0].find("disk gone"), std::string::npos);
 }
@@ -149,7 +149,7 @@ class CloseSequenceTest : public CloseQuestionsTest {
 };
 
 TEST_F(CloseSequenceTest, CloseWritesLayoutAndSettings) {
-  EXPECT_EQ(RunCloseSequence(closing, model, Ini(settingsFile), false, StopRecording()), CloseDecision::Close);
+  EXPECT_EQ(RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), false, StopRecording()), CloseDecision::Close);
   EXPECT_EQ(Ini(settingsFile).ReadInt("Main", "Col8"), 500);
   EXPECT_EQ(Ini(settingsFile).ReadInt("Main", "x"), 10);
   EXPECT_EQ(Ini(settingsFile).ReadInt("Settings", "splash"), 1);
@@ -164,7 +164,7 @@ TEST_F(CloseSequenceTest, LayoutIsWrittenBeforeTheQuestionsAndTheRestAfter) {
     restBefore = Written("Settings", "splash");
   };
   frontEnd.answers = {Answer::Yes};
-  EXPECT_EQ(RunCloseSequence(closing, model, Ini(settingsFile), true, stop), CloseDecision::Close);
+  EXPECT_EQ(RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), true, stop), CloseDecision::Close);
   EXPECT_TRUE(layoutBefore);
   EXPECT_FALSE(restBefore);
   EXPECT_TRUE(Written("Settings", "splash"));
@@ -172,7 +172,7 @@ TEST_F(CloseSequenceTest, LayoutIsWrittenBeforeTheQuestionsAndTheRestAfter) {
 
 TEST_F(CloseSequenceTest, CancelledRecordingQuestionLeavesTheRestUnwritten) {
   frontEnd.answers = {Answer::Cancel};
-  EXPECT_EQ(RunCloseSequence(closing, model, Ini(settingsFile), true, StopRecording()), CloseDecision::Refuse);
+  EXPECT_EQ(RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), true, StopRecording()), CloseDecision::Refuse);
   EXPECT_TRUE(Written("Main", "Col1"));
   EXPECT_TRUE(Written("Main", "ws"));
   EXPECT_FALSE(Written("Settings", "splash"));
@@ -182,12 +182,12 @@ TEST_F(CloseSequenceTest, CancelledRecordingQuestionLeavesTheRestUnwritten) {
 TEST_F(CloseSequenceTest, CancelledPendingChangesQuestionStillWritesEverySetting) {
   ListWithOnePendingName();
   frontEnd.answers = {Answer::Cancel};
-  EXPECT_EQ(RunCloseSequence(closing, model, Ini(settingsFile), false, StopRecording()), CloseDecision::Refuse);
+  EXPECT_EQ(RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), false, StopRecording()), CloseDecision::Refuse);
   EXPECT_TRUE(Written("Main", "Col1"));
   EXPECT_TRUE(Written("Settings", "splash"));
   EXPECT_TRUE(Written("FrmOpen", "ShowHiddenFiles"));
   EXPECT_EQ(committer.allCommits, 0);
-  EXPECT_EQ(model.list.Count(), 2);
+  EXPECT_EQ(state.list.Count(), 2);
 }
 
 }  // namespace

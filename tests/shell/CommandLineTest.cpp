@@ -68,10 +68,10 @@ class RunCommandLineTest : public testing::ListTest {
  protected:
   RunCommandLineTest() {
     switches.openFromFile = [this](const std::string& path) {
-      events.push_back("open " + path + " after " + std::to_string(model.list.Count()) + " rows");
+      events.push_back("open " + path + " after " + std::to_string(state.list.Count()) + " rows");
     };
     switches.runScript = [this](const std::string& name) {
-      events.push_back("script " + name + " after " + std::to_string(model.list.Count()) + " rows");
+      events.push_back("script " + name + " after " + std::to_string(state.list.Count()) + " rows");
     };
   }
 
@@ -80,91 +80,91 @@ class RunCommandLineTest : public testing::ListTest {
 };
 
 TEST_F(RunCommandLineTest, NoArgumentsRunNothing) {
-  RunCommandLine(SplitCommandLine(""), model, switches);
-  EXPECT_EQ(model.list.Count(), 0);
+  RunCommandLine(SplitCommandLine(""), load, switches);
+  EXPECT_EQ(state.list.Count(), 0);
   EXPECT_TRUE(events.empty());
-  EXPECT_EQ(model.addCounter, 0);
+  EXPECT_EQ(state.addCounter, 0);
 }
 
 TEST_F(RunCommandLineTest, ExistingFileIsAdded) {
   const std::string path = temp.WriteFile("photo.jpg", "x");
-  RunCommandLine({path, ""}, model, switches);
-  ASSERT_EQ(model.list.Count(), 1);
-  EXPECT_EQ(model.list.Item(1).key, path);
+  RunCommandLine({path, ""}, load, switches);
+  ASSERT_EQ(state.list.Count(), 1);
+  EXPECT_EQ(state.list.Item(1).key, path);
 }
 
 TEST_F(RunCommandLineTest, ExistingFolderIsAddedWhole) {
   temp.WriteFile("album/a.jpg", "x");
   temp.WriteFile("album/b.jpg", "x");
-  RunCommandLine({temp.Path() + "album", ""}, model, switches);
-  EXPECT_EQ(model.list.Count(), 2);
+  RunCommandLine({temp.Path() + "album", ""}, load, switches);
+  EXPECT_EQ(state.list.Count(), 2);
 }
 
 TEST_F(RunCommandLineTest, QuotedPathWithBlanksIsAddedWhole) {
   const std::string path = temp.WriteFile("my photos/day one.jpg", "x");
-  RunCommandLine(SplitCommandLine("\"" + path + "\""), model, switches);
-  ASSERT_EQ(model.list.Count(), 1);
-  EXPECT_EQ(model.list.Item(1).key, path);
+  RunCommandLine(SplitCommandLine("\"" + path + "\""), load, switches);
+  ASSERT_EQ(state.list.Count(), 1);
+  EXPECT_EQ(state.list.Item(1).key, path);
 }
 
 TEST_F(RunCommandLineTest, MissingPathIsPassedOverInSilence) {
-  model.checkExistence = false;
+  options.checkExistence = false;
   const std::string path = temp.WriteFile("kept.jpg", "x");
-  RunCommandLine({temp.Path() + "gone.jpg", path, ""}, model, switches);
-  ASSERT_EQ(model.list.Count(), 1);
-  EXPECT_EQ(model.list.Item(1).key, path);
+  RunCommandLine({temp.Path() + "gone.jpg", path, ""}, load, switches);
+  ASSERT_EQ(state.list.Count(), 1);
+  EXPECT_EQ(state.list.Item(1).key, path);
   EXPECT_TRUE(frontEnd.faults.empty());
 }
 
 TEST_F(RunCommandLineTest, TwoPlainPathsAndASwitchAreHandledInOrder) {
   const std::string first = temp.WriteFile("first.jpg", "x");
   const std::string second = temp.WriteFile("second.jpg", "x");
-  RunCommandLine(SplitCommandLine(first + " /runscript=tidy.nrs " + second), model, switches);
+  RunCommandLine(SplitCommandLine(first + " /runscript=tidy.nrs " + second), load, switches);
   EXPECT_EQ(events, std::vector<std::string>{"script tidy.nrs after 1 rows"});
-  ASSERT_EQ(model.list.Count(), 2);
-  EXPECT_EQ(model.list.Item(1).key, first);
-  EXPECT_EQ(model.list.Item(2).key, second);
+  ASSERT_EQ(state.list.Count(), 2);
+  EXPECT_EQ(state.list.Item(1).key, first);
+  EXPECT_EQ(state.list.Item(2).key, second);
 }
 
 TEST_F(RunCommandLineTest, ListFileSwitchGetsThePathWithoutQuotes) {
-  RunCommandLine(SplitCommandLine("/openfromfile=\"/home/me/a list.txt\""), model, switches);
-  RunCommandLine({"/openfromfile=\"/home/\"me\"/b.txt\"", ""}, model, switches);
+  RunCommandLine(SplitCommandLine("/openfromfile=\"/home/me/a list.txt\""), load, switches);
+  RunCommandLine({"/openfromfile=\"/home/\"me\"/b.txt\"", ""}, load, switches);
   EXPECT_EQ(events, (std::vector<std::string>{"open /home/me/a list.txt after 0 rows", "open /home/me/b.txt after 0 rows"}));
 }
 
 TEST_F(RunCommandLineTest, ScriptSwitchGetsTheNameWithoutQuotes) {
-  RunCommandLine(SplitCommandLine("/runscript=\"20261115023303.nrs\""), model, switches);
+  RunCommandLine(SplitCommandLine("/runscript=\"20261115023303.nrs\""), load, switches);
   EXPECT_EQ(events, std::vector<std::string>{"script 20261115023303.nrs after 0 rows"});
 }
 
 TEST_F(RunCommandLineTest, SwitchesAreRecognisedInAnyCase) {
-  RunCommandLine({"/OpenFromFile=a.txt", "/RUNSCRIPT=b.nrs", ""}, model, switches);
+  RunCommandLine({"/OpenFromFile=a.txt", "/RUNSCRIPT=b.nrs", ""}, load, switches);
   EXPECT_EQ(events, (std::vector<std::string>{"open a.txt after 0 rows", "script b.nrs after 0 rows"}));
 }
 
 TEST_F(RunCommandLineTest, SwitchWithNothingBehindTheEqualsSignIsIgnored) {
-  RunCommandLine({"/runscript=", "/openfromfile=", ""}, model, switches);
+  RunCommandLine({"/runscript=", "/openfromfile=", ""}, load, switches);
   EXPECT_TRUE(events.empty());
 }
 
 TEST_F(RunCommandLineTest, UnknownArgumentsArePassedOverInSilence) {
   const std::string path = temp.WriteFile("a.jpg", "x");
-  RunCommandLine({"/quiet", "/runscripts=x", "/openfrom=x", "runscript=x", path, ""}, model, switches);
+  RunCommandLine({"/quiet", "/runscripts=x", "/openfrom=x", "runscript=x", path, ""}, load, switches);
   EXPECT_TRUE(events.empty());
-  EXPECT_EQ(model.list.Count(), 1);
+  EXPECT_EQ(state.list.Count(), 1);
   EXPECT_TRUE(frontEnd.faults.empty());
 }
 
 TEST_F(RunCommandLineTest, SwitchWithoutAHandlerIsPassedOver) {
   const std::string path = temp.WriteFile("a.jpg", "x");
-  RunCommandLine({"/runscript=x", "/openfromfile=y", path, ""}, model, CommandLineSwitches{});
-  EXPECT_EQ(model.list.Count(), 1);
+  RunCommandLine({"/runscript=x", "/openfromfile=y", path, ""}, load, CommandLineSwitches{});
+  EXPECT_EQ(state.list.Count(), 1);
 }
 
 TEST_F(RunCommandLineTest, EndMarkIsNotAnArgument) {
   const std::string path = temp.WriteFile("a.jpg", "x");
-  RunCommandLine({path}, model, switches);
-  EXPECT_EQ(model.list.Count(), 0);
+  RunCommandLine({path}, load, switches);
+  EXPECT_EQ(state.list.Count(), 0);
 }
 
 }  // namespace

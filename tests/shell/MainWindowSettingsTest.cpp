@@ -128,7 +128,7 @@ TEST_F(MainWindowSettingsTest, ColoursAreWrittenAsDecimalNumbers) {
   s.backColor = 0x00FFEE;
   s.foreColor = 0x123456;
   const std::string file = EmptySettingsPath();
-  WriteSettingsOnClose(s, model, Ini(file));
+  WriteSettingsOnClose(s, options, Ini(file));
   EXPECT_EQ(Ini(file).ReadString("Dialogs", "BackColor"), "65518");
   EXPECT_EQ(Ini(file).ReadString("Dialogs", "ForeColor"), "1193046");
 }
@@ -192,11 +192,11 @@ TEST_F(MainWindowSettingsTest, SettingsAreWrittenOnCloseInOrder) {
   s.openFileTag = "OpenFile2";
   s.takeChangesTag = "TakeChanges1";
   s.showHiddenFiles = true;
-  model.expertMode = true;
-  model.loadExifDates = false;
-  model.checkExistence = true;
+  options.expertMode = true;
+  options.loadExifDates = false;
+  options.checkExistence = true;
   const std::string file = EmptySettingsPath();
-  WriteSettingsOnClose(s, model, Ini(file));
+  WriteSettingsOnClose(s, options, Ini(file));
   EXPECT_EQ(testing::ReadWholeFile(file),
             "[Settings]\r\nsplash=1\r\nbtnbarMain=1\r\nbtnbarScript=0\r\nPreviewSortKey=2\r\nPreviewSortOrder=1\r\n"
             "RenameStyle=1\r\nExpertMode=1\r\nLoadEXIFDates=0\r\nCheckExistence=1\r\n\r\n"
@@ -210,7 +210,7 @@ TEST_F(MainWindowSettingsTest, StylesAreTheLastCharacterOfTheButtonKeys) {
   s.openFileTag = "OpenFile1";
   s.takeChangesTag = "TakeChanges2";
   const std::string file = EmptySettingsPath();
-  WriteSettingsOnClose(s, model, Ini(file));
+  WriteSettingsOnClose(s, options, Ini(file));
   EXPECT_EQ(Ini(file).ReadString("FrmOpen", "DialogueStyle"), "1");
   EXPECT_EQ(Ini(file).ReadString("Settings", "RenameStyle"), "2");
 }
@@ -240,7 +240,7 @@ TEST_F(MainWindowSettingsTest, WhatTheCloseWritesComesBackAtTheNextLoad) {
   closed.showHiddenFiles = true;
   const std::string file = EmptySettingsPath();
   WriteLayoutOnClose(closed, Ini(file));
-  WriteSettingsOnClose(closed, model, Ini(file));
+  WriteSettingsOnClose(closed, options, Ini(file));
 
   const MainWindowSettings loaded = ReadMainWindowSettings(Ini(file), frontEnd);
   EXPECT_EQ(loaded.columnWidths, closed.columnWidths);

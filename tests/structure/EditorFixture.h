@@ -12,7 +12,7 @@ namespace nomra::testing {
 // file with the texts the structure dialogs read.
 class StructureDialogTest : public ActionTest {
  protected:
-  StructureDialogTest() { model.dataFolder = data.Path(); }
+  StructureDialogTest() { options.dataFolder = data.Path(); }
 
   std::string StructuresFile() const { return data.Path() + "structures.nrp"; }
   void WriteStructures(const std::string& content) const { data.WriteFile("structures.nrp", content); }

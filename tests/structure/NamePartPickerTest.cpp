@@ -22,7 +22,7 @@ class NamePartPickerTest : public testing::StructureDialogTest {
     return {Text("txtSeparator"), Number("cmbPartCount"), Number("chkRemoveBlanks")};
   }
 
-  NamePartPicker picker{model};
+  NamePartPicker picker{state.list};
 };
 
 TEST_F(NamePartPickerTest, TargetWithoutTheTagLeavesFirstPartAndTrimmedBlanks) {
@@ -87,13 +87,13 @@ TEST_F(NamePartPickerTest, OkWritesTheTagWithTheSeparatorInQuotes) {
 
 TEST_F(NamePartPickerTest, WrittenTagIsReadBackTheSame) {
   picker.Load("<NamePart(\"_\",4,0)>");
-  NamePartPicker again(model);
+  NamePartPicker again(state.list);
   again.Load(picker.TagText());
   EXPECT_EQ(again.TagText(), "<NamePart(\"_\",4,0)>");
 }
 
 TEST_F(NamePartPickerTest, PreviewIsEmptyForAnEmptyList) {
-  model.list.Clear();
+  state.list.Clear();
   picker.Load("<NamePart(\"-\",1,1)>");
   EXPECT_EQ(Text("txtFileName"), "");
   EXPECT_EQ(Text("txtResult"), "");

@@ -31,7 +31,7 @@ class NameStructureEditorTest : public testing::StructureDialogTest {
     return keys;
   }
 
-  NameStructureEditor editor{model, catalog};
+  NameStructureEditor editor{Actions(), catalog};
 };
 
 TEST_F(NameStructureEditorTest, LoadingReadsTheStoredStructuresAndChoosesTheFirst) {
@@ -199,8 +199,8 @@ TEST_F(NameStructureEditorTest, DeletingTheLastRowDisablesEditAndDelete) {
 
 TEST_F(NameStructureEditorTest, ApplyRunsTheChosenStructureOnTheRowsInScope) {
   Open();
-  model.list.Item(2).selected = true;
-  model.applyScope = 1;
+  state.list.Item(2).selected = true;
+  state.applyScope = 1;
   EXPECT_TRUE(editor.Apply());
   EXPECT_EQ(PendingNames(), (Names{"alpha.txt", "BETA.txt"}));
 }
@@ -286,7 +286,7 @@ TEST_F(NameStructureEditorTest, PreviewOfAFaultingStructureShowsWhyInTheResult) 
 }
 
 TEST_F(NameStructureEditorTest, PreviewIsEmptyForAnEmptyList) {
-  model.list.Clear();
+  state.list.Clear();
   Open();
   EXPECT_EQ(Text("txtFileName"), "");
   EXPECT_EQ(Text("txtResult"), "");

@@ -34,19 +34,19 @@ TEST_F(RunTimeFaults, ClosingCaseMarkBeforeItsOpening) {
 
 TEST_F(RunTimeFaults, RowsBeforeTheFaultKeepWhatTheyGot) {
   AddFiles({"1.txt", "2.txt", "3-x.txt", "4.txt"});
-  model.statusTexts[6] = "%1/%2";
+  texts.rowOfCount = "%1/%2";
   // The list shows the rows in the order they were added.
   ASSERT_EQ(Column(kColOldName), (std::vector<std::string>{"1.txt", "2.txt", "3-x.txt", "4.txt"}));
 
   try {
-    ApplyStructure(model, "n<NAMEPART(\"-\",0)><NAME>");
+    ApplyStructure(Actions(), "n<NAMEPART(\"-\",0)><NAME>");
     ADD_FAILURE() << "the action ran to its end";
   } catch (const RuntimeFault& fault) {
     EXPECT_EQ(std::string(fault.what()).rfind("Row 3 of 4, 3-x.txt: ", 0), 0u) << fault.what();
   }
 
   EXPECT_EQ(Column(kColNewName), (std::vector<std::string>{"n1", "n2", "3-x.txt", "4.txt"}));
-  EXPECT_EQ(model.changedCount, 2);
+  EXPECT_EQ(state.changedCount, 2);
 }
 
 }  // namespace

@@ -59,7 +59,7 @@ TEST_F(ShippedTagListsTest, EveryOfferedTagPassesTheBracketChecks) {
   choices.insert(choices.end(), functions.begin(), functions.end());
   for (const TagChoice& choice : choices) {
     // Without a row to test on, the check is that of the brackets alone.
-    EXPECT_EQ(CheckStructureSyntax(model, choice.tag, {}), std::nullopt) << choice.tag;
+    EXPECT_EQ(CheckStructureSyntax(state.list, choice.tag, {}), std::nullopt) << choice.tag;
   }
 }
 
@@ -69,11 +69,11 @@ TEST_F(ShippedTagListsTest, NameAndFunctionTagsResolveOnARealFile) {
   for (const std::string tag : {"<NAME>", "<EXT>", "<.EXT>", "<PATH>", "<BLANK>"}) {
     const std::vector<std::string> tags = TagsOf(ElementChoices(catalog));
     EXPECT_NE(std::find(tags.begin(), tags.end(), tag), tags.end()) << tag;
-    EXPECT_EQ(CheckStructureSyntax(model, tag, {}), std::nullopt) << tag;
+    EXPECT_EQ(CheckStructureSyntax(state.list, tag, {}), std::nullopt) << tag;
   }
   for (const std::string& tag : TagsOf(FunctionChoices(catalog))) {
     if (tag.starts_with("<DT(")) continue;  // the dates come with their reader
-    EXPECT_EQ(CheckStructureSyntax(model, tag, {}), std::nullopt) << tag;
+    EXPECT_EQ(CheckStructureSyntax(state.list, tag, {}), std::nullopt) << tag;
   }
 }
 

@@ -13,10 +13,10 @@ class StructureTest : public ListTest {
   // Evaluates on a file "folder/old" whose pending name is `pending`.
   std::string Evaluate(const std::string& structure, const std::string& pending,
                        const std::string& folder = "Music/Rock") {
-    model.list.Clear();
+    state.list.Clear();
     AddFiles({folder + "/file.bin"});
     SetNewName(1, pending);
-    return EvaluateStructure(model, 1, structure);
+    return EvaluateStructure(state.list.Item(1), structure);
   }
 };
 

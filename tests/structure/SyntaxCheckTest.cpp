@@ -21,7 +21,7 @@ class SyntaxCheckTest : public testing::ListTest {
   SyntaxCheckTest() { AddFiles({"holiday.jpg"}); }
 
   std::optional<SyntaxFailure> Check(const std::string& structure) {
-    return CheckStructureSyntax(model, structure, kTexts);
+    return CheckStructureSyntax(state.list, structure, kTexts);
   }
   // The message key a structure fails with; "" when it passes.
   std::string FailureKey(const std::string& structure) {
@@ -146,7 +146,7 @@ TEST_F(SyntaxCheckTest, TestEvaluationRunsOnTheFirstRow) {
 }
 
 TEST_F(SyntaxCheckTest, EmptyListLeavesTheTestEvaluationOut) {
-  model.list.Clear();
+  state.list.Clear();
   EXPECT_EQ(Check("<ERROR>"), std::nullopt);
   EXPECT_EQ(FailureKey("a>"), "msgErrorStructure1");
 }

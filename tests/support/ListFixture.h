@@ -4,10 +4,19 @@
 #include <string>
 #include <vector>
 
+#include "commit/CommitContext.h"
 #include "core/AddFile.h"
-#include "core/MainModel.h"
-#include "core/RefreshPreview.h"
+#include "core/ListContext.h"
+#include "core/ListOptions.h"
+#include "core/ListState.h"
+#include "core/Progress.h"
+#include "core/RowCommitter.h"
+#include "core/StatusTexts.h"
+#include "dialog/ScriptSession.h"
 #include "platform/posix/PosixFileSystem.h"
+#include "rename/ActionContext.h"
+#include "shell/WindowPreview.h"
+#include "shell/WindowState.h"
 #include "support/ForwardingFileSystem.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
@@ -23,37 +32,77 @@ class RecordingCommitter final : public RowCommitter {
   std::vector<int> committedRows;
 };
 
-// A list over real files in a temporary folder, with scripted answers.
-class ListTest : public ::testing::Test {
- protected:
-  ListTest() {
-    model.statusTexts[1] = "%1 files in %2 folders, %3 changed";
-    model.statusTexts[2] = "Adding";
-    model.statusTexts[5] = "No script";
+// A progress that counts its ticks; a tick says stop once after `stopNow`
+// was set, as a click on the cancel button during the tick would.
+class ScriptedProgress final : public Progress {
+ public:
+  bool Tick(const ProgressStep&) override {
+    ++ticks;
+    if (onTick) onTick();
+    const bool stop = stopNow;
+    stopNow = false;
+    return !stop;
   }
+  int ticks = 0;
+  bool stopNow = false;
+  // Runs at each tick, while the window's events would be let through.
+  std::function<void()> onTick;
+};
+
+// A list over real files in a temporary folder, the file system `Files`
+// over them, scripted answers, and everything the engine's commands are
+// handed: options, status texts, the script session, the window's state and
+// its preview, the load.
+template <typename Files>
+struct ListParts {
+  ListParts() {
+    texts.listSummary = "%1 files in %2 folders, %3 changed";
+    texts.adding = "Adding";
+    texts.noScript = "No script";
+  }
+  ListParts(const ListParts&) = delete;
+  ListParts& operator=(const ListParts&) = delete;
 
   // Creates the files (relative paths) and adds each through AddFile.
   void AddFiles(const std::vector<std::string>& names) {
     for (const std::string& name : names) {
       std::string path = temp.WriteFile(name, "x");
-      AddFile(model, path);
+      AddFile(load, path);
     }
-    refreshPreview(model);
+    preview.Refresh();
   }
 
   std::vector<std::string> Column(int column) {
     std::vector<std::string> values;
-    model.list.ForEach([&](const FileEntry& row) { values.push_back(row[column]); });
+    state.list.ForEach([&](const FileEntry& row) { values.push_back(row[column]); });
     return values;
   }
 
-  void SetNewName(int position, const std::string& name) { model.list.Item(position)[kColNewName] = name; }
+  void SetNewName(int position, const std::string& name) { state.list.Item(position)[kColNewName] = name; }
+
+  ListContext List() { return {state, frontEnd, preview}; }
+  ActionContext Actions() { return {List(), texts, script, fileSystem}; }
+  CommitContext Commit() { return {state, fileSystem, frontEnd, options, texts}; }
 
   TempFolder temp;
-  platform::PosixFileSystem fileSystem;
+  Files fileSystem;
   ScriptedFrontEnd frontEnd;
+  ScriptedProgress progress;
   NoExifDates noExif;
-  MainModel model{fileSystem, frontEnd, noExif};
+  ListOptions options;
+  StatusTexts texts;
+  ListState state{fileSystem};
+  WindowState window;
+  ScriptSession script;
+  WindowPreview preview{state, window, script, frontEnd, texts};
+  ListLoad load{state, fileSystem, frontEnd, progress, noExif, options, texts};
+  RowCommitter* rowCommitter = nullptr;  // takes pending names to disk before rows go
 };
+
+// The one fixture of the list.
+template <typename Files>
+class ListTestOver : public ::testing::Test, public ListParts<Files> {};
+
+using ListTest = ListTestOver<platform::PosixFileSystem>;
 
 }  // namespace nomra::testing

@@ -52,6 +52,6 @@ std::string CaseDialog::Structure() const {
   }
 }
 
-void CaseDialog::Run(MainModel& model) { ApplyStructure(model, Structure()); }
+void CaseDialog::Run(const ActionContext& context) { ApplyStructure(context, Structure()); }
 
 }  // namespace nomra

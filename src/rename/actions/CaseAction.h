@@ -12,7 +12,7 @@ class CaseDialog final : public ActionDialog {
  public:
   CaseDialog();
   const ActionTraits& Traits() const override;
-  void Run(MainModel& model) override;
+  void Run(const ActionContext& context) override;
 
   // The structure the chosen buttons stand for.
   std::string Structure() const;

@@ -45,9 +45,9 @@ std::string ExtensionDialog::Structure() const {
 
 bool ExtensionDialog::ChangeInputsEnabled() const { return Model().IsSelected(kChange); }
 
-void ExtensionDialog::Run(MainModel& model) {
+void ExtensionDialog::Run(const ActionContext& context) {
   Model().SetText(kNewExtension, CleanExtensionInput(Model().Text(kNewExtension)));
-  ApplyStructure(model, Structure());
+  ApplyStructure(context, Structure());
 }
 
 }  // namespace nomra

@@ -13,7 +13,7 @@ class ExtensionDialog final : public ActionDialog {
   const ActionTraits& Traits() const override;
   // Cleans txtFE (blanks around it, then its leading dots), writes it back
   // and applies the structure.
-  void Run(MainModel& model) override;
+  void Run(const ActionContext& context) override;
 
   // The structure of the inputs as they stand.
   std::string Structure() const;

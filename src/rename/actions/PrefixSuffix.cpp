@@ -26,10 +26,10 @@ const ActionTraits& PrefixSuffixDialog::Traits() const {
   return traits;
 }
 
-void PrefixSuffixDialog::Run(MainModel& model) {
+void PrefixSuffixDialog::Run(const ActionContext& context) {
   const std::string prefix = Model().Text(kPrefixInput);
   const std::string suffix = Model().Text(kSuffixInput);
-  RewritePendingNames(model, [&](int, const FileEntry& entry) {
+  RewritePendingNames(context, [&](int, const FileEntry& entry) {
     return AddPrefixAndSuffix(entry[kColNewName], prefix, suffix);
   });
 }

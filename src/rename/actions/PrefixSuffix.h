@@ -14,7 +14,7 @@ class PrefixSuffixDialog final : public ActionDialog {
  public:
   PrefixSuffixDialog();
   const ActionTraits& Traits() const override;
-  void Run(MainModel& model) override;
+  void Run(const ActionContext& context) override;
 };
 
 // prefix + stem + suffix + extension.

@@ -9,17 +9,18 @@
 
 namespace nomra::ui {
 
-bool RunSelAction(QWidget* parent, platform::Platform& system, MainModel& model, const lang::MessageCatalog& catalog,
+bool RunSelAction(QWidget* parent, platform::Platform& system, const ActionContext& context, RowCommitter* committer,
+                  const lang::MessageCatalog& catalog,
                   const QString& tag) {
-  FrmSelAction dialog(tag, model, catalog, system, parent);
+  FrmSelAction dialog(tag, context, committer, catalog, system, parent);
   return dialog.exec() == QDialog::Accepted;
 }
 
-bool DeleteListFiles(QWidget* parent, platform::Platform& system, MainModel& model,
+bool DeleteListFiles(QWidget* parent, platform::Platform& system, const ListContext& context, bool expertMode,
                      const lang::MessageCatalog& catalog, bool toTrash) {
   FileOperationProgress progress(catalog, parent);
-  fileops::OperationServices services{system.Files(), system.DesktopTrash(), model.frontEnd, progress};
-  return fileops::DeleteListFiles(model, toTrash, services);
+  fileops::OperationServices services{system.Files(), system.DesktopTrash(), context.frontEnd, progress};
+  return fileops::DeleteListFiles(context, expertMode, toTrash, services);
 }
 
 void ShowProperties(QWidget* parent, platform::FileSystem& fileSystem, FrontEnd& frontEnd,

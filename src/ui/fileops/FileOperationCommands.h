@@ -2,7 +2,9 @@
 #include <QString>
 #include <string>
 
-#include "core/MainModel.h"
+#include "core/ListContext.h"
+#include "core/RowCommitter.h"
+#include "rename/ActionContext.h"
 #include "lang/MessageCatalog.h"
 #include "platform/Platform.h"
 
@@ -16,12 +18,13 @@ namespace nomra::ui {
 // mnuCopyFiles ("frmCopyFiles"), mnuMoveFiles ("frmMoveFiles") and the
 // copy of "TakeChanges2" ("frmSelAction"): frmSelAction with that Tag.
 // True when its OK ran to the end.
-bool RunSelAction(QWidget* parent, platform::Platform& system, MainModel& model, const lang::MessageCatalog& catalog,
+bool RunSelAction(QWidget* parent, platform::Platform& system, const ActionContext& context, RowCommitter* committer,
+                  const lang::MessageCatalog& catalog,
                   const QString& tag);
 
 // mnuDeleteFiles1 (to the trash) and mnuDeleteFiles2 (at once), with their
 // progress. False when expert mode is off.
-bool DeleteListFiles(QWidget* parent, platform::Platform& system, MainModel& model,
+bool DeleteListFiles(QWidget* parent, platform::Platform& system, const ListContext& context, bool expertMode,
                      const lang::MessageCatalog& catalog, bool toTrash);
 
 // The properties window of a file (btnBarLeft "Properties" and the pop-up

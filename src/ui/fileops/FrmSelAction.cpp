@@ -33,9 +33,14 @@ QGroupBox* BuildFrameCopy(QWidget& dialog) {
 
 }  // namespace
 
-FrmSelAction::FrmSelAction(const QString& tag, MainModel& model, const lang::MessageCatalog& catalog,
+FrmSelAction::FrmSelAction(const QString& tag, const ActionContext& context, RowCommitter* committer,
+                           const lang::MessageCatalog& catalog,
                            platform::Platform& system, QWidget* parent)
-    : QDialog(parent), engine_(ToEngineText(tag)), model_(model), catalog_(catalog), system_(system) {
+    : QDialog(parent), engine_(ToEngineText(tag)),
+      context_(context),
+      committer_(committer),
+      catalog_(catalog),
+      system_(system) {
   setObjectName(tag);
   setWindowTitle("Copy files");
   resize(560, 0);
@@ -66,7 +71,7 @@ FrmSelAction::FrmSelAction(const QString& tag, MainModel& model, const lang::Mes
   LocaliseDialog(*this, catalog, parent, QString());
 
   // The first showing: the remembered inputs, then the change handler.
-  engine_.Activate(model_);
+  engine_.Activate(context_);
   ShowModelInWidgets(engine_.Model(), *this);
   ok_->setEnabled(engine_.OkEnabled());
 
@@ -77,7 +82,7 @@ FrmSelAction::FrmSelAction(const QString& tag, MainModel& model, const lang::Mes
 
 void FrmSelAction::OnTargetPathEdited(const QString& text) {
   engine_.Model().SetText(kTargetPathName, ToEngineText(text));
-  engine_.txtTargetPath_Change(model_.fileSystem);
+  engine_.txtTargetPath_Change(context_.fileSystem);
   ok_->setEnabled(engine_.OkEnabled());
 }
 
@@ -92,7 +97,7 @@ void FrmSelAction::cmdSelPath() {
   const QString chosen = browser.exec() == QDialog::Accepted && !browser.selectedFiles().isEmpty()
                              ? browser.selectedFiles().constFirst()
                              : QString();
-  engine_.cmdSelPath(ToEngineText(chosen), model_.fileSystem);
+  engine_.cmdSelPath(ToEngineText(chosen), context_.fileSystem);
   ShowModelInWidgets(engine_.Model(), *this);
   ok_->setEnabled(engine_.OkEnabled());
 }
@@ -100,9 +105,9 @@ void FrmSelAction::cmdSelPath() {
 void FrmSelAction::cmdOK() {
   ReadWidgetsIntoModel(engine_.Model(), *this);
   FileOperationProgress progress(catalog_, this);
-  fileops::OperationServices services{system_.Files(), system_.DesktopTrash(), model_.frontEnd, progress};
-  RunShowingFault(model_.frontEnd, [&] {
-    if (engine_.cmdOK(model_, services)) accept();
+  fileops::OperationServices services{system_.Files(), system_.DesktopTrash(), context_.User(), progress};
+  RunShowingFault(context_.User(), [&] {
+    if (engine_.cmdOK(context_, committer_, services)) accept();
   });
 }
 

@@ -2,7 +2,8 @@
 #include <QDialog>
 #include <QString>
 
-#include "core/MainModel.h"
+#include "core/RowCommitter.h"
+#include "rename/ActionContext.h"
 #include "fileops/FrmSelAction.h"
 #include "platform/Platform.h"
 #include "lang/MessageCatalog.h"
@@ -20,7 +21,8 @@ namespace nomra::ui {
 class FrmSelAction final : public QDialog {
   Q_OBJECT
  public:
-  FrmSelAction(const QString& tag, MainModel& model, const lang::MessageCatalog& catalog,
+  FrmSelAction(const QString& tag, const ActionContext& context, RowCommitter* committer,
+               const lang::MessageCatalog& catalog,
                platform::Platform& system, QWidget* parent = nullptr);
 
   fileops::FrmSelAction& Engine() { return engine_; }
@@ -32,7 +34,8 @@ class FrmSelAction final : public QDialog {
   void OnTargetPathEdited(const QString& text);
 
   fileops::FrmSelAction engine_;
-  MainModel& model_;
+  ActionContext context_;
+  RowCommitter* committer_;
   const lang::MessageCatalog& catalog_;
   platform::Platform& system_;
   QLineEdit* targetPath_ = nullptr;

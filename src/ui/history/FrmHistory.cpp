@@ -48,11 +48,11 @@ QTreeWidget* MakeFileList(QWidget& parent) {
 
 }  // namespace
 
-FrmHistory::FrmHistory(MainModel& model, QtFrontEnd& frontEnd, const lang::MessageCatalog& catalog,
+FrmHistory::FrmHistory(platform::FileSystem& fileSystem, const std::string& dataFolder, QtFrontEnd& frontEnd, const lang::MessageCatalog& catalog,
                        const QString& appTitle, QWidget* mainWindow)
     : QDialog(mainWindow),
       frontEnd_(frontEnd),
-      services_{model.fileSystem, frontEnd, model.dataFolder, nullptr} {
+      services_{fileSystem, frontEnd, dataFolder, nullptr} {
   // A failed rename shows its message with the system's own words.
   services_.showFailure = [this, &catalog](const ReportRow& failure) {
     frontEnd_.AskText(history::FailureMessage(failure), ReportRowText(failure, catalog));
@@ -133,9 +133,10 @@ void FrmHistory::SortByHead(int column) {
   ShowRows();
 }
 
-void ShowRenameHistory(QWidget* mainWindow, MainModel& model, QtFrontEnd& frontEnd,
+void ShowRenameHistory(QWidget* mainWindow, platform::FileSystem& fileSystem, const std::string& dataFolder,
+                       QtFrontEnd& frontEnd,
                        const lang::MessageCatalog& catalog, const QString& appTitle) {
-  FrmHistory dialog(model, frontEnd, catalog, appTitle, mainWindow);
+  FrmHistory dialog(fileSystem, dataFolder, frontEnd, catalog, appTitle, mainWindow);
   dialog.exec();
 }
 

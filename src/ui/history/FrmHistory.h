@@ -2,7 +2,7 @@
 #include <QDialog>
 #include <functional>
 
-#include "core/MainModel.h"
+#include "platform/FileSystem.h"
 #include "history/HistoryList.h"
 #include "history/UndoRenamings.h"
 #include "lang/MessageCatalog.h"
@@ -21,7 +21,7 @@ class QtFrontEnd;
 class FrmHistory final : public QDialog {
   Q_OBJECT
  public:
-  FrmHistory(MainModel& model, QtFrontEnd& frontEnd, const lang::MessageCatalog& catalog, const QString& appTitle,
+  FrmHistory(platform::FileSystem& fileSystem, const std::string& dataFolder, QtFrontEnd& frontEnd, const lang::MessageCatalog& catalog, const QString& appTitle,
              QWidget* mainWindow = nullptr);
 
   const history::HistoryList& List() const { return list_; }
@@ -47,7 +47,8 @@ class FrmHistory final : public QDialog {
 };
 
 // Shows FrmHistory modally over the main window: what mnuHistory runs.
-void ShowRenameHistory(QWidget* mainWindow, MainModel& model, QtFrontEnd& frontEnd,
+void ShowRenameHistory(QWidget* mainWindow, platform::FileSystem& fileSystem, const std::string& dataFolder,
+                       QtFrontEnd& frontEnd,
                        const lang::MessageCatalog& catalog, const QString& appTitle);
 
 }  // namespace nomra::ui

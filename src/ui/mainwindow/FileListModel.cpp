@@ -9,18 +9,18 @@
 
 namespace nomra::ui {
 
-FileListModel::FileListModel(MainModel& model, ThumbnailCache& thumbnails, QObject* parent)
-    : QAbstractTableModel(parent), model_(model), thumbnails_(thumbnails) {}
+FileListModel::FileListModel(FileList& list, ThumbnailCache& thumbnails, QObject* parent)
+    : QAbstractTableModel(parent), list_(list), thumbnails_(thumbnails) {}
 
 int FileListModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : model_.list.Count();
+  return parent.isValid() ? 0 : list_.Count();
 }
 
 int FileListModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : kShownColumns; }
 
 QVariant FileListModel::data(const QModelIndex& index, int role) const {
-  if (!index.isValid() || index.row() >= model_.list.Count()) return {};
-  const FileEntry& row = model_.list.Item(index.row() + 1);
+  if (!index.isValid() || index.row() >= list_.Count()) return {};
+  const FileEntry& row = list_.Item(index.row() + 1);
   const int column = index.column();
   switch (role) {
     case Qt::DisplayRole:
@@ -85,8 +85,8 @@ bool FileListModel::dropMimeData(const QMimeData* data, Qt::DropAction, int row,
   if (data->hasFormat(kRowMimeType)) {
     const int dragged = data->data(kRowMimeType).toInt();
     // The target is the row under the pointer; below the last row it is the last.
-    int target = parent.isValid() ? parent.row() + 1 : (row >= 0 ? row + 1 : model_.list.Count());
-    if (target > model_.list.Count()) target = model_.list.Count();
+    int target = parent.isValid() ? parent.row() + 1 : (row >= 0 ? row + 1 : list_.Count());
+    if (target > list_.Count()) target = list_.Count();
     if (dragged >= 1 && target >= 1) emit rowDropped(dragged, target);
     // The engine moves the row; Qt must not remove the dragged one as well.
     return false;

@@ -22,8 +22,8 @@
 #include "base/NumberText.h"
 #include "commit/CommitRecovery.h"
 #include "core/AddFile.h"
-#include "core/CommandState.h"
-#include "core/RefreshPreview.h"
+#include "shell/CommandState.h"
+#include "shell/StatusTextsOfLanguage.h"
 #include "core/SortFileList.h"
 #include "shell/WindowPlacement.h"
 #include "script/ScriptRecording.h"
@@ -69,11 +69,11 @@ const QStringList& CommandsNotYetBuilt() {
 MainWindow::MainWindow(Services services, QWidget* parent)
     : QMainWindow(parent),
       system_(services.system),
-      model_(services.system.Files(), frontEnd_, services.exifDates),
+      exifDates_(services.exifDates),
       catalog_(services.languageFile.empty() ? lang::MessageCatalog()
                                              : lang::MessageCatalog(services.system.Files(), services.languageFile)),
       frontEnd_(catalog_, services.appTitle),
-      committer_(model_),
+      state_(services.system.Files()),
       paths_(std::move(services.paths)),
       appTitle_(services.appTitle),
       version_(services.version) {
@@ -88,7 +88,6 @@ MainWindow::MainWindow(Services services, QWidget* parent)
     notYetBuilt_.insert(RenameMenuEntry(stepType));
     notYetBuilt_.insert(ToolName(kMainBar, RenameToolKey(stepType)));
   }
-  model_.committer = &committer_;
   frontEnd_.SetParentWindow(this);
 
   thumbnails_ = new ThumbnailCache(this);
@@ -100,16 +99,16 @@ MainWindow::MainWindow(Services services, QWidget* parent)
   BuildCommandTables();
   ConnectCommands();
 
-  LoadStartupSettings(model_, paths_);
+  LoadStartupSettings(paths_, {system_.Files(), frontEnd_, options_, script_});
   settings_ = ReadMainWindowSettings(SettingsFile(), frontEnd_);
   LoadSettingsIntoWindow();
   ApplyExpertMode();
 
   // A commit cut short by a crash is set right before any file is listed.
-  const InterruptedCommit interrupted = RecoverInterruptedCommit(model_.fileSystem, model_.dataFolder);
+  const InterruptedCommit interrupted = RecoverInterruptedCommit(system_.Files(), options_.dataFolder);
   ShowUnresolved(frontEnd_, interrupted);
 
-  if (paths_.dataFolderUsable) ResetScriptTemp(model_.script, model_.fileSystem);
+  if (paths_.dataFolderUsable) ResetScriptTemp(script_, system_.Files());
   ShowLanguageTexts();
 }
 
@@ -143,9 +142,7 @@ void MainWindow::ShowLanguageTexts() {
 // Texts the localisation can't put by name: column heads, status texts, the
 // scope list, sort and size entries, and the tool tips of the variants.
 void MainWindow::setLngalt() {
-  for (int i = 0; i < static_cast<int>(model_.statusTexts.size()); ++i) {
-    model_.statusTexts[i] = catalog_.GetText(lang::kMessagesSection, "MsgStat" + text::FormatPadded(i, 2));
-  }
+  texts_ = StatusTextsOf(catalog_);
   static const char* kDesignHeads[] = {"Picture", "Path", "Old name", "New name", "Created", "Modified", "EXIF date", "Size"};
   QStringList heads;
   for (int column = 0; column < FileListModel::kShownColumns; ++column) {
@@ -159,7 +156,7 @@ void MainWindow::setLngalt() {
   applyTo_->clear();
   // The scope is one of the first three removals: all, selected or unselected files.
   for (int entry = 1; entry <= 3; ++entry) applyTo_->addItem(MenuAction(MenuEntryOf(EntryKey(kDelListKey, entry)))->text().remove('&'));
-  applyTo_->setCurrentIndex(scope < 0 ? model_.applyScope : scope);
+  applyTo_->setCurrentIndex(scope < 0 ? state_.applyScope : scope);
 
   std::string ascending = catalog_.GetText(kMainWindowName, "mnuViewSortingAsc");
   std::string descending = catalog_.GetText(kMainWindowName, "mnuViewSortingDesc");
@@ -247,8 +244,8 @@ void MainWindow::LoadSettingsIntoWindow() {
     MenuAction(ControlArrayMember(kColumnFamily, entry))->setChecked(checks[entry - 1]);
   }
 
-  if (settings_.previewSortKey >= 0) model_.list.sortKey = static_cast<int>(settings_.previewSortKey);
-  if (settings_.previewSortOrder >= 0) model_.list.sortOrder = static_cast<int>(settings_.previewSortOrder);
+  if (settings_.previewSortKey >= 0) state_.list.sortKey = static_cast<int>(settings_.previewSortKey);
+  if (settings_.previewSortOrder >= 0) state_.list.sortOrder = static_cast<int>(settings_.previewSortOrder);
 
   iconSizeEntry_ = settings_.previewImageSize > 0 ? static_cast<int>(settings_.previewImageSize) : 1;
   if (settings_.previewStyle == kDetailsIconsStyle) {
@@ -289,15 +286,15 @@ void MainWindow::ApplyWindowPlacement() {
 
 void MainWindow::ApplyExpertMode() {
   for (const char* name : {kDeleteToTrashEntry, kDeleteEntry, kFileAttributesEntry}) {
-    MenuAction(name)->setEnabled(model_.expertMode && !notYetBuilt_.contains(name));
+    MenuAction(name)->setEnabled(options_.expertMode && !notYetBuilt_.contains(name));
   }
 }
 
 void MainWindow::RefreshPreview() {
   const std::string refreshing = catalog_.GetText(kMainWindowName, "RefreshPreview");
   if (!refreshing.empty()) status_->setText(ToQString(refreshing));
-  model_.iconView = view_ == ListView::Icons;
-  refreshPreview(model_);
+  state_.iconView = view_ == ListView::Icons;
+  preview_.Refresh();
 
   const bool pictures = view_ != ListView::Details;
   thumbnails_->SetSize(pictures ? IconSize() : 0);
@@ -324,12 +321,12 @@ void MainWindow::RefreshPreview() {
   RestoreSelection();
   UpdateSortIndicators();
   ApplyCommandStates();
-  selectedScript_->setText(ToQString(model_.selectedScriptLabel));
+  selectedScript_->setText(ToQString(window_.selectedScriptLabel));
   SelectionHandler();
 }
 
 void MainWindow::ApplyCommandStates() {
-  const CommandState& state = model_.commands;
+  const CommandState& state = window_.commands;
   auto allowed = [&](const QString& name) { return !notYetBuilt_.contains(name); };
   for (const QString& name : ManagedMenuNames()) {
     if (QAction* action = MenuAction(name)) action->setEnabled(state.IsEnabled(ToEngineText(name)) && allowed(name));
@@ -345,7 +342,7 @@ void MainWindow::ApplyCommandStates() {
   for (const char* key : {kRunSelectedKey, kStartRecordKey, kStartRunKey}) {
     ToolAction(kScriptBar, key)->setEnabled(state.IsEnabled(key) && allowed(ToolName(kScriptBar, key)));
   }
-  const bool recording = model_.script.recording != 0;
+  const bool recording = script_.recording != 0;
   ToolAction(kScriptBar, kStopRecordKey)->setEnabled(recording);
   MenuAction(kStartRecordEntry)->setEnabled(!recording);
   MenuAction(kStopRecordEntry)->setEnabled(recording);
@@ -361,15 +358,15 @@ void MainWindow::ApplyCommandStates() {
 
 void MainWindow::UpdateSortIndicators() {
   QHeaderView* header = details_->horizontalHeader();
-  const int column = model_.list.sortKey;
+  const int column = state_.list.sortKey;
   // The heads after the first show an arrow; the first has no order.
   if (column >= kColPath && column <= kColSize) {
     header->setSortIndicatorShown(true);
-    header->setSortIndicator(column, model_.list.sortOrder == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+    header->setSortIndicator(column, state_.list.sortOrder == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
   } else {
     header->setSortIndicatorShown(false);
   }
-  const int checked = CheckedSortMenuEntry(model_);
+  const int checked = CheckedSortMenuEntry(state_.list);
   for (int entry = 1; entry <= kSortEntries; ++entry) MenuAction(ControlArrayMember(kSortFamily, entry))->setChecked(entry == checked);
   MenuAction(kUnsortedEntry)->setChecked(checked == 0);
 }
@@ -379,10 +376,10 @@ void MainWindow::RestoreSelection() {
   const QSignalBlocker quiet(selection);
   QItemSelection ranges;
   int runStart = -1;
-  const int count = model_.list.Count();
+  const int count = state_.list.Count();
   const int lastColumn = FileListModel::kShownColumns - 1;
   int row = 0;
-  model_.list.ForEach([&](const FileEntry& entry) {
+  state_.list.ForEach([&](const FileEntry& entry) {
     if (entry.selected && runStart < 0) runStart = row;
     if (!entry.selected && runStart >= 0) {
       ranges.select(listModel_->index(runStart, 0), listModel_->index(row - 1, lastColumn));
@@ -401,7 +398,7 @@ void MainWindow::RestoreSelection() {
 
 int MainWindow::SelectedPosition() const {
   const QModelIndex current = details_->selectionModel()->currentIndex();
-  if (current.isValid() && model_.list.Item(current.row() + 1).selected) return current.row() + 1;
+  if (current.isValid() && state_.list.Item(current.row() + 1).selected) return current.row() + 1;
   const QModelIndexList rows = details_->selectionModel()->selectedRows();
   return rows.isEmpty() ? 0 : rows.first().row() + 1;
 }
@@ -409,10 +406,10 @@ int MainWindow::SelectedPosition() const {
 // The detail fields follow the row at the selection.
 void MainWindow::SelectionHandler() {
   for (QLabel* field : detailFields_) field->clear();
-  const int position = model_.list.Empty() ? 0 : SelectedPosition();
+  const int position = state_.list.Empty() ? 0 : SelectedPosition();
   if (position > 0) {
     lastSelectedIndex_ = position;
-    const FileEntry& row = model_.list.Item(position);
+    const FileEntry& row = state_.list.Item(position);
     detailFields_[0]->setText(ToQString(row[kColPath]));
     detailFields_[1]->setText(ToQString(row[kColOldName]));
     detailFields_[2]->setText(ToQString(row[kColNewName]));
@@ -428,7 +425,7 @@ void MainWindow::SelectionHandler() {
   }
   picture_->clear();
   if (hasRow) {
-    const QString path = ToQString(model_.list.Item(position).key);
+    const QString path = ToQString(state_.list.Item(position).key);
     QImageReader reader(path);
     if (reader.canRead()) {
       const QSize full = reader.size();
@@ -443,13 +440,13 @@ void MainWindow::AddPaths(const QStringList& paths) {
   RunLoad([&] {
     for (const QString& path : paths) {
       // The cancel button is let through by the pump inside the loader.
-      if (model_.cancelLoading) break;
+      if (load_.stopAsked) break;
       // A path that vanished since it was dropped is passed over, as the
       // existence check would.
       std::string text = ToEngineText(path);
-      if (model_.fileSystem.Status(text).kind == platform::EntryKind::Missing) continue;
+      if (system_.Files().Status(text).kind == platform::EntryKind::Missing) continue;
       // A path that fails is told, and the next one loads.
-      RunShowingFault(frontEnd_, [&] { AddFile(model_, text); });
+      RunShowingFault(frontEnd_, [&] { AddFile(load_, text); });
     }
   });
 }
@@ -462,14 +459,14 @@ void MainWindow::SetBusyLoading(bool loading) {
   mainBar_->setEnabled(!loading);
   scriptBar_->setEnabled(!loading);
   views_->setEnabled(!loading);
-  applyTo_->setEnabled(!loading && model_.commands.IsEnabled(kApplyScopeListName));
+  applyTo_->setEnabled(!loading && window_.commands.IsEnabled(kApplyScopeListName));
   for (QAction* action : leftBar_->actions()) {
     if (action->property(kKeyProperty).toString() != QLatin1String(kCancelActionKey)) action->setEnabled(!loading);
   }
   ToolAction(kLeftBar, kCancelActionKey)->setEnabled(loading);
 }
 
-void MainWindow::CancelAction() { model_.cancelLoading = true; }
+void MainWindow::CancelAction() { progress_.RequestStop(); }
 
 void MainWindow::ShowAtStart() {
   show();

@@ -10,10 +10,20 @@
 #include <vector>
 
 #include "commit/DiskCommitter.h"
+#include "commit/CommitContext.h"
+#include "core/AddFile.h"
 #include "core/ExifDateReader.h"
-#include "core/MainModel.h"
+#include "core/ListContext.h"
+#include "core/ListOptions.h"
+#include "core/ListState.h"
+#include "core/StatusTexts.h"
+#include "dialog/ScriptSession.h"
+#include "rename/ActionContext.h"
 #include "shell/MainWindowSettings.h"
 #include "shell/Startup.h"
+#include "shell/WindowPreview.h"
+#include "shell/WindowState.h"
+#include "ui/mainwindow/PumpingProgress.h"
 #include "formats/IniFile.h"
 #include "lang/MessageCatalog.h"
 #include "platform/FileSystem.h"
@@ -64,7 +74,17 @@ class MainWindow final : public QMainWindow {
   explicit MainWindow(Services services, QWidget* parent = nullptr);
   ~MainWindow() override;
 
-  MainModel& Model() { return model_; }
+  // The list, the window's own state, the options and the script session,
+  // and the contexts the engine's commands are handed.
+  ListState& State() { return state_; }
+  WindowState& Window() { return window_; }
+  ListOptions& Options() { return options_; }
+  ScriptSession& Script() { return script_; }
+  const StatusTexts& Texts() const { return texts_; }
+  ListContext List() { return {state_, frontEnd_, preview_}; }
+  ActionContext Actions() { return {List(), texts_, script_, system_.Files()}; }
+  CommitContext Commit() { return {state_, system_.Files(), frontEnd_, options_, texts_}; }
+  ListLoad& Load() { return load_; }
   QtFrontEnd& FrontEnd() { return frontEnd_; }
   const lang::MessageCatalog& Catalog() const { return catalog_; }
   FileListModel& ListModel() { return *listModel_; }
@@ -212,10 +232,18 @@ class MainWindow final : public QMainWindow {
   formats::IniFile SettingsFile() const { return formats::IniFile(system_.Files(), paths_.settingsPath); }
 
   platform::Platform& system_;
-  MainModel model_;
+  ExifDateReader& exifDates_;
   lang::MessageCatalog catalog_;
   QtFrontEnd frontEnd_;
-  DiskCommitter committer_;
+  ListOptions options_;
+  StatusTexts texts_;
+  ListState state_;
+  WindowState window_;
+  ScriptSession script_;
+  WindowPreview preview_{state_, window_, script_, frontEnd_, texts_};
+  PumpingProgress progress_{frontEnd_};
+  ListLoad load_{state_, system_.Files(), frontEnd_, progress_, exifDates_, options_, texts_};
+  DiskCommitter committer_{Commit()};
   StartupPaths paths_;
   QString appTitle_;
   QString version_;

@@ -18,7 +18,7 @@
 #include <QVBoxLayout>
 #include <iterator>
 
-#include "core/CommandState.h"
+#include "shell/CommandState.h"
 #include "ui/common/ButtonIcons.h"
 #include "ui/common/FormNames.h"
 #include "ui/common/NamedControls.h"
@@ -310,7 +310,7 @@ void MainWindow::BuildCentral() {
   scopeRow->addStretch(1);
   layout->addLayout(scopeRow);
 
-  listModel_ = new FileListModel(model_, *thumbnails_, this);
+  listModel_ = new FileListModel(state_.list, *thumbnails_, this);
   views_ = new QStackedWidget(central);
   details_ = new QTableView(views_);
   details_->setObjectName("lstFilesDetails");

@@ -32,8 +32,8 @@ void MainWindow::CollectLayout() {
   settings_.splash = MenuAction(kShowSplashEntry)->isChecked() ? 1 : 0;
   settings_.btnbarMain = MenuAction(kShowMainBarEntry)->isChecked() ? 1 : 0;
   settings_.btnbarScript = MenuAction(kShowScriptBarEntry)->isChecked() ? 1 : 0;
-  settings_.previewSortKey = model_.list.sortKey;
-  settings_.previewSortOrder = model_.list.sortOrder;
+  settings_.previewSortKey = state_.list.sortKey;
+  settings_.previewSortOrder = state_.list.sortOrder;
   settings_.openFileTag = ToEngineText(variants_.value(kOpenFileKey));
   settings_.takeChangesTag = ToEngineText(variants_.value(kTakeChangesKey));
 }
@@ -41,7 +41,7 @@ void MainWindow::CollectLayout() {
 void MainWindow::closeEvent(QCloseEvent* event) {
   CollectLayout();
   const CloseDecision decision =
-      RunCloseSequence(settings_, model_, SettingsFile(), model_.script.recording != 0, [this] { EndRecording(); });
+      RunCloseSequence(settings_, {state_, frontEnd_, &committer_}, options_, SettingsFile(), script_.recording != 0, [this] { EndRecording(); });
   if (decision == CloseDecision::Refuse) {
     event->ignore();
     // A Yes that took the changes has changed rows even when the close stops.

@@ -53,16 +53,16 @@ void MainWindow::ConnectCommands() {
   }
 
   connect(applyTo_, &QComboBox::currentIndexChanged, this, [this](int index) {
-    if (index >= 0) model_.applyScope = index;
+    if (index >= 0) state_.applyScope = index;
   });
   connect(details_->horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) { OnHeadClicked(section); });
   connect(details_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           [this](const QItemSelection& selected, const QItemSelection& deselected) {
             for (const QItemSelectionRange& range : deselected) {
-              for (int row = range.top(); row <= range.bottom(); ++row) model_.list.Item(row + 1).selected = false;
+              for (int row = range.top(); row <= range.bottom(); ++row) state_.list.Item(row + 1).selected = false;
             }
             for (const QItemSelectionRange& range : selected) {
-              for (int row = range.top(); row <= range.bottom(); ++row) model_.list.Item(row + 1).selected = true;
+              for (int row = range.top(); row <= range.bottom(); ++row) state_.list.Item(row + 1).selected = true;
             }
             SelectionHandler();
           });
@@ -82,20 +82,20 @@ void MainWindow::takeChanges() {
   CommitServices services;
   services.showNotRenamed = [this](const CommitResult& result) {
     NotRenamedDialog dialog(result, catalog_, this);
-    dialog.RememberChoiceIn(model_.script, model_.fileSystem, frontEnd_);
+    dialog.RememberChoiceIn(script_, system_.Files(), frontEnd_);
     dialog.exec();
     return dialog.Choice();
   };
-  services.showSelectAction = [this] { RunSelAction(this, system_, model_, catalog_, "frmSelAction"); };
-  nomra::takeChanges(model_, ToEngineText(variants_.value(kTakeChangesKey)), services);
+  services.showSelectAction = [this] { RunSelAction(this, system_, Actions(), &committer_, catalog_, "frmSelAction"); };
+  nomra::takeChanges(Commit(), preview_, ToEngineText(variants_.value(kTakeChangesKey)), services);
   RefreshPreview();
 }
 
 void MainWindow::mnuEditMan() {
   const int position = SelectedPosition();
   if (position <= 0) return;
-  EditManDialog dialog(ToQString(model_.list.Item(position)[kColNewName]), catalog_, this);
-  if (dialog.exec() == QDialog::Accepted && ApplyManualEdit(model_, position, ToEngineText(dialog.Text()))) {
+  EditManDialog dialog(ToQString(state_.list.Item(position)[kColNewName]), catalog_, this);
+  if (dialog.exec() == QDialog::Accepted && ApplyManualEdit(List(), position, ToEngineText(dialog.Text()))) {
     RefreshPreview();
   }
 }
@@ -111,12 +111,12 @@ void MainWindow::mnuOptions() {
 }
 
 void MainWindow::mnuExperts() {
-  if (model_.expertMode) return;
+  if (options_.expertMode) return;
   const Message question{"MsgText33", "msgCapAttention", MessageStyle::YesNoWarningDefaultNo, {}};
   const Message warning{"MsgText34", "", MessageStyle::YesNoWarningDefaultNo, {}};
   const Answer answer = frontEnd_.AskText(question, frontEnd_.TextOf(question) + '\n' + frontEnd_.TextOf(warning));
   if (answer != Answer::Yes) return;
-  model_.expertMode = true;
+  options_.expertMode = true;
   ApplyExpertMode();
 }
 
@@ -124,7 +124,7 @@ void MainWindow::mnuExperts() {
 void MainWindow::mnuCopyText(int column) {
   const int position = SelectedPosition();
   if (position <= 0) return;
-  const FileEntry& row = model_.list.Item(position);
+  const FileEntry& row = state_.list.Item(position);
   QApplication::clipboard()->setText(ToQString(column < 0 ? row.key : row[column]));
 }
 
@@ -152,7 +152,7 @@ void MainWindow::ToggleColumn(int entry) {
 void MainWindow::SetGridLines(bool on) { details_->setShowGrid(on); }
 
 void MainWindow::OnHeadClicked(int section) {
-  ClickColumnHead(model_, section + 1);
+  ClickColumnHead(state_.list, frontEnd_, section + 1);
   listModel_->Reload();
   RestoreSelection();
   UpdateSortIndicators();
@@ -161,21 +161,21 @@ void MainWindow::OnHeadClicked(int section) {
 // A row dragged by hand: from now on the hand-made order is the user's order.
 void MainWindow::OnRowDropped(int dragged, int target) {
   if (dragged == target) return;
-  model_.list.MoveRow(dragged, target);
-  model_.list.sortKey = kColListPosition;
+  state_.list.MoveRow(dragged, target);
+  state_.list.sortKey = kColListPosition;
   lastSelectedIndex_ = target;
   RefreshPreview();
 }
 
 void MainWindow::OnLabelEdited(int position, const QString& text) {
   labelEditing_ = false;
-  ApplyLabelEdit(model_, position, ToEngineText(text));
+  ApplyLabelEdit(List(), position, ToEngineText(text));
   RefreshPreview();
 }
 
 // Pictures placed freely: reading order on the screen becomes list order.
 void MainWindow::OnIconLayoutChanged() {
-  const int count = model_.list.Count();
+  const int count = state_.list.Count();
   if (count == 0) return;
   const int dx = icons_->horizontalScrollBar()->value();
   const int dy = icons_->verticalScrollBar()->value();
@@ -183,15 +183,15 @@ void MainWindow::OnIconLayoutChanged() {
   std::string previous;
   for (int position = 1; position <= count; ++position) {
     const QRect place = icons_->visualRect(listModel_->index(position - 1, 0));
-    FileEntry& row = model_.list.Item(position);
+    FileEntry& row = state_.list.Item(position);
     row[kColSortKey] = Padded(place.top() + dy) + "x" + Padded(place.left() + dx);
     if (!previous.empty() && row[kColSortKey] < previous) moved = true;
     previous = row[kColSortKey];
   }
   if (!moved) return;
-  model_.list.sortOrder = 0;
-  SortRowsByColumn(model_.list, kColSortKey);
-  model_.list.sortKey = kColListPosition;
+  state_.list.sortOrder = 0;
+  SortRowsByColumn(state_.list, kColSortKey);
+  state_.list.sortKey = kColListPosition;
   RefreshPreview();
 }
 
@@ -222,7 +222,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
 }
 
 void MainWindow::ShowPopup(const QPoint& position) {
-  if (!model_.list.Empty()) popup_->popup(position);
+  if (!state_.list.Empty()) popup_->popup(position);
 }
 
 }  // namespace nomra::ui

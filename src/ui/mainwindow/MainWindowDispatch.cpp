@@ -54,19 +54,19 @@ void MainWindow::BuildCommandTables() {
 
   mainTool(kOpenFileKey, [this] { mnuOpenFile(); });
   mainTool(kDelListKey, [this] {
-    model_.delListTag = ToEngineText(variants_.value(kDelListKey));
+    window_.delListTag = ToEngineText(variants_.value(kDelListKey));
     UpdateToolTips();
-    deleteFromList(model_);
-    if (model_.list.Empty()) picture_->clear();
+    deleteFromList(List(), &committer_, window_.delListTag);
+    if (state_.list.Empty()) picture_->clear();
     RefreshPreview();
   });
   mainTool(kTakeChangesKey, [this] { takeChanges(); });
   mainTool(kRejectChangesKey, [this] {
-    mnuRejectChanges(model_);
+    mnuRejectChanges(List(), options_.securityQuestions[2]);
     RefreshPreview();
   });
   mainTool(kUndoKey, [this] {
-    mnuUndo(model_);
+    mnuUndo(List(), options_.securityQuestions[0]);
     RefreshPreview();
   });
   mainTool(kOptionsKey, [this] { mnuOptions(); });
@@ -104,31 +104,31 @@ void MainWindow::BuildCommandTables() {
   tool(kLeftBar, kEditManKey, [this] { mnuEditMan(); });
   tool(kLeftBar, kDelListKey, [this] {
     const int position = SelectedPosition();
-    if (position > 0) btnBarLeftDel1File(model_, position);
+    if (position > 0) btnBarLeftDel1File(List(), &committer_, position);
     RefreshPreview();
   });
   tool(kLeftBar, kCancelActionKey, [this] { CancelAction(); });
   tool(kLeftBar, kPropertiesKey, [this] {
     const int position = SelectedPosition();
-    if (position > 0) ShowProperties(this, system_.Files(), frontEnd_, catalog_, model_.list.Item(position).key);
+    if (position > 0) ShowProperties(this, system_.Files(), frontEnd_, catalog_, state_.list.Item(position).key);
   });
 
   menu(kOpenFileEntry, [this] { RunMainToolKey(kOpenFileKey); });
   menu(kOpenFromListEntry, [this] { OpenFilesDialog(open::OpenMode::Playlists); });
   menu(kCopyFilesEntry, [this] {
-    RunSelAction(this, system_, model_, catalog_, "frmCopyFiles");
+    RunSelAction(this, system_, Actions(), &committer_, catalog_, "frmCopyFiles");
     RefreshPreview();
   });
   menu(kMoveFilesEntry, [this] {
-    RunSelAction(this, system_, model_, catalog_, "frmMoveFiles");
+    RunSelAction(this, system_, Actions(), &committer_, catalog_, "frmMoveFiles");
     RefreshPreview();
   });
   menu(kDeleteToTrashEntry, [this] {
-    DeleteListFiles(this, system_, model_, catalog_, true);
+    DeleteListFiles(this, system_, List(), options_.expertMode, catalog_, true);
     RefreshPreview();
   });
   menu(kDeleteEntry, [this] {
-    DeleteListFiles(this, system_, model_, catalog_, false);
+    DeleteListFiles(this, system_, List(), options_.expertMode, catalog_, false);
     RefreshPreview();
   });
   menu(kRejectChangesEntry, [this] { RunMainToolKey(kRejectChangesKey); });
@@ -139,7 +139,7 @@ void MainWindow::BuildCommandTables() {
   menu(kCopyPathEntry, [this] { mnuCopyText(-1); });
   menu(kInfoEntry, [this] { mnuInfo(); });
   menu(kHistoryEntry, [this] {
-    ShowRenameHistory(this, model_, frontEnd_, catalog_, appTitle_);
+    ShowRenameHistory(this, system_.Files(), options_.dataFolder, frontEnd_, catalog_, appTitle_);
     RefreshPreview();
   });
   menu(kOptionsEntry, [this] { RunMainToolKey(kOptionsKey); });
@@ -154,13 +154,13 @@ void MainWindow::BuildCommandTables() {
   // The check is all there is to it: the close stores it.
   menu(kShowSplashEntry, [] {});
   menu(kUnsortedEntry, [this] {
-    mnuViewSortingUnsorted(model_);
+    mnuViewSortingUnsorted(state_.list, frontEnd_);
     listModel_->Reload();
     RestoreSelection();
     UpdateSortIndicators();
   });
   numberedMenuCommands_.insert(kSortFamily, [this](int entry) {
-    mnuViewSortingSorted(model_, entry);
+    mnuViewSortingSorted(state_.list, frontEnd_, entry);
     listModel_->Reload();
     RestoreSelection();
     UpdateSortIndicators();

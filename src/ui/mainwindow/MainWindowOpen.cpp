@@ -88,33 +88,35 @@ void MainWindow::OpenFilesDialog(open::OpenMode mode) {
   open::OpenChoice choice = dialog.Choice();
   // The playlist dialog's rows are others: the files dialog's index stays.
   if (mode == open::OpenMode::Playlists) choice.filterIndex = filesFilterIndex;
-  RunLoad([&] { open::RunOpenChoice(model_, choice, filters, SettingsFile(), settings_.showHiddenFiles); });
+  RunLoad([&] { open::RunOpenChoice(load_, preview_, choice, filters, SettingsFile(), settings_.showHiddenFiles); });
 }
 
 void MainWindow::ShowFrmOpen() {
-  if (frmOpen_ == nullptr) frmOpen_ = new FrmOpen({model_.fileSystem, frontEnd_, catalog_, SettingsFile()}, this);
+  if (frmOpen_ == nullptr) frmOpen_ = new FrmOpen({system_.Files(), frontEnd_, catalog_, SettingsFile()}, this);
   frmOpen_->Prepare(settings_.chkAll == 1, settings_.chkSub == 1, settings_.showHiddenFiles,
                     open::InitialFolder(SettingsFile(), system_.Locations().HomeFolder()));
   if (frmOpen_->exec() != QDialog::Accepted) return;
   settings_.chkAll = frmOpen_->AllFiles() ? 1 : 0;
   settings_.chkSub = frmOpen_->SubFolders() ? 1 : 0;
   std::vector<std::string> staged = frmOpen_->TakeStaged();
-  RunLoad([&] { open::LoadStagedFiles(model_, staged); });
+  RunLoad([&] { open::LoadStagedFiles(load_, preview_, staged); });
 }
 
 void MainWindow::RunCommandLine(const std::vector<std::string>& arguments) {
   CommandLineSwitches switches;
-  switches.openFromFile = [this](const std::string& path) { open::LoadPlaylist(model_, path); };
+  switches.openFromFile = [this](const std::string& path) { open::LoadPlaylist(load_, preview_, path); };
   switches.runScript = [this](const std::string& name) { RunScriptFromCommandLine(name); };
-  RunLoad([&] { nomra::RunCommandLine(arguments, model_, switches); });
+  RunLoad([&] { nomra::RunCommandLine(arguments, load_, switches); });
 }
 
 void MainWindow::RunLoad(const std::function<void()>& load) {
   SetBusyLoading(true);
-  model_.cancelLoading = false;
+  load_.stopAsked = false;
+  progress_.Reset();
   RunShowingFault(frontEnd_, load);
   // A stop the loader left standing is spent here, so the next load runs.
-  model_.cancelLoading = false;
+  load_.stopAsked = false;
+  progress_.Reset();
   SetBusyLoading(false);
   RefreshPreview();
 }

@@ -9,6 +9,7 @@
 #include "script/ScriptFiles.h"
 #include "script/ScriptPlayback.h"
 #include "script/ScriptRecording.h"
+#include "shell/SelectedScript.h"
 #include "ui/common/RunShowingFault.h"
 #include "ui/common/TextConversion.h"
 #include "ui/mainwindow/MainWindow.h"
@@ -26,18 +27,18 @@ constexpr char kScriptFileProperty[] = "scriptFile";
 }  // namespace
 
 ActionWindowServices MainWindow::ActionServices() {
-  return ActionWindowServices{model_, catalog_, this, appTitle_, [this] { RefreshPreview(); }};
+  return ActionWindowServices{Actions(), catalog_, this, appTitle_, [this] { RefreshPreview(); }};
 }
 
 void MainWindow::OpenAction(int stepType) { OpenActionWindow(stepType, ActionServices()); }
 
 void MainWindow::PlayScriptSteps() {
-  RunShowingFault(frontEnd_, [this] { PlayScript(model_.script, model_.fileSystem, [this](int stepType) { OpenAction(stepType); }); });
+  RunShowingFault(frontEnd_, [this] { PlayScript(script_, system_.Files(), [this](int stepType) { OpenAction(stepType); }); });
   RefreshPreview();
 }
 
 void MainWindow::mnuStartRecordScript() {
-  BeginScriptRecording(model_.script, model_.fileSystem);
+  BeginScriptRecording(script_, system_.Files());
   RefreshPreview();
 }
 
@@ -48,12 +49,12 @@ void MainWindow::mnuStopRecordScript() {
 
 void MainWindow::EndRecording() {
   RunShowingFault(frontEnd_, [this] {
-    if (EndScriptRecording(model_, LocalTimeNow)) FillScriptMenu();
+    if (EndScriptRecording(script_, system_.Files(), frontEnd_, LocalTimeNow)) FillScriptMenu();
   });
 }
 
 void MainWindow::mnuStartRunScript() {
-  FrmScript chooser(model_, catalog_, this, appTitle_);
+  FrmScript chooser(script_, system_.Files(), frontEnd_, catalog_, this, appTitle_);
   chooser.exec();
   // Also after a cancel, which has left nothing to play.
   PlayScriptSteps();
@@ -61,31 +62,32 @@ void MainWindow::mnuStartRunScript() {
 
 void MainWindow::RunSelectedScriptButton() {
   RunShowingFault(frontEnd_, [this] {
-    RunSelectedScript(model_, ToEngineText(selectedScriptFile_), [this](int stepType) { OpenAction(stepType); });
+    PlaySelectedScript(window_, texts_, script_, system_.Files(), ToEngineText(selectedScriptFile_),
+                       [this](int stepType) { OpenAction(stepType); });
   });
-  selectedScript_->setText(ToQString(model_.selectedScriptLabel));
+  selectedScript_->setText(ToQString(window_.selectedScriptLabel));
   RefreshPreview();
 }
 
 void MainWindow::FillScriptMenu() {
   QMenu* menu = ToolAction(kScriptBar, kRunSelectedKey)->menu();
   menu->clear();
-  for (const StoredScript& script : ListStoredScripts(model_.fileSystem, model_.script.dataFolder)) {
+  for (const StoredScript& script : ListStoredScripts(system_.Files(), script_.dataFolder)) {
     QAction* entry = menu->addAction(ToQString(script.displayText));
     const QString file = ToQString(script.fileName);
     entry->setProperty(kScriptFileProperty, file);
     connect(entry, &QAction::triggered, this, [this, file, text = entry->text()] {
       selectedScriptFile_ = file;
-      model_.selectedScriptLabel = ToEngineText(text);
+      window_.selectedScriptLabel = ToEngineText(text);
       selectedScript_->setText(text);
       RunSelectedScriptButton();
     });
   }
-  model_.scriptMenuHasEntries = !menu->isEmpty();
+  window_.scriptMenuHasEntries = !menu->isEmpty();
 }
 
 void MainWindow::RunScriptFromCommandLine(const std::string& name) {
-  RunScriptArgument(model_, name, [this](int stepType) { OpenAction(stepType); });
+  RunScriptArgument(script_, system_.Files(), name, [this](int stepType) { OpenAction(stepType); });
 }
 
 }  // namespace nomra::ui

@@ -4,7 +4,7 @@
 #include "commit/CommitResult.h"
 #include "commit/CommitServices.h"
 #include "core/FrontEnd.h"
-#include "core/ScriptSession.h"
+#include "dialog/ScriptSession.h"
 #include "dialog/DialogModel.h"
 #include "lang/MessageCatalog.h"
 

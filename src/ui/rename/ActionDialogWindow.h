@@ -4,7 +4,7 @@
 #include <functional>
 #include <memory>
 
-#include "core/MainModel.h"
+#include "rename/ActionContext.h"
 #include "lang/MessageCatalog.h"
 #include "rename/ActionDialog.h"
 
@@ -15,7 +15,7 @@ namespace nomra::ui {
 
 // What an action dialog's window needs from the main window.
 struct ActionWindowServices {
-  MainModel& model;
+  ActionContext context;
   const lang::MessageCatalog& catalog;
   QWidget* mainWindow = nullptr;  // parent, and the source of borrowed captions
   QString appTitle;

@@ -15,9 +15,10 @@
 
 namespace nomra::ui {
 
-FrmScript::FrmScript(MainModel& model, const lang::MessageCatalog& catalog, QWidget* mainWindow,
+FrmScript::FrmScript(ScriptSession& session, platform::FileSystem& fileSystem, FrontEnd& frontEnd,
+                     const lang::MessageCatalog& catalog, QWidget* mainWindow,
                      const QString& appTitle)
-    : QDialog(mainWindow), chooser_(model) {
+    : QDialog(mainWindow), chooser_(session, fileSystem, frontEnd) {
   setObjectName(kScriptDialogName);
   setWindowTitle("Scripts");
   resize(480, 360);

@@ -1,7 +1,9 @@
 #pragma once
 #include <QDialog>
 
-#include "core/MainModel.h"
+#include "core/FrontEnd.h"
+#include "dialog/ScriptSession.h"
+#include "platform/FileSystem.h"
 #include "lang/MessageCatalog.h"
 #include "script/ScriptChooser.h"
 
@@ -14,7 +16,8 @@ namespace nomra::ui {
 class FrmScript final : public QDialog {
   Q_OBJECT
  public:
-  FrmScript(MainModel& model, const lang::MessageCatalog& catalog, QWidget* mainWindow, const QString& appTitle);
+  FrmScript(ScriptSession& session, platform::FileSystem& fileSystem, FrontEnd& frontEnd,
+            const lang::MessageCatalog& catalog, QWidget* mainWindow, const QString& appTitle);
 
   void cmdStart();
   void cmdCancel();

@@ -50,7 +50,7 @@ QVBoxLayout* LabelledTagList(QWidget& parent, const char* labelName, const char*
 }  // namespace
 
 FrmNameStructure::FrmNameStructure(ActionWindowServices services)
-    : QDialog(services.mainWindow), services_(std::move(services)), editor_(services_.model, services_.catalog) {
+    : QDialog(services.mainWindow), services_(std::move(services)), editor_(services_.context, services_.catalog) {
   setObjectName("frmNameStructure");
   setWindowTitle("Name structures");
   setModal(true);
@@ -196,7 +196,7 @@ void FrmNameStructure::cmdStructureCancel() {
 
 bool FrmNameStructure::RunApply() {
   bool passed = true;
-  RunShowingFault(services_.model.frontEnd, [&] { passed = editor_.Apply(); });
+  RunShowingFault(services_.context.User(), [&] { passed = editor_.Apply(); });
   if (services_.afterRun) services_.afterRun();
   ShowEditor();
   if (!passed) FocusFailedStructure();

@@ -20,7 +20,7 @@
 namespace nomra::ui {
 
 FrmSelNamePart::FrmSelNamePart(QLineEdit& target, const ActionWindowServices& services)
-    : QDialog(services.mainWindow), picker_(services.model), target_(&target) {
+    : QDialog(services.mainWindow), picker_(services.context.State().list), target_(&target) {
   setObjectName("frmSelNamePart");
   setWindowTitle("Part of the name");
   setModal(true);

@@ -111,7 +111,7 @@ TEST_F(NameBytesTest, FileWhoseNameIsNotUtf8IsListedAndItsNameConvertsBackToItsB
   EXPECT_TRUE(shown.contains(QChar(0xDCFF))) << shown.toStdString();
   EXPECT_EQ(ToEngineText(shown), name);
   EXPECT_EQ(ToEngineText(Shown(1, kColNewName).toString()), name);
-  EXPECT_EQ(window->Model().list.Item(1)[kColOldName], name);
+  EXPECT_EQ(window->State().list.Item(1)[kColOldName], name);
 }
 
 TEST_F(NameBytesTest, NameThatIsNotUtf8IsEditedByHandAndRenamedOnDiskWithItsBytes) {
@@ -130,7 +130,7 @@ TEST_F(NameBytesTest, NameThatIsNotUtf8IsEditedByHandAndRenamedOnDiskWithItsByte
   });
 
   Menu("mnuEditMan")->trigger();
-  ASSERT_EQ(window->Model().list.Item(1)[kColNewName], "new " + name);
+  ASSERT_EQ(window->State().list.Item(1)[kColNewName], "new " + name);
   window->RunMainToolKey("TakeChanges");
 
   EXPECT_EQ(ReadWholeFile(files.Path() + "new " + name), name);

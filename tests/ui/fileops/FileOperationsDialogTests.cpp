@@ -11,7 +11,6 @@
 #include <sys/stat.h>
 
 #include "core/AddFile.h"
-#include "core/MainModel.h"
 #include "lang/MessageKeys.h"
 #include "platform/Platform.h"
 #include "lang/MessageCatalog.h"
@@ -24,6 +23,7 @@
 #include "ui/fileops/FileOperationProgress.h"
 #include "ui/fileops/FrmSelAction.h"
 #include "ui/fileops/PropertiesDialog.h"
+#include "support/ListFixture.h"
 #include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
@@ -34,16 +34,16 @@ using nomra::testing::ReadWholeFile;
 using nomra::testing::ScriptedFrontEnd;
 using nomra::testing::TempFolder;
 
-class FileOperationsDialogTest : public ::testing::Test {
+class FileOperationsDialogTest : public nomra::testing::ListTest {
  protected:
   FileOperationsDialogTest() {
-    model.script.settingsPath = data.Path() + "settings.nrp";
-    model.dataFolder = data.Path();
+    script.settingsPath = data.Path() + "settings.nrp";
+    options.dataFolder = data.Path();
     target = files.MakeFolder("target");
   }
   void Add(const std::string& name) {
     std::string path = files.WriteFile(name, name);
-    AddFile(model, path);
+    AddFile(load, path);
   }
   template <typename T>
   T* Child(QWidget& dialog, const char* name) {
@@ -52,10 +52,6 @@ class FileOperationsDialogTest : public ::testing::Test {
 
   TempFolder files;
   TempFolder data;
-  platform::PosixFileSystem fileSystem;
-  ScriptedFrontEnd frontEnd;
-  NoExifDates noExif;
-  MainModel model{fileSystem, frontEnd, noExif};
   lang::MessageCatalog english{nomra::testing::RealFiles(), EnglishFile()};
   std::unique_ptr<platform::Platform> os = platform::MakeSystemPlatform();
   std::string target;
@@ -63,14 +59,14 @@ class FileOperationsDialogTest : public ::testing::Test {
 
 TEST_F(FileOperationsDialogTest, EveryInputOfEachUseHasItsWidget) {
   for (const char* tag : {"frmSelAction", "frmCopyFiles", "frmMoveFiles"}) {
-    FrmSelAction dialog(tag, model, english, *os);
+    FrmSelAction dialog(tag, Actions(), rowCommitter, english, *os);
     EXPECT_EQ(dialog.objectName(), tag);
     EXPECT_TRUE(InputsWithoutWidget(dialog.Engine().Model(), dialog).isEmpty()) << tag;
   }
 }
 
 TEST_F(FileOperationsDialogTest, TakeChangesUseShowsTheFrameOfNamesInItsLanguage) {
-  FrmSelAction dialog("frmSelAction", model, english, *os);
+  FrmSelAction dialog("frmSelAction", Actions(), rowCommitter, english, *os);
 
   EXPECT_FALSE(Child<QGroupBox>(dialog, "frameCopy")->isHidden());
   EXPECT_TRUE(Child<QCheckBox>(dialog, "chkUpdateList")->isHidden());
@@ -80,7 +76,7 @@ TEST_F(FileOperationsDialogTest, TakeChangesUseShowsTheFrameOfNamesInItsLanguage
 }
 
 TEST_F(FileOperationsDialogTest, CopyUseOffersTheUpdateOfTheList) {
-  FrmSelAction dialog("frmCopyFiles", model, english, *os);
+  FrmSelAction dialog("frmCopyFiles", Actions(), rowCommitter, english, *os);
 
   auto* update = Child<QCheckBox>(dialog, "chkUpdateList");
   EXPECT_TRUE(Child<QGroupBox>(dialog, "frameCopy")->isHidden());
@@ -90,7 +86,7 @@ TEST_F(FileOperationsDialogTest, CopyUseOffersTheUpdateOfTheList) {
 }
 
 TEST_F(FileOperationsDialogTest, MoveUseKeepsTheUpdateCheckedAndDisabled) {
-  FrmSelAction dialog("frmMoveFiles", model, english, *os);
+  FrmSelAction dialog("frmMoveFiles", Actions(), rowCommitter, english, *os);
 
   auto* update = Child<QCheckBox>(dialog, "chkUpdateList");
   EXPECT_TRUE(update->isChecked());
@@ -98,7 +94,7 @@ TEST_F(FileOperationsDialogTest, MoveUseKeepsTheUpdateCheckedAndDisabled) {
 }
 
 TEST_F(FileOperationsDialogTest, OkFollowsWhetherTheTypedPathIsAFolder) {
-  FrmSelAction dialog("frmCopyFiles", model, english, *os);
+  FrmSelAction dialog("frmCopyFiles", Actions(), rowCommitter, english, *os);
   auto* ok = Child<QPushButton>(dialog, "cmdOK");
   auto* path = Child<QLineEdit>(dialog, "txtTargetPath");
   ASSERT_FALSE(ok->isEnabled());
@@ -111,8 +107,8 @@ TEST_F(FileOperationsDialogTest, OkFollowsWhetherTheTypedPathIsAFolder) {
 
 TEST_F(FileOperationsDialogTest, OkCopiesTheSelectedFilesAndCloses) {
   Add("a.txt");
-  model.list.Item(1).selected = true;
-  FrmSelAction dialog("frmCopyFiles", model, english, *os);
+  state.list.Item(1).selected = true;
+  FrmSelAction dialog("frmCopyFiles", Actions(), rowCommitter, english, *os);
   QTest::keyClicks(Child<QLineEdit>(dialog, "txtTargetPath"), QString::fromStdString(target));
   Child<QCheckBox>(dialog, "chkUpdateList")->setChecked(true);
 
@@ -120,11 +116,11 @@ TEST_F(FileOperationsDialogTest, OkCopiesTheSelectedFilesAndCloses) {
 
   EXPECT_EQ(dialog.result(), QDialog::Accepted);
   EXPECT_EQ(ReadWholeFile(target + "a.txt"), "a.txt");
-  EXPECT_EQ(model.list.Item(1).key, target + "a.txt");
+  EXPECT_EQ(state.list.Item(1).key, target + "a.txt");
 }
 
 TEST_F(FileOperationsDialogTest, FolderBrowserPutsItsChoiceIntoTheTargetPath) {
-  FrmSelAction dialog("frmMoveFiles", model, english, *os);
+  FrmSelAction dialog("frmMoveFiles", Actions(), rowCommitter, english, *os);
   ModalWatcher modals;
   QString title;
   modals.SetHandler([&](QWidget& modal) {
@@ -181,13 +177,13 @@ TEST_F(FileOperationsDialogTest, PropertiesOfAVanishedFileAreToldInstead) {
 
 TEST_F(FileOperationsDialogTest, DeleteToTheTrashAfterTheYesTakesTheRowsAway) {
   nomra::testing::ScopedEnvironment dataHome("XDG_DATA_HOME", data.Path() + "share");
-  model.expertMode = true;
+  options.expertMode = true;
   Add("a.txt");
   frontEnd.answers = {Answer::Yes};
 
-  EXPECT_TRUE(DeleteListFiles(nullptr, *os, model, english, true));
+  EXPECT_TRUE(DeleteListFiles(nullptr, *os, List(), options.expertMode, english, true));
 
-  EXPECT_EQ(model.list.Count(), 0);
+  EXPECT_EQ(state.list.Count(), 0);
   EXPECT_TRUE(Exists(data.Path() + "share/Trash/files/a.txt"));
 }
 

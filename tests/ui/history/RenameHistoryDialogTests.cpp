@@ -9,7 +9,7 @@
 #include <set>
 
 #include "core/ExifDateReader.h"
-#include "core/MainModel.h"
+#include "core/ListOptions.h"
 #include "lang/MessageCatalog.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "support/ProtocolFiles.h"
@@ -32,7 +32,7 @@ const QColor kBlack(0, 0, 0);
 class RenameHistoryDialog : public ::testing::Test {
  protected:
   RenameHistoryDialog() {
-    model.dataFolder = data.Path();
+    options.dataFolder = data.Path();
     frontEnd.SetAnswerer([this](const Message& message, const QString&, const QString& text) {
       asked.push_back(message.textKey);
       shownTexts << text;
@@ -52,7 +52,7 @@ class RenameHistoryDialog : public ::testing::Test {
   std::set<std::string> NamesOnDisk() const { return nomra::testing::NamesIn(files.Path()); }
 
   std::unique_ptr<FrmHistory> Open(QWidget* mainWindow = nullptr) {
-    return std::make_unique<FrmHistory>(model, frontEnd, catalog, "Nomra", mainWindow);
+    return std::make_unique<FrmHistory>(fileSystem, options.dataFolder, frontEnd, catalog, "Nomra", mainWindow);
   }
   static QTreeWidget& Files(FrmHistory& dialog) { return *dialog.findChild<QTreeWidget*>("lstFiles"); }
   static QPushButton& Button(FrmHistory& dialog, const char* name) { return *dialog.findChild<QPushButton*>(name); }
@@ -69,7 +69,7 @@ class RenameHistoryDialog : public ::testing::Test {
   NoExifDates exifDates;
   lang::MessageCatalog catalog{nomra::testing::RealFiles(), EnglishFile()};
   QtFrontEnd frontEnd{catalog, "Nomra"};
-  MainModel model{fileSystem, frontEnd, exifDates};
+  ListOptions options;
   std::deque<Answer> answers;
   std::vector<std::string> asked;
   QStringList shownTexts;
@@ -272,7 +272,7 @@ TEST_F(RenameHistoryDialog, TitleJoinsItsCaptionTheMenuEntryAndTheProgram) {
 
 TEST_F(RenameHistoryDialog, HeadsAndButtonsSpeakTheLanguageOfTheFile) {
   const lang::MessageCatalog german(nomra::testing::RealFiles(), GermanFile());
-  FrmHistory dialog(model, frontEnd, german, "Nomra");
+  FrmHistory dialog(fileSystem, options.dataFolder, frontEnd, german, "Nomra");
 
   QTreeWidgetItem& heads = *Files(dialog).headerItem();
   for (int column = 0; column < 4; ++column) {
@@ -291,7 +291,7 @@ TEST_F(RenameHistoryDialog, ShownModallyItEndsWithClose) {
   ModalWatcher watcher;
   watcher.SetHandler([](QWidget& modal) { modal.findChild<QPushButton*>("cmdClose")->click(); });
 
-  ShowRenameHistory(nullptr, model, frontEnd, catalog, "Nomra");
+  ShowRenameHistory(nullptr, fileSystem, options.dataFolder, frontEnd, catalog, "Nomra");
 
   EXPECT_EQ(watcher.Seen(), QStringList{"frmHistory"});
 }

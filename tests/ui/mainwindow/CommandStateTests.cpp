@@ -5,7 +5,7 @@
 #include <QMenuBar>
 #include <QTimer>
 
-#include "core/CommandState.h"
+#include "shell/CommandState.h"
 #include "core/FileEntry.h"
 #include "ui/support/WindowFixture.h"
 

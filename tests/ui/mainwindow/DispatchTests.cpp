@@ -114,7 +114,7 @@ class DispatchTest : public WindowTest {
     for (const std::string& path : paths) out << ' ' << Exists(path);
     out << "\nvariants: " << window->ToolVariant("OpenFile").toStdString() << ' '
         << window->ToolVariant("DelList").toStdString() << ' ' << window->ToolVariant("TakeChanges").toStdString();
-    out << "\nsort " << window->Model().list.sortKey << ' ' << window->Model().list.sortOrder;
+    out << "\nsort " << window->State().list.sortKey << ' ' << window->State().list.sortOrder;
     out << "\nview " << static_cast<int>(window->CurrentView()) << " size " << window->IconSize();
     out << "\nsettings:\n" << ReadWholeFile(SettingsPath());
     return out.str();

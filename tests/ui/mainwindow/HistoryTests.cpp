@@ -68,7 +68,7 @@ TEST_F(HistoryTest, UndoAnsweredNoToTheSecurityQuestionChangesNothing) {
   Open();
   AddFiles({"a.txt"});
   ChangeInSteps(1, {"one.txt", "two.txt"});
-  window->Model().securityQuestions[0] = true;
+  window->Options().securityQuestions[0] = true;
   answers = {Answer::No};
 
   window->RunMainToolKey("Undo");
@@ -83,7 +83,7 @@ TEST_F(HistoryTest, UndoAnsweredYesToTheSecurityQuestionTakesTheStep) {
   Open();
   AddFiles({"a.txt"});
   ChangeInSteps(1, {"one.txt", "two.txt"});
-  window->Model().securityQuestions[0] = true;
+  window->Options().securityQuestions[0] = true;
   answers = {Answer::Yes};
 
   window->RunMainToolKey("Undo");

@@ -33,8 +33,8 @@ TEST_F(SelectionTest, SelectedRowFillsTheDetailFields) {
   EXPECT_EQ(Label("lbl2(1)"), QString::fromStdString(files.Path()));
   EXPECT_EQ(Label("lbl2(2)"), "b.txt");
   EXPECT_EQ(Label("lbl2(3)"), "z.txt");
-  EXPECT_TRUE(window->Model().list.Item(b).selected);
-  EXPECT_FALSE(window->Model().list.Item(PositionOf("a.txt")).selected);
+  EXPECT_TRUE(window->State().list.Item(b).selected);
+  EXPECT_FALSE(window->State().list.Item(PositionOf("a.txt")).selected);
   EXPECT_TRUE(window->ToolAction("btnBarLeft", "EditMan")->isEnabled());
 }
 
@@ -48,7 +48,7 @@ TEST_F(SelectionTest, SelectionSurvivesARefresh) {
 
   EXPECT_TRUE(Details().selectionModel()->isRowSelected(b - 1));
   EXPECT_EQ(Details().selectionModel()->selectedRows().size(), 1);
-  EXPECT_TRUE(window->Model().list.Item(b).selected);
+  EXPECT_TRUE(window->State().list.Item(b).selected);
   EXPECT_EQ(Label("lbl2(2)"), "b.txt");
 }
 
@@ -59,8 +59,8 @@ TEST_F(SelectionTest, ChangingTheSelectionClearsTheRowLeft) {
 
   SelectRow(PositionOf("b.txt"));
 
-  EXPECT_FALSE(window->Model().list.Item(PositionOf("a.txt")).selected);
-  EXPECT_TRUE(window->Model().list.Item(PositionOf("b.txt")).selected);
+  EXPECT_FALSE(window->State().list.Item(PositionOf("a.txt")).selected);
+  EXPECT_TRUE(window->State().list.Item(PositionOf("b.txt")).selected);
   EXPECT_EQ(Label("lbl2(2)"), "b.txt");
 }
 

@@ -101,12 +101,12 @@ TEST_F(StartTest, AboutShowsTheVersionUnderTheMenuCaption) {
 
 TEST_F(StartTest, ExpertModeAnsweredYesIsTurnedOn) {
   Open();
-  ASSERT_FALSE(window->Model().expertMode);
+  ASSERT_FALSE(window->Options().expertMode);
   answers = {Answer::Yes};
 
   Menu("mnuExperts")->trigger();
 
-  EXPECT_TRUE(window->Model().expertMode);
+  EXPECT_TRUE(window->Options().expertMode);
   ASSERT_EQ(asked.size(), 1u);
   EXPECT_EQ(asked[0].message.textKey, "MsgText33");
   EXPECT_EQ(asked[0].message.captionKey, "msgCapAttention");
@@ -120,14 +120,14 @@ TEST_F(StartTest, ExpertModeAnsweredNoStaysOff) {
 
   Menu("mnuExperts")->trigger();
 
-  EXPECT_FALSE(window->Model().expertMode);
+  EXPECT_FALSE(window->Options().expertMode);
   EXPECT_EQ(asked.size(), 1u);
 }
 
 TEST_F(StartTest, ExpertModeOnAsksNoMore) {
   WriteSettings("[Settings]\nExpertMode=1\n");
   Open();
-  ASSERT_TRUE(window->Model().expertMode);
+  ASSERT_TRUE(window->Options().expertMode);
 
   Menu("mnuExperts")->trigger();
 

@@ -25,7 +25,7 @@ const std::string kStandIn = "\xC2\x90";
 class ActionDialogTest : public WindowTest {
  protected:
   std::unique_ptr<ActionDialogWindow> PrefixSuffixWindow() {
-    return CreateActionWindow(5, ActionWindowServices{window->Model(), window->Catalog(), window.get(),
+    return CreateActionWindow(5, ActionWindowServices{window->Actions(), window->Catalog(), window.get(),
                                                       QStringLiteral("Nomra"), [this] { window->RefreshPreview(); }});
   }
   QString NewName(const QString& oldName) const { return Shown(PositionOf(oldName), kColNewName).toString(); }
@@ -44,8 +44,8 @@ TEST_F(ActionDialogTest, EveryInputOfPrefixAndSuffixHasItsWidget) {
 
 TEST_F(ActionDialogTest, EveryInputOfTheScriptDialogHasItsWidget) {
   Open();
-  FrmScript dialog(window->Model(), window->Catalog(), window.get(), "Nomra");
-  ScriptChooser chooser(window->Model());
+  FrmScript dialog(window->Script(), system->Files(), window->FrontEnd(), window->Catalog(), window.get(), "Nomra");
+  ScriptChooser chooser(window->Script(), system->Files(), window->FrontEnd());
   EXPECT_EQ(InputsWithoutWidget(chooser.Model(), dialog), QStringList());
 }
 
@@ -145,7 +145,7 @@ TEST_F(ActionDialogTest, TextBoxSelectsAllItsTextOnFocus) {
 TEST_F(ActionDialogTest, EveryInputOfCaseAndExtensionHasItsWidget) {
   Open();
   for (int stepType : {3, 4}) {
-    const auto dialog = CreateActionWindow(stepType, ActionWindowServices{window->Model(), window->Catalog(),
+    const auto dialog = CreateActionWindow(stepType, ActionWindowServices{window->Actions(), window->Catalog(),
                                                                           window.get(), "Nomra", [] {}});
     ASSERT_NE(dialog, nullptr) << stepType;
     EXPECT_EQ(InputsWithoutWidget(dialog->Action().Model(), *dialog), QStringList()) << stepType;
@@ -155,7 +155,7 @@ TEST_F(ActionDialogTest, EveryInputOfCaseAndExtensionHasItsWidget) {
 TEST_F(ActionDialogTest, CaseConversionsTakeTheirTextsFromTheNumberedKeys) {
   Open();
   const auto dialog =
-      CreateActionWindow(4, ActionWindowServices{window->Model(), window->Catalog(), window.get(), "Nomra", [] {}});
+      CreateActionWindow(4, ActionWindowServices{window->Actions(), window->Catalog(), window.get(), "Nomra", [] {}});
   EXPECT_EQ(dialog->findChild<QRadioButton*>("opt1(3)")->text(), LanguageText("frmULCASE", "optOpt3"));
   EXPECT_EQ(dialog->findChild<QGroupBox*>("frameapply")->title(), LanguageText("frmULCASE", "Frameapply"));
   EXPECT_TRUE(dialog->findChild<QRadioButton*>("opt1(1)")->isChecked());
@@ -178,7 +178,7 @@ TEST_F(ActionDialogTest, UpperCaseFromTheMenuChangesTheNames) {
 TEST_F(ActionDialogTest, RemovingTheExtensionDisablesItsInputs) {
   Open();
   const auto dialog =
-      CreateActionWindow(3, ActionWindowServices{window->Model(), window->Catalog(), window.get(), "Nomra", [] {}});
+      CreateActionWindow(3, ActionWindowServices{window->Actions(), window->Catalog(), window.get(), "Nomra", [] {}});
   auto* keepOld = dialog->findChild<QCheckBox*>("chkAddOldFE");
   auto* extension = dialog->findChild<QLineEdit*>("txtFE");
   EXPECT_TRUE(keepOld->isEnabled());
@@ -193,7 +193,7 @@ TEST_F(ActionDialogTest, ExtensionFieldRefusesDotsAndShowsTheCleanedText) {
   Open();
   AddFiles({"a.doc"});
   const auto dialog = CreateActionWindow(
-      3, ActionWindowServices{window->Model(), window->Catalog(), window.get(), "Nomra", [this] { window->RefreshPreview(); }});
+      3, ActionWindowServices{window->Actions(), window->Catalog(), window.get(), "Nomra", [this] { window->RefreshPreview(); }});
   auto* extension = dialog->findChild<QLineEdit*>("txtFE");
   QTest::keyClicks(extension, ".t/x.t");
   EXPECT_EQ(extension->text(), "txt");

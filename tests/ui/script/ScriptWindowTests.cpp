@@ -78,7 +78,7 @@ TEST_F(ScriptWindowTest, ChoosingADropDownEntryPlaysItAtOnceAndShowsItsName) {
   EXPECT_EQ(NewName("a.jpg"), "Rome a.jpg");
   EXPECT_EQ(Label("lblSelectedScript"), "Holiday pictures [2026-11-15, 02:33:03]");
   EXPECT_EQ(window->SelectedScriptFile(), "20261115023303.nrs");
-  EXPECT_EQ(window->Model().script.runMode, 0);
+  EXPECT_EQ(window->Script().runMode, 0);
   for (const QString& seen : modals.Seen()) EXPECT_EQ(seen, "frmPrefixSuffix");
   expectedModals = modals.Seen();
 }
@@ -93,7 +93,7 @@ TEST_F(ScriptWindowTest, SelectedScriptDeletedMeanwhileShowsNoScript) {
 
   EXPECT_EQ(Label("lblSelectedScript"), LanguageText("Messages", "MsgStat05"));
   EXPECT_EQ(NewName("a.jpg"), "a.jpg");
-  EXPECT_TRUE(window->Model().script.runPath.empty());
+  EXPECT_TRUE(window->Script().runPath.empty());
 }
 
 TEST_F(ScriptWindowTest, SingleStepsShowTheRunCaptionAndWaitForTheUser) {
@@ -122,7 +122,7 @@ TEST_F(ScriptWindowTest, SingleStepsShowTheRunCaptionAndWaitForTheUser) {
   EXPECT_EQ(shownPrefix, "x_");
   EXPECT_EQ(focused, "cmdOK");
   EXPECT_EQ(NewName("a.jpg"), "changed_a.jpg");
-  EXPECT_EQ(window->Model().script.runMode, 0);
+  EXPECT_EQ(window->Script().runMode, 0);
 }
 
 TEST_F(ScriptWindowTest, CancellingEverySingleStepLeavesTheListUnchanged) {
@@ -142,7 +142,7 @@ TEST_F(ScriptWindowTest, CancellingEverySingleStepLeavesTheListUnchanged) {
   window->RunMenuCommand("mnuStartRunScript");
 
   EXPECT_EQ(NewName("a.jpg"), "a.jpg");
-  EXPECT_EQ(window->Model().script.runMode, 0);
+  EXPECT_EQ(window->Script().runMode, 0);
 }
 
 TEST_F(ScriptWindowTest, CancellingTheScriptDialogPlaysNothing) {
@@ -155,8 +155,8 @@ TEST_F(ScriptWindowTest, CancellingTheScriptDialogPlaysNothing) {
   window->RunToolCommand("btnbarScript", "StartRunScript");
 
   EXPECT_EQ(NewName("a.jpg"), "a.jpg");
-  EXPECT_EQ(window->Model().script.runMode, 0);
-  EXPECT_TRUE(window->Model().script.runPath.empty());
+  EXPECT_EQ(window->Script().runMode, 0);
+  EXPECT_TRUE(window->Script().runPath.empty());
 }
 
 TEST_F(ScriptWindowTest, EmptyScriptsFolderGivesAnEmptyListAndNoStart) {

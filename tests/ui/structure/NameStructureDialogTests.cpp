@@ -32,7 +32,7 @@ class NameStructureDialogTest : public WindowTest {
     AddFiles({"alpha.txt", "beta.txt"});
   }
   ActionWindowServices Services() {
-    return ActionWindowServices{window->Model(), window->Catalog(), window.get(), QStringLiteral("Nomra"),
+    return ActionWindowServices{window->Actions(), window->Catalog(), window.get(), QStringLiteral("Nomra"),
                                 [this] { window->RefreshPreview(); }};
   }
   std::unique_ptr<FrmNameStructure> Dialog() { return std::make_unique<FrmNameStructure>(Services()); }

@@ -77,7 +77,7 @@ int WindowTest::PositionOf(const QString& oldName) const {
 }
 
 void WindowTest::SetNewName(int position, const std::string& name) {
-  window->Model().list.Item(position)[kColNewName] = name;
+  window->State().list.Item(position)[kColNewName] = name;
 }
 
 QAction* WindowTest::MainTool(const QString& key) const { return window->ToolAction("BtnBarMain", key); }

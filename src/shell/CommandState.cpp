@@ -1,4 +1,4 @@
-#include "core/CommandState.h"
+#include "shell/CommandState.h"
 
 namespace nomra {
 

@@ -1,4 +1,4 @@
-#include "core/RefreshPreview.h"
+#include "core/RefreshList.h"
 
 #include <string_view>
 #include <unordered_set>
@@ -53,39 +53,13 @@ int CountUndoLevels(const FileList& list) {
   return levels;
 }
 
-void ComputeCommandState(MainModel& model) {
-  auto& enabled = model.commands.enabled;
-  enabled.clear();
-  for (const char* always : {"OpenFile", "Options", "ImgPreview"}) enabled.insert(always);
-  if (model.changedCount > 0) {
-    for (const char* name : {"mnuTakeChanges", "mnuRejectChanges", "TakeChanges", "RejectChanges"}) {
-      enabled.insert(name);
-    }
-  }
-  if (model.list.Empty()) return;
-  for (const char* name : {"lstApplyTo", "mnuDelList", "mnuEdit", "mnuFindDuplications", "mnuSpecial",
-                           "mnuScript", "mnuRename", "StartRunScript"}) {
-    enabled.insert(name);
-  }
-  if (model.script.recording == 0) enabled.insert("StartRecordScript");
-  if (model.scriptMenuHasEntries) enabled.insert("RunSelectedScript");
-  if (model.undoLevels > 0) {
-    enabled.insert("mnuUndo");
-    enabled.insert("Undo");
-  }
-  enabled.insert("DelList");
-  for (const std::string& key : MainToolBarKeys()) {
-    if (key >= "Rename01" && key <= "Rename99") enabled.insert(key);
-  }
-}
-
 }  // namespace
 
-void refreshPreview(MainModel& model) {
-  FileList& list = model.list;
-  model.folderCount = list.Empty() ? 0 : 1;
-  model.changedCount = 0;
-  model.undoLevels = 0;
+void RefreshList(ListState& state) {
+  FileList& list = state.list;
+  state.folderCount = list.Empty() ? 0 : 1;
+  state.changedCount = 0;
+  state.undoLevels = 0;
 
   bool newState = false;
   int position = 0;
@@ -93,12 +67,12 @@ void refreshPreview(MainModel& model) {
   list.ForEach([&](FileEntry& row) {
     ++position;
     folders.Add(row[kColPath]);
-    row[kColDisplay] = model.iconView ? row[kColNewName] : std::string();
+    row[kColDisplay] = state.iconView ? row[kColNewName] : std::string();
     if (row[kColOldName] == row[kColNewName]) {
       row.colour = RowColour::Black;
     } else {
       row.colour = RowColour::DarkRed;
-      ++model.changedCount;
+      ++state.changedCount;
       // A name that went back to its old form is no new state on its own.
       if (row[kColNewName] != row[kColHistory0]) newState = true;
     }
@@ -106,20 +80,18 @@ void refreshPreview(MainModel& model) {
   });
 
   if (newState) PushHistory(list);
-  model.folderCount = folders.Count();
+  state.folderCount = folders.Count();
   // Rows go into folder order, then back into the user's order; a saved
   // column of 0 is no sort head, so the rows stay in folder order.
-  if (!list.Empty()) SortInFolderOrderThenByHead(model, list.sortKey + 1);
+  if (!list.Empty()) SortInFolderOrderThenByHead(list, list.sortKey + 1);
 
-  if (list.Empty()) model.selectedScriptLabel = model.statusTexts[5];
-  model.undoLevels = CountUndoLevels(list);
-  ComputeCommandState(model);
+  state.undoLevels = CountUndoLevels(list);
+  state.statusCounter = 0;
+}
 
-  model.statusCounter = 0;
-  const std::string status =
-      FormatMessage(model.statusTexts[1], {std::to_string(list.Count()), std::to_string(model.folderCount),
-                                           std::to_string(model.changedCount)});
-  model.frontEnd.SetStatusText(status);
+std::string ListSummaryText(const StatusTexts& texts, const ListState& state) {
+  return FormatMessage(texts.listSummary, {std::to_string(state.list.Count()), std::to_string(state.folderCount),
+                                           std::to_string(state.changedCount)});
 }
 
 }  // namespace nomra

@@ -1,0 +1,41 @@
+#pragma once
+#include "HeadlessFrontEnd.h"
+#include "commit/CommitContext.h"
+#include "core/AddFile.h"
+#include "core/ExifDateReader.h"
+#include "core/ListContext.h"
+#include "core/ListOptions.h"
+#include "core/ListState.h"
+#include "core/Progress.h"
+#include "core/StatusTexts.h"
+#include "dialog/ScriptSession.h"
+#include "platform/posix/PosixFileSystem.h"
+#include "shell/WindowPreview.h"
+#include "shell/WindowState.h"
+
+namespace nomra::bench {
+
+// A list as the window keeps it, without the window: what the engine's
+// commands cost on their own, the window's refresh of its state included.
+struct BenchList {
+  BenchList() = default;
+  BenchList(const BenchList&) = delete;
+  BenchList& operator=(const BenchList&) = delete;
+
+  ListContext List() { return {state, ui, preview}; }
+  CommitContext Commit() { return {state, fs, ui, options, texts}; }
+
+  platform::PosixFileSystem fs;
+  HeadlessFrontEnd ui;
+  NoExifDates exif;
+  NoProgress progress;
+  ListOptions options;
+  StatusTexts texts;
+  ListState state{fs};
+  WindowState window;
+  ScriptSession script;
+  WindowPreview preview{state, window, script, ui, texts};
+  ListLoad load{state, fs, ui, progress, exif, options, texts};
+};
+
+}  // namespace nomra::bench

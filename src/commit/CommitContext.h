@@ -1,0 +1,23 @@
+#pragma once
+#include "core/FrontEnd.h"
+#include "core/ListOptions.h"
+#include "core/ListState.h"
+#include "core/StatusTexts.h"
+#include "platform/FileSystem.h"
+
+namespace nomra {
+
+// What taking changes to disk works with: the list whose pending names go
+// to disk, the file system, the user, the options that decide on the
+// protocol and the questions, and the status text that counts the renames.
+struct CommitContext {
+  ListState& state;
+  platform::FileSystem& fileSystem;
+  FrontEnd& frontEnd;
+  const ListOptions& options;
+  const StatusTexts& texts;
+
+  FileList& List() const { return state.list; }
+};
+
+}  // namespace nomra
