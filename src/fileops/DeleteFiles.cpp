@@ -60,14 +60,14 @@ DeleteOutcome DeleteFiles(const std::vector<std::string>& paths, bool toTrash, b
     return outcome;
   }
   ProgressStep step;
-  step.kind = toTrash ? OperationKind::Trash : OperationKind::Delete;
+  step.task = ProgressTaskOf(toTrash ? OperationKind::Trash : OperationKind::Delete);
   step.count = static_cast<int>(paths.size());
-  services.progress.Begin(step.kind, step.count, 0);
+  services.progress.Begin(step);
   for (std::size_t index = 0; index < paths.size(); ++index) {
     step.index = static_cast<int>(index) + 1;
     step.path = paths[index];
     const std::size_t left = paths.size() - index - 1;
-    if (!services.progress.Report(step) ||
+    if (!services.progress.Tick(step) ||
         (toTrash ? SendToTrash(paths[index], left, outcome, services)
                  : DeleteAtOnce(paths[index], left, outcome, services)) == Step::Stop) {
       outcome.aborted = true;

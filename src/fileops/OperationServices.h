@@ -14,7 +14,7 @@ struct OperationServices {
   platform::FileSystem& fileSystem;
   platform::Trash& trash;
   FrontEnd& frontEnd;
-  OperationProgress& progress;
+  Progress& progress;
   LocalClock clock = LocalTimeNow;
 };
 

@@ -49,7 +49,7 @@ class TransferRun {
 TransferOutcome TransferRun::Run() {
   const std::size_t count = pairs_.size();
   outcome_.placed.assign(count, std::string());
-  step_.kind = kind_;
+  step_.task = ProgressTaskOf(kind_);
   step_.count = static_cast<int>(count);
   for (const TransferPair& pair : pairs_) {
     sources_.push_back(services_.fileSystem.Inspect(pair.from));
@@ -58,12 +58,12 @@ TransferOutcome TransferRun::Run() {
     takenAtStart_.push_back(services_.fileSystem.Inspect(pair.to).kind != platform::EntryKind::Missing);
     if (takenAtStart_.back()) ++collisionsLeft_;
   }
-  services_.progress.Begin(kind_, step_.count, step_.bytesTotal);
+  services_.progress.Begin(step_);
   for (std::size_t index = 0; index < count; ++index) {
     if (takenAtStart_[index]) --collisionsLeft_;
     step_.index = static_cast<int>(index) + 1;
     step_.path = pairs_[index].from;
-    if (!services_.progress.Report(step_) || !Handle(index)) {
+    if (!services_.progress.Tick(step_) || !Handle(index)) {
       outcome_.aborted = true;
       break;
     }
@@ -91,7 +91,7 @@ bool TransferRun::Handle(std::size_t index) {
   const std::uint64_t before = step_.bytesDone;
   const platform::CopyTick tick = [this, before](std::uint64_t copied) {
     step_.bytesDone = before + copied;
-    return services_.progress.Report(step_);
+    return services_.progress.Tick(step_);
   };
   FileResult result = PutFile(services_.fileSystem, pair.from, target, source, kind_ == OperationKind::Move, replace, tick);
   step_.bytesDone = before;

@@ -49,6 +49,7 @@ TEST_F(CopyFilesTest, ProgressIsToldBeforeEachFileWithTheBytesSoFar) {
 
   ASSERT_EQ(progress.begun.size(), 1u);
   EXPECT_EQ(progress.begun[0].count, 3);
+  EXPECT_STREQ(progress.begun[0].task, lang::kCopying);
   EXPECT_EQ(progress.begun[0].bytesTotal, 3u * std::string("content of f000.txt").size());
   ASSERT_GE(progress.steps.size(), 3u);
   EXPECT_EQ(progress.steps.front().index, 1);
@@ -88,12 +89,10 @@ TEST_F(CopyFilesTest, StopWhileALargeFileIsCopiedLeavesNoPartOfIt) {
   progress.stopAtFile = 0;
   int reports = 0;
   // The first report is the one before the file; the next comes from inside its copy.
-  struct StopInside final : OperationProgress {
+  struct StopInside final : Progress {
     int& reports;
     explicit StopInside(int& r) : reports(r) {}
-    void Begin(OperationKind, int, std::uint64_t) override {}
-    bool Report(const ProgressStep&) override { return ++reports < 2; }
-    void End() override {}
+    bool Tick(const ProgressStep&) override { return ++reports < 2; }
   } stopInside(reports);
   platform::FreedesktopTrash stoppingTrash{os, nomra::testing::RealLocations()};
   OperationServices stopping{os, stoppingTrash, frontEnd, stopInside, services.clock};

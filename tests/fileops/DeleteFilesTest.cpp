@@ -104,6 +104,9 @@ TEST_F(DeleteListFilesTest, DeletedFilesLeaveTheListAfterTheQuestion) {
   EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kTrashMany});
   EXPECT_EQ(state.list.Count(), 0);
   EXPECT_TRUE(Exists(temp.Path() + "data/Trash/files/a.txt"));
+  ASSERT_EQ(progress.begun.size(), 1u);
+  EXPECT_STREQ(progress.begun[0].task, lang::kTrashing);
+  EXPECT_EQ(progress.begun[0].count, 2);
 }
 
 TEST_F(DeleteListFilesTest, NoToTheQuestionKeepsFilesAndRows) {

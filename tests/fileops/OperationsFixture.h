@@ -53,12 +53,10 @@ inline std::vector<std::string> NamesIn(const std::string& folder) {
 }
 
 // Remembers every step it was told of, and says stop at the step asked for.
-class ScriptedProgress final : public OperationProgress {
+class ScriptedProgress final : public Progress {
  public:
-  void Begin(OperationKind kind, int count, std::uint64_t bytesTotal) override {
-    begun.push_back({kind, 0, count, "", 0, bytesTotal});
-  }
-  bool Report(const ProgressStep& step) override {
+  void Begin(const ProgressStep& task) override { begun.push_back(task); }
+  bool Tick(const ProgressStep& step) override {
     steps.push_back(step);
     return stopAtFile == 0 || step.index < stopAtFile;
   }

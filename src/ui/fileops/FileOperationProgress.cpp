@@ -8,7 +8,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "lang/MessageKeys.h"
 #include "lang/LanguageKeys.h"
 #include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
@@ -21,20 +20,6 @@ namespace {
 // Work that ends within this time shows no window at all.
 constexpr qint64 kShowAfterMsecs = 400;
 constexpr int kBarSteps = 1000;
-
-const char* StepKeyOf(fileops::OperationKind kind) {
-  switch (kind) {
-    case fileops::OperationKind::Copy:
-      return lang::kCopying;
-    case fileops::OperationKind::Move:
-      return lang::kMoving;
-    case fileops::OperationKind::Trash:
-      return lang::kTrashing;
-    case fileops::OperationKind::Delete:
-      return lang::kDeleting;
-  }
-  return lang::kCopying;
-}
 
 }  // namespace
 
@@ -61,15 +46,15 @@ FileOperationProgress::FileOperationProgress(const lang::MessageCatalog& catalog
   LocaliseDialog(*this, catalog, parent, QString());
 }
 
-void FileOperationProgress::Begin(fileops::OperationKind, int, std::uint64_t) {
+void FileOperationProgress::Begin(const ProgressStep&) {
   cancelled_ = false;
   bar_->setValue(0);
   shownAfter_ = QDateTime::currentMSecsSinceEpoch() + kShowAfterMsecs;
 }
 
-bool FileOperationProgress::Report(const fileops::ProgressStep& step) {
+bool FileOperationProgress::Tick(const ProgressStep& step) {
   const std::vector<std::string> numbers = {std::to_string(step.index), std::to_string(step.count)};
-  std::string text = catalog_.GetText(lang::kMessagesSection, StepKeyOf(step.kind), numbers);
+  std::string text = catalog_.GetText(lang::kMessagesSection, step.task, numbers);
   if (text.empty()) text = std::to_string(step.index) + " / " + std::to_string(step.count);
   step_->setText(ToQString(text));
   file_->setText(ToQString(step.path));

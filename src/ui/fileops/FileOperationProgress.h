@@ -2,7 +2,7 @@
 #include <QDialog>
 #include <QString>
 
-#include "fileops/OperationProgress.h"
+#include "core/Progress.h"
 #include "lang/MessageCatalog.h"
 
 class QLabel;
@@ -13,13 +13,13 @@ namespace nomra::ui {
 // The progress of a copy, move or deletion, with a Cancel button that stops
 // the operation before its next file. It shows itself only when the work
 // takes longer than a moment, so a single small file flashes nothing.
-class FileOperationProgress final : public QDialog, public fileops::OperationProgress {
+class FileOperationProgress final : public QDialog, public Progress {
   Q_OBJECT
  public:
   FileOperationProgress(const lang::MessageCatalog& catalog, QWidget* parent = nullptr);
 
-  void Begin(fileops::OperationKind kind, int count, std::uint64_t bytesTotal) override;
-  bool Report(const fileops::ProgressStep& step) override;
+  void Begin(const ProgressStep& task) override;
+  bool Tick(const ProgressStep& step) override;
   void End() override;
 
   bool Cancelled() const { return cancelled_; }

@@ -141,16 +141,16 @@ TEST_F(FileOperationsDialogTest, FolderBrowserPutsItsChoiceIntoTheTargetPath) {
 
 TEST_F(FileOperationsDialogTest, ProgressTellsTheFileAndCancelStopsBeforeTheNext) {
   FileOperationProgress progress(english);
-  progress.Begin(fileops::OperationKind::Copy, 3, 300);
-  fileops::ProgressStep step{fileops::OperationKind::Copy, 2, 3, "/x/b.txt", 150, 300};
+  progress.Begin(ProgressStep{lang::kCopying, 0, 3, "", 0, 300});
+  ProgressStep step{lang::kCopying, 2, 3, "/x/b.txt", 150, 300};
 
-  EXPECT_TRUE(progress.Report(step));
+  EXPECT_TRUE(progress.Tick(step));
   EXPECT_EQ(progress.StepText(), "Copying file 2 of 3");
   EXPECT_EQ(progress.FileText(), "/x/b.txt");
   EXPECT_EQ(progress.Value(), 500);
 
   progress.findChild<QPushButton*>("cmdCancel")->click();
-  EXPECT_FALSE(progress.Report(step));
+  EXPECT_FALSE(progress.Tick(step));
 }
 
 TEST_F(FileOperationsDialogTest, PropertiesShowSizeTypeAndPermissions) {
