@@ -3,7 +3,11 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <sstream>
 #include <stdexcept>
+
+#include "cli/CommandLineMain.h"
+#include "support/ScopedEnvironment.h"
 
 #include "core/FileEntry.h"
 
@@ -14,6 +18,17 @@ CliResult CliTest::Run(const std::vector<std::string>& arguments) const {
   launch.arguments = arguments;
   launch.environment["NOMRA_DATA_DIR"] = data.Path();
   return RunCli(launch);
+}
+
+CliResult CliTest::RunWithin(platform::Platform& system, const std::vector<std::string>& arguments) const {
+  const ScopedEnvironment dataFolder("NOMRA_DATA_DIR", data.Path());
+  std::ostringstream out;
+  std::ostringstream messages;
+  CliResult result;
+  result.exitStatus = cli::RunCommandLine(system, arguments, out, messages);
+  result.out = out.str();
+  result.err = messages.str();
+  return result;
 }
 
 JsonValue CliTest::RunJson(const std::vector<std::string>& arguments) const {

@@ -7,6 +7,7 @@
 #include "cli/CliProcess.h"
 #include "cli/JsonReader.h"
 #include "core/FileEntry.h"
+#include "platform/Platform.h"
 #include "support/TempFolder.h"
 
 namespace nomra::testing {
@@ -19,6 +20,9 @@ class CliTest : public ::testing::Test {
   TempFolder data;
 
   CliResult Run(const std::vector<std::string>& arguments) const;
+  // Runs the same commands in this process, over `system`, so a test can
+  // set the file system's faults.
+  CliResult RunWithin(platform::Platform& system, const std::vector<std::string>& arguments) const;
   // Runs with --json added and reads the one document it prints.
   JsonValue RunJson(const std::vector<std::string>& arguments) const;
   // Writes "settings.nrp" into the data folder: section [Settings] with the

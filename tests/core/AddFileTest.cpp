@@ -159,16 +159,6 @@ TEST_F(AddFileFolders, UnreadableFolderIsPassedOver) {
   EXPECT_EQ(state.list.Item(1)[kColOldName], "a.txt");
 }
 
-TEST_F(AddFileTest, FolderWithoutReadPermissionIsPassedOver) {
-  if (geteuid() == 0) GTEST_SKIP() << "permission bits don't stop root from reading";
-  temp.WriteFile("tree/open/a.txt");
-  temp.WriteFile("tree/closed/b.txt");
-  ASSERT_EQ(chmod((temp.Path() + "tree/closed").c_str(), 0), 0);
-  std::string folder = temp.Path() + "tree";
-  EXPECT_NO_THROW(AddFile(load, folder));
-  ASSERT_EQ(state.list.Count(), 1);
-}
-
 TEST_F(AddFileTest, NameThatIsNotUtf8KeepsItsBytes) {
   const std::string name = "bad\xE9name.txt";
   const std::string full = temp.Path() + name;

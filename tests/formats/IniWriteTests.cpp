@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string>
 
+#include "support/FaultyFileSystem.h"
 #include "support/PermissionCases.h"
 #include "support/RealFiles.h"
 #include "support/TempFolder.h"
@@ -15,8 +16,8 @@ namespace {
 using nomra::testing::Ini;
 
 using nomra::testing::Exists;
+using nomra::testing::FaultyFileSystem;
 using nomra::testing::PermissionBits;
-using nomra::testing::PermissionsAreIgnored;
 using nomra::testing::ReadWholeFile;
 using nomra::testing::TempFolder;
 
@@ -168,35 +169,48 @@ TEST(SettingsWrite, FolderInPlaceOfTheFileReturnsFalse) {
 }
 
 TEST(SettingsWrite, ReadOnlyFolderReturnsFalseAndLeavesTheFile) {
-  if (PermissionsAreIgnored()) GTEST_SKIP() << "running as root: permission bits don't stop writes";
   TempFolder temp;
   const std::string folder = temp.MakeFolder("locked");
   const auto file = temp.WriteFile("locked/s.nrp", "[Main]\r\nA=1\r\n");
-  ASSERT_EQ(chmod(folder.c_str(), 0555), 0);
-  EXPECT_FALSE(Ini(file).Write("Main", "A", "2"));
-  EXPECT_FALSE(Ini(file).Write("Main", "B", "3"));
+  FaultyFileSystem files;
+  files.MakeFolderReadOnly(folder);
+  EXPECT_FALSE(IniFile(files, file).Write("Main", "A", "2"));
+  EXPECT_FALSE(IniFile(files, file).Write("Main", "B", "3"));
+  EXPECT_GT(files.refused, 0);
   EXPECT_EQ(ReadWholeFile(file), "[Main]\r\nA=1\r\n");
   EXPECT_EQ(EntriesIn(folder), 1);
 }
 
 TEST(SettingsWrite, ReadOnlyFileReturnsFalseAndStaysUnchanged) {
-  if (PermissionsAreIgnored()) GTEST_SKIP() << "running as root: permission bits don't stop writes";
   TempFolder temp;
   const auto file = temp.WriteFile("s.nrp", "[Main]\r\nA=1\r\n");
-  ASSERT_EQ(chmod(file.c_str(), 0444), 0);
-  EXPECT_FALSE(Ini(file).Write("Main", "A", "2"));
+  FaultyFileSystem files;
+  files.MakeFileReadOnly(file);
+  EXPECT_FALSE(IniFile(files, file).Write("Main", "A", "2"));
+  EXPECT_GT(files.refused, 0);
   EXPECT_EQ(ReadWholeFile(file), "[Main]\r\nA=1\r\n");
-  EXPECT_EQ(PermissionBits(file), 0444u);
+  EXPECT_EQ(EntriesIn(temp.Path()), 1);
 }
 
 TEST(SettingsWrite, UnreadableFileIsNotReplaced) {
-  if (PermissionsAreIgnored()) GTEST_SKIP() << "running as root: permission bits don't stop reads";
   TempFolder temp;
   const auto file = temp.WriteFile("s.nrp", "[Main]\r\nA=1\r\n");
-  ASSERT_EQ(chmod(file.c_str(), 0200), 0);
-  EXPECT_FALSE(Ini(file).Write("Main", "B", "2"));
-  ASSERT_EQ(chmod(file.c_str(), 0600), 0);
+  FaultyFileSystem files;
+  files.MakeFileUnreadable(file);
+  EXPECT_FALSE(IniFile(files, file).Write("Main", "B", "2"));
+  EXPECT_GT(files.refused, 0);
   EXPECT_EQ(ReadWholeFile(file), "[Main]\r\nA=1\r\n");
+}
+
+TEST(SettingsWrite, FullDiskReturnsFalseAndLeavesTheFile) {
+  TempFolder temp;
+  const auto file = temp.WriteFile("s.nrp", "[Main]\r\nA=1\r\n");
+  FaultyFileSystem files;
+  files.FillDisk();
+  EXPECT_FALSE(IniFile(files, file).Write("Main", "A", "2"));
+  EXPECT_GT(files.refused, 0);
+  EXPECT_EQ(ReadWholeFile(file), "[Main]\r\nA=1\r\n");
+  EXPECT_EQ(EntriesIn(temp.Path()), 1);
 }
 
 }  // namespace

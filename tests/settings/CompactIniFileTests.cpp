@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "support/FaultyFileSystem.h"
 #include "support/PermissionCases.h"
 #include "settings/CompactIniFile.h"
 #include "support/RealFiles.h"
@@ -15,7 +16,6 @@ using nomra::testing::RealFiles;
 
 using nomra::testing::Exists;
 using nomra::testing::PermissionBits;
-using nomra::testing::PermissionsAreIgnored;
 using nomra::testing::ReadWholeFile;
 using nomra::testing::TempFolder;
 
@@ -119,12 +119,25 @@ TEST(SettingsCompaction, KeepsTheFilesPermissions) {
 }
 
 TEST(SettingsCompaction, ReadOnlyFileStaysUnchanged) {
-  if (PermissionsAreIgnored()) GTEST_SKIP() << "running as root: permission bits don't stop writes";
   TempFolder temp;
   const std::string text = "[Main]\r\nA=<<DELETE>>\r\n";
   const auto file = temp.WriteFile("settings.nrp", text);
-  ASSERT_EQ(chmod(file.c_str(), 0444), 0);
-  EXPECT_FALSE(CompactIniFile(RealFiles(), file, temp.Path()));
+  nomra::testing::FaultyFileSystem files;
+  files.MakeFileReadOnly(file);
+  EXPECT_FALSE(CompactIniFile(files, file, temp.Path()));
+  EXPECT_GT(files.refused, 0);
+  EXPECT_EQ(ReadWholeFile(file), text);
+  EXPECT_FALSE(Exists(temp.Path() + "format.tmp"));
+}
+
+TEST(SettingsCompaction, FullDiskLeavesTheFileAndNoTemporary) {
+  TempFolder temp;
+  const std::string text = "[Main]\r\nA=<<DELETE>>\r\nB=1\r\n";
+  const auto file = temp.WriteFile("settings.nrp", text);
+  nomra::testing::FaultyFileSystem files;
+  files.FillDisk();
+  EXPECT_FALSE(CompactIniFile(files, file, temp.Path()));
+  EXPECT_GT(files.refused, 0);
   EXPECT_EQ(ReadWholeFile(file), text);
   EXPECT_FALSE(Exists(temp.Path() + "format.tmp"));
 }

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "support/PermissionCases.h"
+#include "support/FaultyFileSystem.h"
 #include "support/ScopedEnvironment.h"
 #include "settings/CompactIniFile.h"
 #include "settings/DataFolder.h"
@@ -18,7 +18,6 @@ using nomra::testing::Ini;
 using nomra::testing::RealFiles;
 
 using nomra::testing::Exists;
-using nomra::testing::PermissionsAreIgnored;
 using nomra::testing::ReadWholeFile;
 using nomra::testing::ScopedEnvironment;
 using nomra::testing::TempFolder;
@@ -65,12 +64,13 @@ TEST(SettingsDataFolder, FindDataFolderUnderARegularFileDoesNotCrash) {
 }
 
 TEST(SettingsDataFolder, DataFolderUnderAReadOnlyParentGivesDefaultsAndNoWrites) {
-  if (PermissionsAreIgnored()) GTEST_SKIP() << "running as root: a read-only parent doesn't stop mkdir";
   TempFolder temp;
   const std::string parent = temp.MakeFolder("locked");
-  ASSERT_EQ(chmod(parent.c_str(), 0555), 0);
+  nomra::testing::FaultyFileSystem files;
+  files.MakeFolderReadOnly(parent);
   const std::string data = parent + "data/";
-  EXPECT_FALSE(PrepareDataFolder(RealFiles(), temp.MakeFolder("app"), data));
+  EXPECT_FALSE(PrepareDataFolder(files, temp.MakeFolder("app"), data));
+  EXPECT_GT(files.refused, 0);
   EXPECT_FALSE(Exists(data));
   ExpectDefaultsAndRefusedWrites(data);
 }

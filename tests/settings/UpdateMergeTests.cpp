@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "support/PermissionCases.h"
+#include "support/FaultyFileSystem.h"
 #include "support/RealFiles.h"
 #include "settings/UpdateMerge.h"
 #include "support/TempFolder.h"
@@ -14,7 +14,6 @@ namespace {
 using nomra::testing::Ini;
 
 using nomra::testing::Exists;
-using nomra::testing::PermissionsAreIgnored;
 using nomra::testing::ReadWholeFile;
 using nomra::testing::TempFolder;
 
@@ -142,12 +141,13 @@ TEST(SettingsUpdateMerge, SameInstructionsAgainChangeNothing) {
 }
 
 TEST(SettingsUpdateMerge, VersionTestPreventsASecondRunWhenTheDeleteFailed) {
-  if (PermissionsAreIgnored()) GTEST_SKIP() << "running as root: a read-only folder doesn't stop the delete";
   MergeFolders f;
   f.WriteSettings("[Main]\r\nVersion=1\r\n[View]\r\nObsolete=5\r\n");
   f.WriteUpdate("[Main]\r\nVersion=2\r\n[Del]\r\nD1=View|Obsolete\r\n");
-  ASSERT_EQ(chmod(f.app.c_str(), 0555), 0);
-  ASSERT_EQ(f.Merge(), MergeOutcome::Applied);
+  nomra::testing::FaultyFileSystem files;
+  files.MakeFolderReadOnly(f.app);
+  ASSERT_EQ(MergeUpdateInstructions(formats::IniFile(files, f.update), Ini(f.settings), f.data), MergeOutcome::Applied);
+  EXPECT_EQ(files.refused, 1);
   ASSERT_TRUE(Exists(f.update));
   EXPECT_EQ(Ini(f.settings).ReadString("View", "Obsolete"), "");
   ASSERT_TRUE(Ini(f.settings).Write("View", "Obsolete", "6"));
