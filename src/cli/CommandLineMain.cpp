@@ -13,7 +13,7 @@
 
 namespace nomra::cli {
 
-int RunCommandLine(platform::Platform& system, const std::vector<std::string>& arguments, std::ostream& out,
+int RunCliArguments(platform::Platform& system, const std::vector<std::string>& arguments, std::ostream& out,
                    std::ostream& messages) {
   if (!arguments.empty() && arguments.front() == kEvalCommand) {
     return RunEvalCommand(system, {arguments.begin() + 1, arguments.end()}, out, messages);

@@ -10,7 +10,7 @@ namespace nomra::cli {
 // The whole of nomra-cli after the program name: picks the command, runs it
 // on `system`, prints on `out` and `messages`, and returns the exit status.
 // Whatever the engine didn't expect still ends with a message, not an abort.
-int RunCommandLine(platform::Platform& system, const std::vector<std::string>& arguments, std::ostream& out,
+int RunCliArguments(platform::Platform& system, const std::vector<std::string>& arguments, std::ostream& out,
                    std::ostream& messages);
 
 }  // namespace nomra::cli

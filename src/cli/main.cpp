@@ -14,5 +14,5 @@ int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
 
   const std::unique_ptr<nomra::platform::Platform> system = nomra::platform::MakeSystemPlatform();
-  return nomra::cli::RunCommandLine(*system, std::vector<std::string>(argv + 1, argv + argc), std::cout, std::cerr);
+  return nomra::cli::RunCliArguments(*system, std::vector<std::string>(argv + 1, argv + argc), std::cout, std::cerr);
 }

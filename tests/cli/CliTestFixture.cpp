@@ -25,7 +25,7 @@ CliResult CliTest::RunWithin(platform::Platform& system, const std::vector<std::
   std::ostringstream out;
   std::ostringstream messages;
   CliResult result;
-  result.exitStatus = cli::RunCommandLine(system, arguments, out, messages);
+  result.exitStatus = cli::RunCliArguments(system, arguments, out, messages);
   result.out = out.str();
   result.err = messages.str();
   return result;
