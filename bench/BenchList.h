@@ -22,20 +22,20 @@ struct BenchList {
   BenchList(const BenchList&) = delete;
   BenchList& operator=(const BenchList&) = delete;
 
-  ListContext List() { return {state, ui, preview}; }
-  CommitContext Commit() { return {state, fs, ui, options, texts}; }
+  core::ListContext List() { return {state, ui, preview}; }
+  commit::CommitContext Commit() { return {state, fs, ui, options, texts}; }
 
   platform::PosixFileSystem fs;
   HeadlessFrontEnd ui;
-  NoExifDates exif;
-  NoProgress progress;
-  ListOptions options;
-  StatusTexts texts;
-  ListState state{fs};
-  WindowState window;
-  ScriptSession script;
-  WindowPreview preview{state, window, script, ui, texts};
-  ListLoad load{state, fs, ui, progress, exif, options, texts};
+  core::NoExifDates exif;
+  core::NoProgress progress;
+  core::ListOptions options;
+  core::StatusTexts texts;
+  core::ListState state{fs};
+  shell::WindowState window;
+  dialog::ScriptSession script;
+  shell::WindowPreview preview{state, window, script, ui, texts};
+  core::ListLoad load{state, fs, ui, progress, exif, options, texts};
 };
 
 }  // namespace nomra::bench

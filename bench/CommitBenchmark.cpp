@@ -223,16 +223,16 @@ NomraRun TimeNomra(const Fixture& fixture, const std::string& dataFolder) {
   list.options.loadExifDates = false;
 
   std::string path = fixture.root;
-  nomra::AddFile(list.load, path);
+  nomra::core::AddFile(list.load, path);
 
   std::unordered_map<std::string, const std::string*> targets;
   targets.reserve(fixture.moves.size());
   for (const Move& move : fixture.moves) targets.emplace(move.folder + move.from, &move.to);
   int set = 0;
-  list.state.list.ForEach([&](nomra::FileEntry& row) {
-    const auto found = targets.find(row[nomra::kColPath] + row[nomra::kColOldName]);
+  list.state.list.ForEach([&](nomra::core::FileEntry& row) {
+    const auto found = targets.find(row[nomra::core::kColPath] + row[nomra::core::kColOldName]);
     if (found == targets.end()) return;
-    row[nomra::kColNewName] = *found->second;
+    row[nomra::core::kColNewName] = *found->second;
     ++set;
   });
   list.preview.Refresh();
@@ -243,7 +243,7 @@ NomraRun TimeNomra(const Fixture& fixture, const std::string& dataFolder) {
     run.ok = false;
   }
   const auto start = Clock::now();
-  const nomra::CommitResult result = nomra::mdlRenameFiles(list.Commit(), nomra::kWholeList);
+  const nomra::commit::CommitResult result = nomra::commit::mdlRenameFiles(list.Commit(), nomra::commit::kWholeList);
   run.seconds = Seconds(start);
   if (!result.notRenamed.empty()) {
     std::printf("  Nomra: %zu rows not renamed, first: %s\n", result.notRenamed.size(),

@@ -94,7 +94,7 @@ class DataFolder {
 
 // The English file beside the executable when the build copied it there,
 // else the one in the sources.
-std::string LanguageFile(const nomra::StartupPaths& paths) {
+std::string LanguageFile(const nomra::shell::StartupPaths& paths) {
   const std::string besideProgram = paths.appFolder + "English.lng";
   if (std::filesystem::exists(besideProgram)) return besideProgram;
   return std::string(NOMRA_SOURCE_LANG_DIR) + "/English.lng";
@@ -111,7 +111,7 @@ struct StartTimes {
 
 struct Services {
   std::unique_ptr<nomra::platform::Platform> system = nomra::platform::MakeSystemPlatform();
-  nomra::NoExifDates exifDates;
+  nomra::core::NoExifDates exifDates;
 };
 
 // A window with the data folder it was started on; the window goes first.
@@ -129,8 +129,8 @@ struct OpenWindow {
 StartTimes TimeStart(Services& services, const std::string& root, OpenWindow& open) {
   open.Close();
   open.data = std::make_unique<DataFolder>();
-  const nomra::StartupPaths paths =
-      nomra::PrepareStartup(services.system->Files(), services.system->Locations(), open.data->Path());
+  const nomra::shell::StartupPaths paths =
+      nomra::shell::PrepareStartup(services.system->Files(), services.system->Locations(), open.data->Path());
   const std::string language = LanguageFile(paths);
   StartTimes times;
 
@@ -141,7 +141,7 @@ StartTimes TimeStart(Services& services, const std::string& root, OpenWindow& op
   std::vector<std::string> arguments;
   if (!root.empty()) arguments.push_back(root);
   arguments.push_back("");
-  nomra::RunCommandLine(arguments, window->Load(), nomra::CommandLineSwitches{});
+  nomra::shell::RunCommandLine(arguments, window->Load(), nomra::shell::CommandLineSwitches{});
   const auto loaded = Clock::now();
   window->RefreshPreview();
   const auto refreshed = Clock::now();
@@ -201,9 +201,9 @@ double TimeRefreshAndRepaint(nomra::ui::MainWindow& window) {
 
 // Every row gets a new pending name that differs from the last refresh's,
 // so that each refresh pushes a history level.
-void MakeEveryRowPending(nomra::FileList& list, int round) {
+void MakeEveryRowPending(nomra::core::FileList& list, int round) {
   const std::string suffix = round % 2 == 0 ? "_a" : "_b";
-  list.ForEach([&](nomra::FileEntry& row) { row[nomra::kColNewName] = row[nomra::kColOldName] + suffix; });
+  list.ForEach([&](nomra::core::FileEntry& row) { row[nomra::core::kColNewName] = row[nomra::core::kColOldName] + suffix; });
 }
 
 struct RefreshSummary {

@@ -48,7 +48,7 @@ LoadResult TimeLoad(const std::string& root) {
     list.texts.adding = "Adding";
     std::string path = root;
     const auto start = Clock::now();
-    nomra::AddFile(list.load, path);
+    nomra::core::AddFile(list.load, path);
     result.seconds = Seconds(start);
     result.rows = list.state.list.Count();
     result.heapBytes = mallinfo2().uordblks - heapBefore;

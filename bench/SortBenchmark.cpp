@@ -13,19 +13,19 @@ constexpr int kFolders = 1000;
 
 // Rows as AddFile makes them, without the disk: 100 files in each of 1,000
 // folders, names in a shuffled order.
-void FillRows(nomra::FileList& list) {
+void FillRows(nomra::core::FileList& list) {
   for (int i = 0; i < kRows; ++i) {
     const int scrambled = static_cast<int>((static_cast<long long>(i) * 7919) % kRows);
     const std::string folder = "/home/user/photos/d" + std::to_string(i % kFolders) + "/";
     const std::string name = "IMG_" + std::to_string(scrambled) + ".jpg";
-    nomra::FileEntry* row = list.Add(folder + name);
-    (*row)[nomra::kColPath] = folder;
-    (*row)[nomra::kColOldName] = name;
-    (*row)[nomra::kColNewName] = name;
-    (*row)[nomra::kColHistory0] = name;
-    (*row)[nomra::kColCreated] = "2020-01-01 12:00:00";
-    (*row)[nomra::kColModified] = "2020-01-01 12:00:00";
-    (*row)[nomra::kColSize] = "0";
+    nomra::core::FileEntry* row = list.Add(folder + name);
+    (*row)[nomra::core::kColPath] = folder;
+    (*row)[nomra::core::kColOldName] = name;
+    (*row)[nomra::core::kColNewName] = name;
+    (*row)[nomra::core::kColHistory0] = name;
+    (*row)[nomra::core::kColCreated] = "2020-01-01 12:00:00";
+    (*row)[nomra::core::kColModified] = "2020-01-01 12:00:00";
+    (*row)[nomra::core::kColSize] = "0";
     row->sizeTag = "000000000000";
     row->selected = i % 10 == 0;  // the tenth that the benchmark's action changes
   }
@@ -39,7 +39,7 @@ void BM_SortByNewName(benchmark::State& state) {
   Fixture f;
   for (auto _ : state) {
     f.state.list.sortOrder = f.state.list.sortOrder == 0 ? 1 : 0;
-    nomra::sortFileList(f.state.list, f.ui, 4);
+    nomra::core::sortFileList(f.state.list, f.ui, 4);
   }
   state.counters["rows"] = f.state.list.Count();
 }
@@ -53,8 +53,8 @@ void RefreshAfterTenPercentChanged(benchmark::State& state, int sortColumn) {
   for (auto _ : state) {
     state.PauseTiming();
     ++round;
-    f.state.list.ForEach([&](nomra::FileEntry& row) {
-      if (row.selected) row[nomra::kColNewName] = "new_" + std::to_string(round) + "_" + row[nomra::kColOldName];
+    f.state.list.ForEach([&](nomra::core::FileEntry& row) {
+      if (row.selected) row[nomra::core::kColNewName] = "new_" + std::to_string(round) + "_" + row[nomra::core::kColOldName];
     });
     state.ResumeTiming();
     f.preview.Refresh();
@@ -64,7 +64,7 @@ void RefreshAfterTenPercentChanged(benchmark::State& state, int sortColumn) {
 }
 
 void BM_RefreshFolderOrder(benchmark::State& state) { RefreshAfterTenPercentChanged(state, 0); }
-void BM_RefreshSortedByNewName(benchmark::State& state) { RefreshAfterTenPercentChanged(state, nomra::kColNewName); }
+void BM_RefreshSortedByNewName(benchmark::State& state) { RefreshAfterTenPercentChanged(state, nomra::core::kColNewName); }
 BENCHMARK(BM_RefreshFolderOrder)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_RefreshSortedByNewName)->Unit(benchmark::kMillisecond);
 

@@ -18,10 +18,10 @@ struct Fixture : nomra::bench::BenchList {
       const std::string folder = "/home/user/music/Artist " + std::to_string(i % 500) + "/";
       const std::string name = "0" + std::to_string(i % 9 + 1) + " - Artist " + std::to_string(i % 500) +
                                " - Song title number " + std::to_string(i) + ".mp3";
-      nomra::FileEntry* row = state.list.Add(folder + name);
-      (*row)[nomra::kColPath] = folder;
-      (*row)[nomra::kColOldName] = name;
-      (*row)[nomra::kColNewName] = name;
+      nomra::core::FileEntry* row = state.list.Add(folder + name);
+      (*row)[nomra::core::kColPath] = folder;
+      (*row)[nomra::core::kColOldName] = name;
+      (*row)[nomra::core::kColNewName] = name;
     }
   }
 };
@@ -31,7 +31,7 @@ void EvaluateAllRows(benchmark::State& state, const std::string& structure) {
   std::size_t bytes = 0;
   for (auto _ : state) {
     for (int row = 1; row <= kRows; ++row) {
-      const std::string result = nomra::EvaluateStructure(f.state.list.Item(row), structure);
+      const std::string result = nomra::structure::EvaluateStructure(f.state.list.Item(row), structure);
       bytes += result.size();
     }
   }

@@ -18,7 +18,7 @@ namespace {
 constexpr char kAppTitle[] = "Nomra";
 
 // The language file to use, "" when the program has to end.
-std::string PickLanguage(nomra::platform::FileSystem& fileSystem, const nomra::StartupPaths& paths) {
+std::string PickLanguage(nomra::platform::FileSystem& fileSystem, const nomra::shell::StartupPaths& paths) {
   using namespace nomra::lang;
   const nomra::formats::IniFile settingsFile(fileSystem, paths.settingsPath);
   const LanguageChoice choice = ChooseLanguage(paths.appFolder, settingsFile);
@@ -48,14 +48,14 @@ int main(int argc, char** argv) {
 
   // The one place the window's program picks the system it runs on.
   const std::unique_ptr<nomra::platform::Platform> system = nomra::platform::MakeSystemPlatform();
-  nomra::NoExifDates exifDates;
-  const nomra::StartupPaths paths = nomra::PrepareStartup(system->Files(), system->Locations(), std::string());
+  nomra::core::NoExifDates exifDates;
+  const nomra::shell::StartupPaths paths = nomra::shell::PrepareStartup(system->Files(), system->Locations(), std::string());
   const std::string languageFile = PickLanguage(system->Files(), paths);
   if (languageFile.empty()) return 1;
 
   nomra::ui::MainWindow window({*system, exifDates, paths, languageFile, kAppTitle, NOMRA_VERSION});
   // Qt has taken its own options out of argv; the rest is ours.
-  window.RunCommandLine(nomra::ArgumentsFromArgv(argc, argv));
+  window.RunCommandLine(nomra::shell::ArgumentsFromArgv(argc, argv));
   window.ShowAtStart();
   return QApplication::exec();
 }

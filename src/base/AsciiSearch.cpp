@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-namespace nomra::text {
+namespace nomra::base {
 
 namespace {
 
@@ -48,4 +48,4 @@ bool IsAscii(std::string_view text) {
   return true;
 }
 
-}  // namespace nomra::text
+}  // namespace nomra::base

@@ -2,7 +2,7 @@
 #include <cstddef>
 #include <string_view>
 
-namespace nomra::text {
+namespace nomra::base {
 
 // Where `needle` first stands in `text` at or behind `from`, with the case of
 // ASCII letters ignored and every other byte compared as it is; npos when
@@ -12,4 +12,4 @@ std::size_t FindAsciiNoCase(std::string_view text, std::string_view needle, std:
 
 bool IsAscii(std::string_view text);
 
-}  // namespace nomra::text
+}  // namespace nomra::base

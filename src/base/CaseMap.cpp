@@ -4,7 +4,7 @@
 
 #include "base/Utf8.h"
 
-namespace nomra::text {
+namespace nomra::base {
 
 namespace {
 
@@ -133,4 +133,4 @@ bool StartsWithNoCase(std::string_view text, std::string_view prefix) {
   return true;
 }
 
-}  // namespace nomra::text
+}  // namespace nomra::base

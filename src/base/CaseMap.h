@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-namespace nomra::text {
+namespace nomra::base {
 
 // Case mapping that gives the Western code page's (Windows-1252) results on
 // its own characters and Unicode's beyond them. A letter whose partner the
@@ -21,4 +21,4 @@ bool EqualsNoCase(std::string_view a, std::string_view b);
 int CompareNoCase(std::string_view a, std::string_view b);
 bool StartsWithNoCase(std::string_view text, std::string_view prefix);
 
-}  // namespace nomra::text
+}  // namespace nomra::base

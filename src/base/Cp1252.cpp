@@ -4,7 +4,7 @@
 
 #include "base/Utf8.h"
 
-namespace nomra::text {
+namespace nomra::base {
 
 namespace {
 
@@ -56,4 +56,4 @@ std::string DecodeTextFile(std::string_view bytes) {
   return DecodeCp1252(bytes);
 }
 
-}  // namespace nomra::text
+}  // namespace nomra::base

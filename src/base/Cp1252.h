@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-namespace nomra::text {
+namespace nomra::base {
 
 // Windows-1252 bytes to UTF-8. The five bytes the code page leaves undefined
 // (0x81, 0x8D, 0x8F, 0x90, 0x9D) become U+0081 and so on, as Windows does, so
@@ -16,4 +16,4 @@ std::string EncodeCp1252(std::string_view utf8);
 // when the bytes are not valid UTF-8, Windows-1252.
 std::string DecodeTextFile(std::string_view bytes);
 
-}  // namespace nomra::text
+}  // namespace nomra::base

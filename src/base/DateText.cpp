@@ -1,6 +1,6 @@
 #include "base/DateText.h"
 
-namespace nomra::text {
+namespace nomra::base {
 
 namespace {
 
@@ -41,4 +41,4 @@ std::string FormatTimeStamp(const std::tm& when) {
   return std::string(out, sizeof out);
 }
 
-}  // namespace nomra::text
+}  // namespace nomra::base

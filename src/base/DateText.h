@@ -2,7 +2,7 @@
 #include <ctime>
 #include <string>
 
-namespace nomra::text {
+namespace nomra::base {
 
 // The list's date form "yyyy-mm-dd hh:nn:ss", in local time, whole seconds.
 std::string FormatListDate(std::time_t t);
@@ -13,4 +13,4 @@ inline constexpr const char* kDefaultListDate = "1980-01-01 00:00:00";
 // script, the ending of a journal kept after a failed repair.
 std::string FormatTimeStamp(const std::tm& when);
 
-}  // namespace nomra::text
+}  // namespace nomra::base

@@ -3,7 +3,7 @@
 #include <system_error>
 #include <utility>
 
-namespace nomra {
+namespace nomra::base {
 
 std::string SystemErrorText(int error) { return std::generic_category().message(error); }
 
@@ -16,4 +16,4 @@ Failure SystemFailure(int error, std::string path, std::string target) {
   return failure;
 }
 
-}  // namespace nomra
+}  // namespace nomra::base

@@ -1,7 +1,7 @@
 #pragma once
 #include <string>
 
-namespace nomra {
+namespace nomra::base {
 
 // What went wrong, by the numbers the messages go by where they have one.
 enum class FailureKind : int {
@@ -32,4 +32,4 @@ std::string SystemErrorText(int error);
 // A failure of kind Other, told in the system's words for `error`.
 Failure SystemFailure(int error, std::string path = {}, std::string target = {});
 
-}  // namespace nomra
+}  // namespace nomra::base

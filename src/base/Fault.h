@@ -2,7 +2,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace nomra {
+namespace nomra::base {
 
 // A failure that ends the command that met it, at the row where it met it.
 // Nothing already done is rolled back; the front end shows the text and the
@@ -12,4 +12,4 @@ class RuntimeFault : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-}  // namespace nomra
+}  // namespace nomra::base

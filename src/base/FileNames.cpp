@@ -1,6 +1,6 @@
 #include "base/FileNames.h"
 
-namespace nomra {
+namespace nomra::base {
 
 bool IsForbiddenNameCharacter(char32_t character) {
   return character < 0x80 && kForbiddenNameCharacters.find(static_cast<char>(character)) != std::string_view::npos;
@@ -15,4 +15,4 @@ std::string CleanFileName(std::string_view name) {
   return out;
 }
 
-}  // namespace nomra
+}  // namespace nomra::base

@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-namespace nomra {
+namespace nomra::base {
 
 // The nine characters that never stand in a file name, on any platform: an
 // error text such as "<ERROR>" never becomes a file name, and a tag value
@@ -15,4 +15,4 @@ bool IsForbiddenNameCharacter(char32_t character);
 // Removes each of the nine forbidden characters from a name.
 std::string CleanFileName(std::string_view name);
 
-}  // namespace nomra
+}  // namespace nomra::base

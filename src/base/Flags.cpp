@@ -1,6 +1,6 @@
 #include "base/Flags.h"
 
-namespace nomra {
+namespace nomra::base {
 
 bool ToBoolean(long value, bool defaultValue) {
   if (value < 0) return defaultValue;
@@ -9,4 +9,4 @@ bool ToBoolean(long value, bool defaultValue) {
 
 int FromBoolean(bool flag) { return flag ? 1 : 0; }
 
-}  // namespace nomra
+}  // namespace nomra::base

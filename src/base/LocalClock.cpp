@@ -1,6 +1,6 @@
 #include "base/LocalClock.h"
 
-namespace nomra {
+namespace nomra::base {
 
 std::tm LocalTimeNow() {
   const std::time_t now = std::time(nullptr);
@@ -9,4 +9,4 @@ std::tm LocalTimeNow() {
   return local;
 }
 
-}  // namespace nomra
+}  // namespace nomra::base

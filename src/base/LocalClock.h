@@ -2,11 +2,11 @@
 #include <ctime>
 #include <functional>
 
-namespace nomra {
+namespace nomra::base {
 
 // The local time of day, for the protocol; tests fix it.
 using LocalClock = std::function<std::tm()>;
 
 std::tm LocalTimeNow();
 
-}  // namespace nomra
+}  // namespace nomra::base

@@ -1,6 +1,6 @@
 #include "base/MessageText.h"
 
-namespace nomra {
+namespace nomra::base {
 
 std::string FormatMessage(std::string_view text, const std::vector<std::string>& values) {
   std::string out(text);
@@ -19,4 +19,4 @@ std::string FormatMessage(std::string_view text, const std::vector<std::string>&
   return out;
 }
 
-}  // namespace nomra
+}  // namespace nomra::base

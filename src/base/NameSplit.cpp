@@ -1,6 +1,6 @@
 #include "base/NameSplit.h"
 
-namespace nomra {
+namespace nomra::base {
 
 std::string NameOnly(std::string_view name) {
   const std::size_t dot = name.rfind('.');
@@ -24,4 +24,4 @@ void SplitNameExtension(std::string_view name, std::string& stem, std::string& e
   extension.assign(name.substr(dot));
 }
 
-}  // namespace nomra
+}  // namespace nomra::base

@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-namespace nomra {
+namespace nomra::base {
 
 // The one rule of name and extension used everywhere: the extension begins
 // at the last "." of the name.
@@ -17,4 +17,4 @@ std::string ExtensionOnly(std::string_view name, bool keepDot);
 // Both at once; the extension keeps its dot, so stem + extension == name.
 void SplitNameExtension(std::string_view name, std::string& stem, std::string& extension);
 
-}  // namespace nomra
+}  // namespace nomra::base

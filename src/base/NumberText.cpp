@@ -2,7 +2,7 @@
 
 #include <clocale>
 
-namespace nomra::text {
+namespace nomra::base {
 
 namespace {
 
@@ -34,4 +34,4 @@ std::string FormatPadded(std::uint64_t value, int width) {
   return digits;
 }
 
-}  // namespace nomra::text
+}  // namespace nomra::base

@@ -2,7 +2,7 @@
 #include <cstdint>
 #include <string>
 
-namespace nomra::text {
+namespace nomra::base {
 
 // "#,##0": groups of three digits, joined by the grouping character of the
 // user's locale, or a comma where the locale has none (C, POSIX).
@@ -11,4 +11,4 @@ std::string FormatGrouped(std::uint64_t value);
 // "000000000000" and the like: zero-padded to `width` digits.
 std::string FormatPadded(std::uint64_t value, int width);
 
-}  // namespace nomra::text
+}  // namespace nomra::base

@@ -1,6 +1,6 @@
 #include "base/Paths.h"
 
-namespace nomra {
+namespace nomra::base {
 
 std::string AddBackslash(std::string_view path) {
   std::string out(path);
@@ -23,4 +23,4 @@ std::string WithoutTrailingSeparators(std::string path) {
   return path;
 }
 
-}  // namespace nomra
+}  // namespace nomra::base

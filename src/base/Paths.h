@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-namespace nomra {
+namespace nomra::base {
 
 // The platform's path separator; folder texts end with it.
 inline constexpr char kPathSeparator = '/';
@@ -20,4 +20,4 @@ std::string NameOf(std::string_view path);
 // The path without separators at its end; the root stays the root.
 std::string WithoutTrailingSeparators(std::string path);
 
-}  // namespace nomra
+}  // namespace nomra::base

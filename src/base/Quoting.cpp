@@ -1,6 +1,6 @@
 #include "base/Quoting.h"
 
-namespace nomra {
+namespace nomra::base {
 
 std::string Quoted(std::string_view text) {
   std::string out;
@@ -17,4 +17,4 @@ std::string WithoutDoubleQuotes(std::string_view text) {
   return out;
 }
 
-}  // namespace nomra
+}  // namespace nomra::base

@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-namespace nomra {
+namespace nomra::base {
 
 // The text between double quotes, as paths are shown in messages.
 std::string Quoted(std::string_view text);
@@ -10,4 +10,4 @@ std::string Quoted(std::string_view text);
 // The text with every double quote taken out.
 std::string WithoutDoubleQuotes(std::string_view text);
 
-}  // namespace nomra
+}  // namespace nomra::base

@@ -6,7 +6,7 @@
 #include "base/CaseMap.h"
 #include "base/Utf8.h"
 
-namespace nomra {
+namespace nomra::base {
 
 namespace {
 
@@ -31,14 +31,14 @@ std::string ReplaceHits(std::string_view text, std::size_t findLength, std::stri
 // match always covers whole characters of the text as it stands.
 std::string ReplaceIgnoringCase(std::string_view text, std::string_view find, std::string_view with,
                                 std::size_t from, long count) {
-  std::u32string needle = text::ToChars(find);
-  for (char32_t& c : needle) c = text::ToLowerChar(c);
+  std::u32string needle = base::ToChars(find);
+  for (char32_t& c : needle) c = base::ToLowerChar(c);
 
   std::vector<std::size_t> offsets;  // byte offset of each character, and of the end
   std::u32string lowered;
-  text::ForEachChar(text.substr(from), [&](char32_t c, std::size_t offset, std::size_t) {
+  base::ForEachChar(text.substr(from), [&](char32_t c, std::size_t offset, std::size_t) {
     offsets.push_back(from + offset);
-    lowered.push_back(text::ToLowerChar(c));
+    lowered.push_back(base::ToLowerChar(c));
   });
   offsets.push_back(text.size());
 
@@ -64,16 +64,16 @@ std::string ReplaceIgnoringCase(std::string_view text, std::string_view find, st
 std::string ReplaceText(std::string_view text, std::string_view find, std::string_view with, long start, long count,
                         int compare) {
   if (find.empty() || count <= 0) return std::string(text);
-  const std::size_t from = text::OffsetOfCharacter(text, static_cast<std::size_t>(start < 1 ? 1 : start) - 1);
+  const std::size_t from = base::OffsetOfCharacter(text, static_cast<std::size_t>(start < 1 ? 1 : start) - 1);
   if (compare == 0) {
     return ReplaceHits(text, find.size(), with, from, count, [&](std::size_t pos) { return text.find(find, pos); });
   }
   // Both sides plain ASCII: lower-casing is folding "A" to "Z", byte by byte.
-  if (text::IsAscii(find) && text::IsAscii(text)) {
+  if (base::IsAscii(find) && base::IsAscii(text)) {
     return ReplaceHits(text, find.size(), with, from, count,
-                       [&](std::size_t pos) { return text::FindAsciiNoCase(text, find, pos); });
+                       [&](std::size_t pos) { return base::FindAsciiNoCase(text, find, pos); });
   }
   return ReplaceIgnoringCase(text, find, with, from, count);
 }
 
-}  // namespace nomra
+}  // namespace nomra::base

@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-namespace nomra {
+namespace nomra::base {
 
 // The program's one replace routine, which every tag substitution and most
 // clean-ups go through.
@@ -18,4 +18,4 @@ inline constexpr long kReplaceAll = 2147483647;
 std::string ReplaceText(std::string_view text, std::string_view find, std::string_view with, long start = 1,
                         long count = kReplaceAll, int compare = 0);
 
-}  // namespace nomra
+}  // namespace nomra::base

@@ -1,6 +1,6 @@
 #include "base/Trim.h"
 
-namespace nomra {
+namespace nomra::base {
 
 std::string_view Trim(std::string_view text, std::string_view characters) {
   const std::size_t first = text.find_first_not_of(characters);
@@ -8,4 +8,4 @@ std::string_view Trim(std::string_view text, std::string_view characters) {
   return text.substr(first, text.find_last_not_of(characters) - first + 1);
 }
 
-}  // namespace nomra
+}  // namespace nomra::base

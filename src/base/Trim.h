@@ -1,7 +1,7 @@
 #pragma once
 #include <string_view>
 
-namespace nomra {
+namespace nomra::base {
 
 // The text without the given characters at either end.
 std::string_view Trim(std::string_view text, std::string_view characters);
@@ -14,4 +14,4 @@ inline std::string_view TrimSpaces(std::string_view text) { return Trim(text, " 
 // values of our INI files and delimited text.
 inline std::string_view TrimBlanks(std::string_view text) { return Trim(text, " \t"); }
 
-}  // namespace nomra
+}  // namespace nomra::base

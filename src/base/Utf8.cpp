@@ -1,6 +1,6 @@
 #include "base/Utf8.h"
 
-namespace nomra::text {
+namespace nomra::base {
 
 namespace {
 
@@ -110,4 +110,4 @@ std::size_t OffsetOfCharacter(std::string_view s, std::size_t index) {
   return offset;
 }
 
-}  // namespace nomra::text
+}  // namespace nomra::base

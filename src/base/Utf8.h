@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace nomra::text {
+namespace nomra::base {
 
 // Names that are not valid UTF-8 keep their bytes: each byte that is not part
 // of a valid sequence is one character of its own. Such a byte b (0x80..0xFF)
@@ -44,4 +44,4 @@ void ForEachChar(std::string_view s, F&& f) {
   }
 }
 
-}  // namespace nomra::text
+}  // namespace nomra::base

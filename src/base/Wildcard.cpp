@@ -6,7 +6,7 @@
 #include "base/CaseMap.h"
 #include "base/Utf8.h"
 
-namespace nomra::text {
+namespace nomra::base {
 
 namespace {
 
@@ -112,4 +112,4 @@ bool MatchesWildcard(std::string_view text, std::string_view pattern) {
   return ti == tokens.size();
 }
 
-}  // namespace nomra::text
+}  // namespace nomra::base

@@ -1,7 +1,7 @@
 #pragma once
 #include <string_view>
 
-namespace nomra::text {
+namespace nomra::base {
 
 // Wildcard match of a whole text, case ignored: "*" any run of characters,
 // "?" one character, "#" one digit, "[...]" one of the listed characters
@@ -9,4 +9,4 @@ namespace nomra::text {
 // closing "]" stands for itself.
 bool MatchesWildcard(std::string_view text, std::string_view pattern);
 
-}  // namespace nomra::text
+}  // namespace nomra::base

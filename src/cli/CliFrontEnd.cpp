@@ -4,21 +4,21 @@ namespace nomra::cli {
 
 namespace {
 
-bool IsQuestion(MessageStyle style) {
-  return style == MessageStyle::YesNo || style == MessageStyle::YesNoDefaultNo ||
-         style == MessageStyle::YesNoCancelDefaultNo ||
-         style == MessageStyle::YesNoWarningDefaultNo;
+bool IsQuestion(core::MessageStyle style) {
+  return style == core::MessageStyle::YesNo || style == core::MessageStyle::YesNoDefaultNo ||
+         style == core::MessageStyle::YesNoCancelDefaultNo ||
+         style == core::MessageStyle::YesNoWarningDefaultNo;
 }
 
-const char* AnswerName(Answer answer) {
+const char* AnswerName(core::Answer answer) {
   switch (answer) {
-    case Answer::Ok:
+    case core::Answer::Ok:
       return "Ok";
-    case Answer::Cancel:
+    case core::Answer::Cancel:
       return "Cancel";
-    case Answer::Yes:
+    case core::Answer::Yes:
       return "Yes";
-    case Answer::No:
+    case core::Answer::No:
       return "No";
   }
   return "?";
@@ -26,25 +26,25 @@ const char* AnswerName(Answer answer) {
 
 }  // namespace
 
-Answer DefaultAnswer(MessageStyle style) {
+core::Answer DefaultAnswer(core::MessageStyle style) {
   switch (style) {
-    case MessageStyle::YesNo:
-      return Answer::Yes;
-    case MessageStyle::YesNoDefaultNo:
-    case MessageStyle::YesNoCancelDefaultNo:
-    case MessageStyle::YesNoWarningDefaultNo:
-      return Answer::No;
-    case MessageStyle::OkWarning:
-    case MessageStyle::OkStop:
-    case MessageStyle::OkInformation:
-      return Answer::Ok;
+    case core::MessageStyle::YesNo:
+      return core::Answer::Yes;
+    case core::MessageStyle::YesNoDefaultNo:
+    case core::MessageStyle::YesNoCancelDefaultNo:
+    case core::MessageStyle::YesNoWarningDefaultNo:
+      return core::Answer::No;
+    case core::MessageStyle::OkWarning:
+    case core::MessageStyle::OkStop:
+    case core::MessageStyle::OkInformation:
+      return core::Answer::Ok;
   }
-  return Answer::Ok;
+  return core::Answer::Ok;
 }
 
-Answer CliFrontEnd::Ask(const Message& message) {
+core::Answer CliFrontEnd::Ask(const core::Message& message) {
   const bool question = IsQuestion(message.style);
-  const Answer answer = question && answerYes_ ? Answer::Yes : DefaultAnswer(message.style);
+  const core::Answer answer = question && answerYes_ ? core::Answer::Yes : DefaultAnswer(message.style);
   // Until the language texts are read, the key names the message.
   messages_ << (question ? "question " : "message ") << message.textKey << ": answered " << AnswerName(answer)
             << '\n';
@@ -54,7 +54,7 @@ Answer CliFrontEnd::Ask(const Message& message) {
 void CliFrontEnd::ShowPlainMessage(const std::string& text) { messages_ << "message: " << text << '\n'; }
 
 // Nobody is there to type: the preset answer stands, as if OK were pressed.
-std::string CliFrontEnd::AskInput(const Message& prompt, const std::string& preset) {
+std::string CliFrontEnd::AskInput(const core::Message& prompt, const std::string& preset) {
   messages_ << "input " << prompt.textKey << ": answered \"" << preset << "\"\n";
   return preset;
 }

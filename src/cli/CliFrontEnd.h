@@ -7,18 +7,18 @@
 namespace nomra::cli {
 
 // The answer a message box gives when the user only presses Enter.
-Answer DefaultAnswer(MessageStyle style);
+core::Answer DefaultAnswer(core::MessageStyle style);
 
 // The engine's user on the command line: questions are answered from the
 // options and written down, faults are printed and fail the run. Nothing is
 // shown while working, so status texts, pumps and the hourglass do nothing.
-class CliFrontEnd final : public FrontEnd {
+class CliFrontEnd final : public core::FrontEnd {
  public:
   CliFrontEnd(std::ostream& messages, bool answerYes) : messages_(messages), answerYes_(answerYes) {}
 
-  Answer Ask(const Message& message) override;
+  core::Answer Ask(const core::Message& message) override;
   void ShowPlainMessage(const std::string& text) override;
-  std::string AskInput(const Message& prompt, const std::string& preset) override;
+  std::string AskInput(const core::Message& prompt, const std::string& preset) override;
   void ShowFault(const std::string& text) override;
   // A full folder would give one line per file: not worth printing.
   void SetStatusText(const std::string&) override {}

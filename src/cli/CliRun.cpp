@@ -23,7 +23,7 @@ void RunSteps(CliSession& session, const std::vector<Step>& steps, std::ostream&
   for (const Step& step : steps) {
     try {
       step.run(session, notes);
-    } catch (const RuntimeFault& fault) {
+    } catch (const base::RuntimeFault& fault) {
       session.frontEnd.ShowFault(step.option + ": " + fault.what());
     }
   }
@@ -34,7 +34,7 @@ void RunSteps(CliSession& session, const std::vector<Step>& steps, std::ostream&
 int RunInvocation(platform::Platform& system, const Invocation& invocation, std::ostream& out,
                   std::ostream& messages) {
   CliFrontEnd frontEnd(messages, invocation.answerYes);
-  const StartupPaths paths = PrepareStartup(system.Files(), system.Locations(), invocation.dataFolder);
+  const shell::StartupPaths paths = shell::PrepareStartup(system.Files(), system.Locations(), invocation.dataFolder);
   CliSession session(system.Files(), frontEnd);
   session.Start(paths);
   if (invocation.protocolRenames) session.options.protocolRenames = *invocation.protocolRenames;
@@ -42,11 +42,11 @@ int RunInvocation(platform::Platform& system, const Invocation& invocation, std:
 
   LoadSources(session, invocation.sources);
   RunSteps(session, invocation.steps, messages);
-  std::vector<ReportRow> report;
+  std::vector<commit::ReportRow> report;
   if (invocation.commit) {
     try {
       report = CommitPendingChanges(session, messages);
-    } catch (const RuntimeFault& fault) {
+    } catch (const base::RuntimeFault& fault) {
       session.frontEnd.ShowFault(std::string("--commit: ") + fault.what());
     }
   }

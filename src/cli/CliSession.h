@@ -21,28 +21,28 @@ namespace nomra::cli {
 // empty and nothing ever asks to stop.
 class CliSession {
  public:
-  CliSession(platform::FileSystem& fileSystem, FrontEnd& frontEnd)
+  CliSession(platform::FileSystem& fileSystem, core::FrontEnd& frontEnd)
       : fileSystem(fileSystem), frontEnd(frontEnd), state(fileSystem) {}
   CliSession(const CliSession&) = delete;
   CliSession& operator=(const CliSession&) = delete;
 
   // Reads the options and the script session's files from the settings.
-  void Start(const StartupPaths& paths) { LoadStartupSettings(paths, {fileSystem, frontEnd, options, script}); }
+  void Start(const shell::StartupPaths& paths) { shell::LoadStartupSettings(paths, {fileSystem, frontEnd, options, script}); }
 
-  ListContext List() { return {state, frontEnd, preview}; }
-  ActionContext Actions() { return {List(), texts, script, fileSystem}; }
-  CommitContext Commit() { return {state, fileSystem, frontEnd, options, texts}; }
+  core::ListContext List() { return {state, frontEnd, preview}; }
+  rename::ActionContext Actions() { return {List(), texts, script, fileSystem}; }
+  commit::CommitContext Commit() { return {state, fileSystem, frontEnd, options, texts}; }
 
   platform::FileSystem& fileSystem;
-  FrontEnd& frontEnd;
-  NoExifDates exifDates;
-  NoProgress progress;
-  ListOptions options;
-  StatusTexts texts;
-  ListState state;
-  ScriptSession script;
-  PlainPreview preview{state, frontEnd, texts};
-  ListLoad load{state, fileSystem, frontEnd, progress, exifDates, options, texts};
+  core::FrontEnd& frontEnd;
+  core::NoExifDates exifDates;
+  core::NoProgress progress;
+  core::ListOptions options;
+  core::StatusTexts texts;
+  core::ListState state;
+  dialog::ScriptSession script;
+  core::PlainPreview preview{state, frontEnd, texts};
+  core::ListLoad load{state, fileSystem, frontEnd, progress, exifDates, options, texts};
 };
 
 }  // namespace nomra::cli

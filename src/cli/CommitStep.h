@@ -10,6 +10,6 @@ namespace nomra::cli {
 // --commit: every pending change of the list goes to disk in one batch, the
 // list is refreshed, and each rename that didn't happen is printed to
 // `messages`. Returns those, for the JSON report and the exit status.
-std::vector<ReportRow> CommitPendingChanges(CliSession& session, std::ostream& messages);
+std::vector<commit::ReportRow> CommitPendingChanges(CliSession& session, std::ostream& messages);
 
 }  // namespace nomra::cli

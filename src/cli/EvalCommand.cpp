@@ -54,7 +54,7 @@ int RunEvalCommand(platform::Platform& system, const std::vector<std::string>& a
   if (request.sources.empty()) return UsageFault(messages, "no PATH given");
 
   CliFrontEnd frontEnd(messages, false);
-  const StartupPaths paths = PrepareStartup(system.Files(), system.Locations(), request.dataFolder);
+  const shell::StartupPaths paths = shell::PrepareStartup(system.Files(), system.Locations(), request.dataFolder);
   CliSession session(system.Files(), frontEnd);
   session.Start(paths);
   LoadSources(session, request.sources);
@@ -66,8 +66,8 @@ int RunEvalCommand(platform::Platform& system, const std::vector<std::string>& a
     const std::string& path = session.state.list.Item(row).key;
     std::string result;
     try {
-      result = EvaluateStructure(session.state.list.Item(row), request.structure);
-    } catch (const RuntimeFault& fault) {
+      result = structure::EvaluateStructure(session.state.list.Item(row), request.structure);
+    } catch (const base::RuntimeFault& fault) {
       messages << "nomra-cli: eval: " << path << ": " << fault.what() << '\n';
       faulted = true;
       continue;

@@ -16,7 +16,7 @@ int BlackCount(const history::HistoryList& list) {
   return black;
 }
 
-std::string Grouped(std::size_t count) { return text::FormatGrouped(static_cast<std::uint64_t>(count)); }
+std::string Grouped(std::size_t count) { return base::FormatGrouped(static_cast<std::uint64_t>(count)); }
 
 void WriteRecord(std::ostream& out, std::size_t number, const history::HistoryRow& row) {
   out << "{\"number\":" << number << ",\"time\":" << JsonString(row.time)
@@ -43,7 +43,7 @@ void WriteHistoryTable(std::ostream& out, const history::HistoryList& list) {
       << " black, " << Grouped(list.rows.size() - black) << " red\n";
 }
 
-void WriteHistoryJson(std::ostream& out, const history::HistoryList& list, const std::vector<ReportRow>& failures) {
+void WriteHistoryJson(std::ostream& out, const history::HistoryList& list, const std::vector<commit::ReportRow>& failures) {
   out << "{\"records\":[";
   for (std::size_t i = 0; i < list.rows.size(); ++i) {
     if (i > 0) out << ",\n";

@@ -26,7 +26,7 @@ bool SelectRecords(history::HistoryList& list, const std::vector<int>& numbers, 
     history::HistoryRow& row = list.rows[static_cast<std::size_t>(number - 1)];
     row.selected = true;
     if (!row.present) {
-      messages << "nomra-cli: record " << number << " is red: " << AddBackslash(row.folder) << row.newName
+      messages << "nomra-cli: record " << number << " is red: " << base::AddBackslash(row.folder) << row.newName
                << " no longer exists; passed over\n";
       allBlack = false;
     }
@@ -49,11 +49,11 @@ int RunHistoryCommand(platform::Platform& system, const HistoryInvocation& invoc
   CliFrontEnd frontEnd(messages, true);
   platform::FileSystem& fileSystem = system.Files();
   const std::string dataFolder =
-      invocation.dataFolder.empty() ? system.Locations().DataFolder() : AddBackslash(invocation.dataFolder);
-  const history::HistoryServices services{fileSystem, frontEnd, dataFolder, [&messages](const ReportRow& failure) {
+      invocation.dataFolder.empty() ? system.Locations().DataFolder() : base::AddBackslash(invocation.dataFolder);
+  const history::HistoryServices services{fileSystem, frontEnd, dataFolder, [&messages](const commit::ReportRow& failure) {
                                              messages << "nomra-cli: " << failure.Describe() << '\n';
                                            }};
-  std::vector<ReportRow> failures;
+  std::vector<commit::ReportRow> failures;
 
   history::HistoryList list;
   bool complete = true;
@@ -74,7 +74,7 @@ int RunHistoryCommand(platform::Platform& system, const HistoryInvocation& invoc
     }
     // What the disk and the protocol hold now, whatever of the action worked.
     if (!invocation.undo.empty() || invocation.clear) history::LoadHistory(list, dataFolder, fileSystem);
-  } catch (const RuntimeFault& fault) {
+  } catch (const base::RuntimeFault& fault) {
     frontEnd.ShowFault(fault.what());
   }
 

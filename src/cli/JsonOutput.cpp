@@ -6,10 +6,10 @@ namespace nomra::cli {
 
 namespace {
 
-void WriteRow(std::ostream& out, const FileEntry& row) {
+void WriteRow(std::ostream& out, const core::FileEntry& row) {
   out << "{\"key\":" << JsonString(row.key) << ",\"selected\":" << (row.selected ? "true" : "false")
       << ",\"columns\":[";
-  for (int column = 0; column < kColumnCount; ++column) {
+  for (int column = 0; column < core::kColumnCount; ++column) {
     if (column > 0) out << ',';
     out << JsonString(row[column]);
   }
@@ -18,15 +18,15 @@ void WriteRow(std::ostream& out, const FileEntry& row) {
 
 }  // namespace
 
-void WriteReportRow(std::ostream& out, const ReportRow& row) {
+void WriteReportRow(std::ostream& out, const commit::ReportRow& row) {
   out << "{\"number\":" << row.number << ",\"key\":" << JsonString(row.rowKey)
       << ",\"message\":" << JsonString(row.Describe()) << ",\"textKey\":" << JsonString(row.textKey) << '}';
 }
 
-void WriteJson(std::ostream& out, const CliSession& session, const std::vector<ReportRow>& report) {
+void WriteJson(std::ostream& out, const CliSession& session, const std::vector<commit::ReportRow>& report) {
   out << "{\"rows\":[";
   bool first = true;
-  session.state.list.ForEach([&](const FileEntry& row) {
+  session.state.list.ForEach([&](const core::FileEntry& row) {
     if (!first) out << ",\n";
     first = false;
     WriteRow(out, row);

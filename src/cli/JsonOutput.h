@@ -13,9 +13,9 @@ namespace nomra::cli {
 //  "files":N,"folders":F,"changed":C,"report":[…]}
 // `report` holds the renames --commit couldn't make, each as
 // {"number":N,"key":…,"message":…,"textKey":…}.
-void WriteJson(std::ostream& out, const CliSession& session, const std::vector<ReportRow>& report);
+void WriteJson(std::ostream& out, const CliSession& session, const std::vector<commit::ReportRow>& report);
 
 // One rename that didn't happen: {"number":N,"key":…,"message":…,"textKey":…}.
-void WriteReportRow(std::ostream& out, const ReportRow& row);
+void WriteReportRow(std::ostream& out, const commit::ReportRow& row);
 
 }  // namespace nomra::cli

@@ -20,7 +20,7 @@ std::string JsonString(std::string_view text) {
   std::string out;
   out.reserve(text.size() + 2);
   out += '"';
-  text::ForEachChar(text, [&](char32_t character, std::size_t offset, std::size_t length) {
+  base::ForEachChar(text, [&](char32_t character, std::size_t offset, std::size_t length) {
     switch (character) {
       case '"':
         out += "\\\"";
@@ -46,7 +46,7 @@ std::string JsonString(std::string_view text) {
       default:
         break;
     }
-    if (character < 0x20 || text::IsRawByte(character)) {
+    if (character < 0x20 || base::IsRawByte(character)) {
       AppendUnicodeEscape(out, character);
     } else {
       out.append(text.substr(offset, length));

@@ -10,7 +10,7 @@ namespace {
 
 bool MatchesAny(const std::string& name, const std::vector<std::string>& patterns) {
   for (const std::string& pattern : patterns) {
-    if (text::MatchesWildcard(name, pattern)) return true;
+    if (base::MatchesWildcard(name, pattern)) return true;
   }
   return false;
 }
@@ -18,7 +18,7 @@ bool MatchesAny(const std::string& name, const std::vector<std::string>& pattern
 }  // namespace
 
 void SelectMatching(CliSession& session, const std::vector<std::string>& patterns) {
-  session.state.list.ForEach([&](FileEntry& row) { row.selected = MatchesAny(row[kColOldName], patterns); });
+  session.state.list.ForEach([&](core::FileEntry& row) { row.selected = MatchesAny(row[core::kColOldName], patterns); });
   session.preview.Refresh();
 }
 
@@ -29,7 +29,7 @@ void SetApplyScope(CliSession& session, int scope) {
 
 void SortByColumnHead(CliSession& session, const SortRequest& request) {
   session.state.list.sortOrder = request.order;
-  sortFileList(session.state.list, session.frontEnd, request.columnHead);
+  core::sortFileList(session.state.list, session.frontEnd, request.columnHead);
   session.preview.Refresh();
 }
 
@@ -39,7 +39,7 @@ void UndoOneStep(CliSession& session, std::ostream& notes) {
     notes << "nomra-cli: nothing to undo\n";
     return;
   }
-  mnuUndo(session.List(), session.options.securityQuestions[0]);
+  core::mnuUndo(session.List(), session.options.securityQuestions[0]);
 }
 
 void RejectPendingChanges(CliSession& session, std::ostream& notes) {
@@ -47,7 +47,7 @@ void RejectPendingChanges(CliSession& session, std::ostream& notes) {
     notes << "nomra-cli: no pending changes to reject\n";
     return;
   }
-  mnuRejectChanges(session.List(), session.options.securityQuestions[2]);
+  core::mnuRejectChanges(session.List(), session.options.securityQuestions[2]);
 }
 
 }  // namespace nomra::cli

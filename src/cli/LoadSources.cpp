@@ -12,8 +12,8 @@ namespace {
 
 void LoadPath(CliSession& session, std::string path) {
   try {
-    AddFile(session.load, path);
-  } catch (const RuntimeFault& fault) {
+    core::AddFile(session.load, path);
+  } catch (const base::RuntimeFault& fault) {
     session.frontEnd.ShowFault(fault.what());
   }
 }

@@ -11,16 +11,16 @@
 namespace nomra::cli {
 
 void PlayScriptFile(CliSession& session, const std::string& file, std::ostream&) {
-  const ActionContext actions = session.Actions();
-  const bool played = RunScriptArgument(session.script, session.fileSystem, file,
-                                        [&actions](int stepType) { PlayStepWithoutWindow(actions, stepType); });
+  const rename::ActionContext actions = session.Actions();
+  const bool played = script::RunScriptArgument(session.script, session.fileSystem, file,
+                                        [&actions](int stepType) { script::PlayStepWithoutWindow(actions, stepType); });
   if (!played) {
-    throw RuntimeFault("no script '" + file + "', neither as a path nor in " + ScriptFolder(session.script.dataFolder));
+    throw base::RuntimeFault("no script '" + file + "', neither as a path nor in " + script::ScriptFolder(session.script.dataFolder));
   }
 }
 
 void ApplyStructureStep(CliSession& session, const std::string& structure) {
-  ApplyStructure(session.Actions(), structure);
+  structure::ApplyStructure(session.Actions(), structure);
 }
 
 int RunScriptsCommand(platform::Platform& system, const std::vector<std::string>& arguments, std::ostream& out,
@@ -40,8 +40,8 @@ int RunScriptsCommand(platform::Platform& system, const std::vector<std::string>
       return kExitUsage;
     }
   }
-  const StartupPaths paths = PrepareStartup(system.Files(), system.Locations(), dataFolder);
-  const std::vector<StoredScript> scripts = ListStoredScripts(system.Files(), paths.dataFolder);
+  const shell::StartupPaths paths = shell::PrepareStartup(system.Files(), system.Locations(), dataFolder);
+  const std::vector<script::StoredScript> scripts = script::ListStoredScripts(system.Files(), paths.dataFolder);
   if (json) {
     out << '[';
     for (std::size_t i = 0; i < scripts.size(); ++i) {
@@ -50,7 +50,7 @@ int RunScriptsCommand(platform::Platform& system, const std::vector<std::string>
     }
     out << (scripts.empty() ? "]\n" : "\n]\n");
   } else {
-    for (const StoredScript& script : scripts) out << script.fileName << '\t' << script.displayText << '\n';
+    for (const script::StoredScript& script : scripts) out << script.fileName << '\t' << script.displayText << '\n';
   }
   return kExitSuccess;
 }

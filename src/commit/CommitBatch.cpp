@@ -4,13 +4,13 @@
 
 #include <cerrno>
 
-namespace nomra {
+namespace nomra::commit {
 
 namespace {
 
 }  // namespace
 
-void CommitBatch::Fail(const std::string& rowKey, const Failure& failure, const std::string& src,
+void CommitBatch::Fail(const std::string& rowKey, const base::Failure& failure, const std::string& src,
                        const std::string& dst) {
   const int number = static_cast<int>(result.notRenamed.size()) + 1;
   result.notRenamed.push_back(FailedRenameRow(failure, number, rowKey, src, dst));
@@ -32,19 +32,19 @@ void CommitBatch::FailJournal(int error) {
   ReportRow row;
   row.number = static_cast<int>(result.notRenamed.size()) + 1;
   row.textKey = lang::kOtherFailureText;
-  row.arguments = {Quoted(""), Quoted("")};
+  row.arguments = {base::Quoted(""), base::Quoted("")};
   row.about = "the commit journal";
   const std::string why = error == EEXIST ? "one is there already, left by an interrupted commit or held by a "
                                             "commit in another Nomra"
-                                          : SystemErrorText(error);
+                                          : base::SystemErrorText(error);
   row.systemText = "not written (" + why + "); the renames went on, but one cut short by a crash could not be "
                    "repaired at the next start";
   result.notRenamed.push_back(std::move(row));
 }
 
-void CommitBatch::RecordRename(const FileEntry& row) {
+void CommitBatch::RecordRename(const core::FileEntry& row) {
   if (!context.options.protocolRenames) return;
-  protocol_.Write(clock_(), row[kColPath], row[kColOldName], row[kColNewName]);
+  protocol_.Write(clock_(), row[core::kColPath], row[core::kColOldName], row[core::kColNewName]);
 }
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -10,22 +10,22 @@
 #include "commit/RenameFailure.h"
 #include "commit/CommitContext.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // What every part of one commit shares: the model, the report being filled,
 // the open protocol and journal, and the case rules asked for this commit.
 class CommitBatch {
  public:
   CommitBatch(const CommitContext& context, CommitResult& result, ProtocolWriter& protocol, CommitJournal& journal,
-              const LocalClock& clock)
+              const base::LocalClock& clock)
       : context(context), result(result), keys(context.fileSystem), protocol_(protocol), journal_(journal), clock_(clock) {}
 
   // The failure handler: one numbered report row; the commit goes on.
-  void Fail(const std::string& rowKey, const Failure& failure, const std::string& src, const std::string& dst);
+  void Fail(const std::string& rowKey, const base::Failure& failure, const std::string& src, const std::string& dst);
 
   // The protocol record of a row whose rename has just worked, taken from
   // its columns before they change; written only when renames are logged.
-  void RecordRename(const FileEntry& row);
+  void RecordRename(const core::FileEntry& row);
 
   // Opens the commit journal with the renames the batch will make. A journal
   // that can't be written is one report row and the batch goes on without
@@ -49,7 +49,7 @@ class CommitBatch {
 
   ProtocolWriter& protocol_;
   CommitJournal& journal_;
-  const LocalClock& clock_;
+  const base::LocalClock& clock_;
 };
 
-}  // namespace nomra
+}  // namespace nomra::commit

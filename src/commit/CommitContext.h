@@ -5,19 +5,19 @@
 #include "core/StatusTexts.h"
 #include "platform/FileSystem.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // What taking changes to disk works with: the list whose pending names go
 // to disk, the file system, the user, the options that decide on the
 // protocol and the questions, and the status text that counts the renames.
 struct CommitContext {
-  ListState& state;
+  core::ListState& state;
   platform::FileSystem& fileSystem;
-  FrontEnd& frontEnd;
-  const ListOptions& options;
-  const StatusTexts& texts;
+  core::FrontEnd& frontEnd;
+  const core::ListOptions& options;
+  const core::StatusTexts& texts;
 
-  FileList& List() const { return state.list; }
+  core::FileList& List() const { return state.list; }
 };
 
-}  // namespace nomra
+}  // namespace nomra::commit

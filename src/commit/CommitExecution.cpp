@@ -7,23 +7,23 @@
 #include "base/Paths.h"
 #include "commit/DiskRename.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 namespace {
 
 constexpr int kRowsPerPump = 100;
 
-void ChangeKeyOrFault(FileList& list, FileEntry& row, const std::string& key) {
+void ChangeKeyOrFault(core::FileList& list, core::FileEntry& row, const std::string& key) {
   // RenameOnDisk refuses a name another row holds, so this can't fail.
-  if (!list.ChangeKey(row, key)) throw RuntimeFault("Two rows of the list came to hold " + key);
+  if (!list.ChangeKey(row, key)) throw base::RuntimeFault("Two rows of the list came to hold " + key);
 }
 
 // The row's columns after its file was renamed: the new name is the name on
 // disk, and the history of pending names starts again from it.
-void TakeNewName(FileEntry& row) {
-  row[kColOldName] = row[kColNewName];
-  row[kColHistory0] = row[kColNewName];
-  for (int column = kColHistoryFirst; column <= kColHistoryLast; ++column) row[column].clear();
+void TakeNewName(core::FileEntry& row) {
+  row[core::kColOldName] = row[core::kColNewName];
+  row[core::kColHistory0] = row[core::kColNewName];
+  for (int column = core::kColHistoryFirst; column <= core::kColHistoryLast; ++column) row[column].clear();
 }
 
 void ShowProgress(const CommitContext& context) {
@@ -31,12 +31,12 @@ void ShowProgress(const CommitContext& context) {
   context.frontEnd.SetStatusText(context.texts.renamed + " " + std::to_string(context.state.statusCounter));
 }
 
-void RenameRow(CommitBatch& batch, FileEntry& row, const PathMap& foreseen, OrderedPathMap& temporaries) {
+void RenameRow(CommitBatch& batch, core::FileEntry& row, const PathMap& foreseen, OrderedPathMap& temporaries) {
   const CommitContext& context = batch.context;
-  const std::string folder = AddBackslash(row[kColPath]);
-  const std::string src = folder + row[kColOldName];
-  std::string dst = folder + row[kColNewName];
-  if (const auto refused = RefuseName(row[kColNewName])) {
+  const std::string folder = base::AddBackslash(row[core::kColPath]);
+  const std::string src = folder + row[core::kColOldName];
+  std::string dst = folder + row[core::kColNewName];
+  if (const auto refused = RefuseName(row[core::kColNewName])) {
     batch.Fail(row.key, *refused, src, dst);
     return;
   }
@@ -45,8 +45,8 @@ void RenameRow(CommitBatch& batch, FileEntry& row, const PathMap& foreseen, Orde
   // disk asked whether a file stands there (the row ahead in a chain that
   // hasn't moved yet, or a change of case alone), which sends the row
   // through a temporary name. A plain batch thus costs one call per row.
-  std::optional<Failure> failure = RenameOnDisk(context, row, src, dst);
-  if (failure && failure->kind == FailureKind::TargetExists &&
+  std::optional<base::Failure> failure = RenameOnDisk(context, row, src, dst);
+  if (failure && failure->kind == base::FailureKind::TargetExists &&
       context.fileSystem.Status(dst).kind == platform::EntryKind::File) {
     const std::string final = dst;
     dst += kTemporaryMark;
@@ -72,12 +72,12 @@ void RenameRow(CommitBatch& batch, FileEntry& row, const PathMap& foreseen, Orde
 }
 
 // Source and final path of every row the batch will try to rename.
-std::vector<JournalPlanEntry> PlannedRenames(FileList& list, const OrderedPathMap& blocked) {
+std::vector<JournalPlanEntry> PlannedRenames(core::FileList& list, const OrderedPathMap& blocked) {
   std::vector<JournalPlanEntry> plan;
-  list.ForEach([&](const FileEntry& row) {
+  list.ForEach([&](const core::FileEntry& row) {
     if (!row.HasPendingChange() || blocked.Contains(row.key)) return;
-    const std::string folder = AddBackslash(row[kColPath]);
-    plan.push_back({folder + row[kColOldName], folder + row[kColNewName]});
+    const std::string folder = base::AddBackslash(row[core::kColPath]);
+    plan.push_back({folder + row[core::kColOldName], folder + row[core::kColNewName]});
   });
   return plan;
 }
@@ -92,11 +92,11 @@ std::vector<JournalPlanEntry> PlannedRenames(FileList& list, const OrderedPathMa
 // Whether any row that will be renamed wants a name that stands on disk. If
 // none does, no temporary name can come: during the batch a name is taken
 // only by another row's new name, and two rows never get the same one.
-bool AnyTargetOnDisk(FileList& list, const OrderedPathMap& blocked, const PathMap& filesOnDisk) {
+bool AnyTargetOnDisk(core::FileList& list, const OrderedPathMap& blocked, const PathMap& filesOnDisk) {
   bool found = false;
-  list.ForEach([&](const FileEntry& row) {
-    if (found || !row.HasPendingChange() || blocked.Contains(row.key) || RefuseName(row[kColNewName])) return;
-    found = filesOnDisk.Contains(AddBackslash(row[kColPath]) + row[kColNewName]);
+  list.ForEach([&](const core::FileEntry& row) {
+    if (found || !row.HasPendingChange() || blocked.Contains(row.key) || RefuseName(row[core::kColNewName])) return;
+    found = filesOnDisk.Contains(base::AddBackslash(row[core::kColPath]) + row[core::kColNewName]);
   });
   return found;
 }
@@ -107,16 +107,16 @@ std::vector<JournalTemporaryEntry> ForeseeTemporaries(CommitBatch& batch, const 
   // A plain batch (every new name free) spares the copy of the names and the run.
   if (!AnyTargetOnDisk(batch.context.List(), blocked, filesOnDisk)) return temporaries;
   PathMap taken = filesOnDisk;
-  FileList& list = batch.context.List();
+  core::FileList& list = batch.context.List();
   for (int position = 1; position <= list.Count(); ++position) {
     if (position % kRowsPerPump == 0) batch.context.frontEnd.Pump();
-    const FileEntry& row = list.Item(position);
+    const core::FileEntry& row = list.Item(position);
     if (!row.HasPendingChange() || blocked.Contains(row.key)) continue;
     // A refused name is never tried: the file keeps its old one.
-    if (RefuseName(row[kColNewName])) continue;
-    const std::string folder = AddBackslash(row[kColPath]);
-    const std::string src = folder + row[kColOldName];
-    const std::string final = folder + row[kColNewName];
+    if (RefuseName(row[core::kColNewName])) continue;
+    const std::string folder = base::AddBackslash(row[core::kColPath]);
+    const std::string src = folder + row[core::kColOldName];
+    const std::string final = folder + row[core::kColNewName];
     // A file gone since the plan moves nowhere; its rename fails and is
     // reported.
     if (!taken.Contains(src)) continue;
@@ -140,10 +140,10 @@ std::vector<JournalTemporaryEntry> ForeseeTemporaries(CommitBatch& batch, const 
 
 void RenamePendingRows(CommitBatch& batch, const OrderedPathMap& blocked, const PathMap& foreseen,
                        OrderedPathMap& temporaries) {
-  FileList& list = batch.context.List();
+  core::FileList& list = batch.context.List();
   for (int position = 1; position <= list.Count(); ++position) {
     if (position % kRowsPerPump == 0) batch.context.frontEnd.Pump();
-    FileEntry& row = list.Item(position);
+    core::FileEntry& row = list.Item(position);
     if (!row.HasPendingChange() || blocked.Contains(row.key)) continue;
     RenameRow(batch, row, foreseen, temporaries);
   }
@@ -152,15 +152,15 @@ void RenamePendingRows(CommitBatch& batch, const OrderedPathMap& blocked, const 
 // Each temporary name loses its mark. The key of the row changes with it;
 // the list of renamed keys keeps the temporary form.
 void ReleaseTemporaryNames(CommitBatch& batch, const OrderedPathMap& temporaries) {
-  FileList& list = batch.context.List();
+  core::FileList& list = batch.context.List();
   temporaries.ForEach([&](const std::string& temporary) {
     const std::string final = temporary.substr(0, temporary.size() - kTemporaryMark.size());
-    FileEntry* row = list.Find(temporary);
+    core::FileEntry* row = list.Find(temporary);
     if (row == nullptr) {
       // The move into the temporary name failed and was reported. A file of
       // that name would be none of the list's, so it is left alone and the
       // rename reported as the missing file it would have met.
-      batch.Fail("", Failure{FailureKind::PathNotUsable, {}}, temporary, final);
+      batch.Fail("", base::Failure{base::FailureKind::PathNotUsable, {}}, temporary, final);
       return;
     }
     if (const auto failure = RenameOnDisk(batch.context, *row, temporary, final)) {
@@ -175,14 +175,14 @@ void ReleaseTemporaryNames(CommitBatch& batch, const OrderedPathMap& temporaries
 // the blocked list, not from the blocked row itself; nothing but the report
 // reads it.
 void ReportBlockedRows(CommitBatch& batch, const OrderedPathMap& blocked) {
-  FileList& list = batch.context.List();
+  core::FileList& list = batch.context.List();
   int number = 0;
   blocked.ForEach([&](const std::string& key) {
     ++number;
-    const FileEntry* row = list.Find(key);
-    const std::string dst = row == nullptr ? std::string() : AddBackslash((*row)[kColPath]) + (*row)[kColNewName];
+    const core::FileEntry* row = list.Find(key);
+    const std::string dst = row == nullptr ? std::string() : base::AddBackslash((*row)[core::kColPath]) + (*row)[core::kColNewName];
     const std::string reportKey = number <= list.Count() ? list.Item(number).key : key;
-    batch.Fail(reportKey, Failure{FailureKind::TargetExists, {}}, key, dst);
+    batch.Fail(reportKey, base::Failure{base::FailureKind::TargetExists, {}}, key, dst);
   });
 }
 
@@ -202,4 +202,4 @@ void ExecuteCommit(CommitBatch& batch, const OrderedPathMap& blocked, const Path
   ReportBlockedRows(batch, blocked);
 }
 
-}  // namespace nomra
+}  // namespace nomra::commit

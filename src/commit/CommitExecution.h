@@ -4,7 +4,7 @@
 #include "commit/CommitBatch.h"
 #include "commit/CommitSets.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // Appended to a new name whose file is still there when its row's turn
 // comes (the row ahead in a chain hasn't moved yet, or only the case
@@ -19,4 +19,4 @@ inline constexpr std::string_view kTemporaryMark = "\xC3\xBF";
 // the plan.
 void ExecuteCommit(CommitBatch& batch, const OrderedPathMap& blocked, const PathMap& filesOnDisk);
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -4,7 +4,7 @@
 
 #include "base/Paths.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 CommitJournal::~CommitJournal() { Close(); }
 
@@ -12,7 +12,7 @@ int CommitJournal::Begin(const std::string& dataFolder, const std::vector<Journa
                          const std::vector<JournalTemporaryEntry>& temporaries) {
   Close();
   if (dataFolder.empty()) return ENOENT;
-  const std::string folder = AddBackslash(dataFolder);
+  const std::string folder = base::AddBackslash(dataFolder);
   const std::string path = folder + kJournalFileName;
   // Written under a name of this process first, so the journal's own name
   // only ever shows a whole, locked plan.
@@ -63,4 +63,4 @@ void CommitJournal::Finish() {
 
 void CommitJournal::Close() { file_.reset(); }
 
-}  // namespace nomra
+}  // namespace nomra::commit

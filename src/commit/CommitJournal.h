@@ -7,7 +7,7 @@
 #include "commit/JournalFormat.h"
 #include "platform/FileSystem.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // The journal's name in the data folder.
 inline constexpr char kJournalFileName[] = "commit.journal";
@@ -59,4 +59,4 @@ class CommitJournal {
   std::string path_;
 };
 
-}  // namespace nomra
+}  // namespace nomra::commit

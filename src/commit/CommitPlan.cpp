@@ -7,17 +7,17 @@
 #include "base/Failure.h"
 #include "base/Paths.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 namespace {
 
 constexpr int kRowsPerPump = 100;
 
 // Every folder of the list, and the names of the rows that keep theirs.
-void ClaimStayingNames(FileList& list, OrderedPathMap& folders, PathMap& claimed) {
-  list.ForEach([&](const FileEntry& row) {
-    folders.Set(row[kColPath], row[kColPath]);
-    if (row[kColOldName] == row[kColNewName]) claimed.Set(row.key, row.key);
+void ClaimStayingNames(core::FileList& list, OrderedPathMap& folders, PathMap& claimed) {
+  list.ForEach([&](const core::FileEntry& row) {
+    folders.Set(row[core::kColPath], row[core::kColPath]);
+    if (row[core::kColOldName] == row[core::kColNewName]) claimed.Set(row.key, row.key);
   });
 }
 
@@ -27,7 +27,7 @@ void CollectOtherFiles(CommitBatch& batch, const OrderedPathMap& folders, const 
                        OrderedPathMap& diskOthers, PathMap& filesOnDisk) {
   folders.ForEach([&](const std::string& folder) {
     batch.context.frontEnd.Pump();
-    const std::string base = AddBackslash(folder);
+    const std::string base = base::AddBackslash(folder);
     batch.context.fileSystem.ListFolder(folder, [&](std::string_view name, platform::EntryKind kind) {
       if (kind != platform::EntryKind::File) return;
       std::string path = base + std::string(name);
@@ -38,8 +38,8 @@ void CollectOtherFiles(CommitBatch& batch, const OrderedPathMap& folders, const 
 }
 
 // Pending rows whose file is not among the folders' files.
-void FindVanishedRows(FileList& list, const OrderedPathMap& diskOthers, std::vector<std::string>& vanished) {
-  list.ForEach([&](const FileEntry& row) {
+void FindVanishedRows(core::FileList& list, const OrderedPathMap& diskOthers, std::vector<std::string>& vanished) {
+  list.ForEach([&](const core::FileEntry& row) {
     if (row.HasPendingChange() && !diskOthers.Contains(row.key)) vanished.push_back(row.key);
   });
 }
@@ -54,18 +54,18 @@ void HoldVanishedNames(const std::vector<std::string>& vanished, OrderedPathMap&
 // Each pending row in list order claims its new name; a row whose name is
 // claimed already is blocked. A row that claims gives its old name up.
 void ClaimNewNames(CommitBatch& batch, PathMap& claimed, OrderedPathMap& diskOthers, OrderedPathMap& blocked) {
-  FileList& list = batch.context.List();
+  core::FileList& list = batch.context.List();
   for (int position = 1; position <= list.Count(); ++position) {
     if (position % kRowsPerPump == 0) batch.context.frontEnd.Pump();
-    const FileEntry& row = list.Item(position);
+    const core::FileEntry& row = list.Item(position);
     if (!row.HasPendingChange()) continue;
-    const std::string target = row[kColPath] + row[kColNewName];
+    const std::string target = row[core::kColPath] + row[core::kColNewName];
     if (claimed.Contains(target)) {
       blocked.Set(row.key, row.key);
       continue;
     }
     claimed.Set(target, row.key);
-    if (!diskOthers.Erase(row.key)) batch.Fail(row.key, SystemFailure(ENOENT), "", "");
+    if (!diskOthers.Erase(row.key)) batch.Fail(row.key, base::SystemFailure(ENOENT), "", "");
   }
 }
 
@@ -100,4 +100,4 @@ void PlanCommit(CommitBatch& batch, OrderedPathMap& blocked, PathMap& filesOnDis
   SettleOtherFiles(claimed, diskOthers, blocked);
 }
 
-}  // namespace nomra
+}  // namespace nomra::commit

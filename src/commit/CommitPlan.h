@@ -2,7 +2,7 @@
 #include "commit/CommitBatch.h"
 #include "commit/CommitSets.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // Decides, before anything is renamed, which rows of the whole list must not
 // be: a row whose new name another row keeps or claims first, or a file
@@ -14,4 +14,4 @@ namespace nomra {
 // the execution can foresee its temporary names without listing again.
 void PlanCommit(CommitBatch& batch, OrderedPathMap& blocked, PathMap& filesOnDisk);
 
-}  // namespace nomra
+}  // namespace nomra::commit

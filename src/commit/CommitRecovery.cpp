@@ -17,7 +17,7 @@
 #include "commit/JournalFormat.h"
 #include "base/DateText.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 namespace {
 
@@ -31,7 +31,7 @@ std::optional<std::string> MoveBack(platform::FileSystem& fileSystem, const std:
                                     const std::string& to) {
   const platform::RenameResult renamed = fileSystem.RenameNoReplace(temporary, to);
   if (renamed.ok) return std::nullopt;
-  return SystemErrorText(renamed.error);
+  return base::SystemErrorText(renamed.error);
 }
 
 // A "T" record: the file may have gone from its source to the temporary
@@ -44,7 +44,7 @@ std::optional<std::string> MoveBack(platform::FileSystem& fileSystem, const std:
 // rename, and will tell of a file under none of its names.
 void FinishTemporary(platform::FileSystem& fileSystem, const JournalTemporaryEntry& entry, bool planned,
                      InterruptedCommit& commit) {
-  const std::string names = Quoted(entry.temporary) + " -> " + Quoted(entry.final);
+  const std::string names = base::Quoted(entry.temporary) + " -> " + base::Quoted(entry.final);
   // Only the batch's own form of a temporary name is ever moved.
   if (entry.temporary != entry.final + std::string(kTemporaryMark)) {
     commit.unresolved.push_back(names + ": the journal's entry is not a temporary name of its final name");
@@ -54,7 +54,7 @@ void FinishTemporary(platform::FileSystem& fileSystem, const JournalTemporaryEnt
     // Moved on to the final name already, or never moved away from the
     // source: both leave the file under a name of its own.
     if (!planned && !IsThere(fileSystem, entry.final) && !IsThere(fileSystem, entry.source)) {
-      commit.unresolved.push_back(Quoted(entry.source) + " -> " + names + ": the file is under none of these names");
+      commit.unresolved.push_back(base::Quoted(entry.source) + " -> " + names + ": the file is under none of these names");
     }
     return;
   }
@@ -66,9 +66,9 @@ void FinishTemporary(platform::FileSystem& fileSystem, const JournalTemporaryEnt
     }
     return;
   }
-  const std::string back = Quoted(entry.temporary) + " -> " + Quoted(entry.source);
+  const std::string back = base::Quoted(entry.temporary) + " -> " + base::Quoted(entry.source);
   if (IsThere(fileSystem, entry.source)) {
-    commit.unresolved.push_back(names + ": the final name and the old name " + Quoted(entry.source) +
+    commit.unresolved.push_back(names + ": the final name and the old name " + base::Quoted(entry.source) +
                                 " are both taken; the file stays under the temporary name");
     return;
   }
@@ -85,7 +85,7 @@ void CheckPlanned(platform::FileSystem& fileSystem, const JournalPlanEntry& entr
                   const std::unordered_set<std::string>& stillTemporary, InterruptedCommit& commit) {
   if (stillTemporary.contains(entry.final)) return;  // told already
   if (IsThere(fileSystem, entry.source) || IsThere(fileSystem, entry.final)) return;
-  commit.unresolved.push_back(Quoted(entry.source) + " -> " + Quoted(entry.final) +
+  commit.unresolved.push_back(base::Quoted(entry.source) + " -> " + base::Quoted(entry.final) +
                               ": the file is under neither name");
 }
 
@@ -128,8 +128,8 @@ void ReadJournal(platform::FileSystem& fileSystem, const std::string& text, Inte
 // Kept beside the journal under a name that says when; never replaces one
 // kept before.
 std::optional<std::string> KeepJournal(platform::FileSystem& fileSystem, const std::string& path,
-                                       const LocalClock& clock) {
-  const std::string stem = path + "." + text::FormatTimeStamp(clock());
+                                       const base::LocalClock& clock) {
+  const std::string stem = path + "." + base::FormatTimeStamp(clock());
   for (int attempt = 0; attempt < 100; ++attempt) {
     const std::string kept = stem + (attempt == 0 ? "" : "-" + std::to_string(attempt)) + ".left";
     const platform::RenameResult renamed = fileSystem.RenameNoReplace(path, kept);
@@ -142,14 +142,14 @@ std::optional<std::string> KeepJournal(platform::FileSystem& fileSystem, const s
 }  // namespace
 
 InterruptedCommit RecoverInterruptedCommit(platform::FileSystem& fileSystem, const std::string& dataFolder,
-                                           const LocalClock& clock) {
+                                           const base::LocalClock& clock) {
   InterruptedCommit commit;
   if (dataFolder.empty()) return commit;
-  const std::string path = AddBackslash(dataFolder) + kJournalFileName;
+  const std::string path = base::AddBackslash(dataFolder) + kJournalFileName;
   const platform::ExistingLock journal = fileSystem.LockExisting(path);
   if (journal.state == platform::ExistingLock::State::Failed) {
     commit.found = true;
-    commit.unresolved.push_back("the journal " + Quoted(path) + " can't be read: " + SystemErrorText(journal.error));
+    commit.unresolved.push_back("the journal " + base::Quoted(path) + " can't be read: " + base::SystemErrorText(journal.error));
     return commit;
   }
   // A commit of another Nomra is running, or there is nothing to do.
@@ -158,7 +158,7 @@ InterruptedCommit RecoverInterruptedCommit(platform::FileSystem& fileSystem, con
 
   const std::optional<std::string> text = fileSystem.ReadFile(path);
   if (!text) {
-    commit.unresolved.push_back("the journal " + Quoted(path) + " can't be read");
+    commit.unresolved.push_back("the journal " + base::Quoted(path) + " can't be read");
   } else {
     ReadJournal(fileSystem, *text, commit);
   }
@@ -166,15 +166,15 @@ InterruptedCommit RecoverInterruptedCommit(platform::FileSystem& fileSystem, con
   if (commit.unresolved.empty()) {
     fileSystem.RemoveFile(path);
   } else if (const std::optional<std::string> kept = KeepJournal(fileSystem, path, clock)) {
-    commit.unresolved.push_back("the journal is kept as " + Quoted(*kept) + " and will not be read again");
+    commit.unresolved.push_back("the journal is kept as " + base::Quoted(*kept) + " and will not be read again");
   } else {
-    commit.unresolved.push_back("the journal " + Quoted(path) + " could not be set aside and will be read again");
+    commit.unresolved.push_back("the journal " + base::Quoted(path) + " could not be set aside and will be read again");
   }
   return commit;
 }
 
-void ShowUnresolved(FrontEnd& frontEnd, const InterruptedCommit& commit) {
+void ShowUnresolved(core::FrontEnd& frontEnd, const InterruptedCommit& commit) {
   for (const std::string& line : commit.unresolved) frontEnd.ShowFault("interrupted commit: " + line);
 }
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -6,7 +6,7 @@
 #include "core/FrontEnd.h"
 #include "platform/FileSystem.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // What the start found of a commit that a crash, a kill or a power loss cut
 // short.
@@ -28,9 +28,9 @@ struct InterruptedCommit {
 // is kept for the user and not read again. A journal locked by a commit
 // running in another Nomra is left alone.
 InterruptedCommit RecoverInterruptedCommit(platform::FileSystem& fileSystem, const std::string& dataFolder,
-                                           const LocalClock& clock = LocalTimeNow);
+                                           const base::LocalClock& clock = base::LocalTimeNow);
 
 // Shows each unresolved line as a fault, "interrupted commit: " first.
-void ShowUnresolved(FrontEnd& frontEnd, const InterruptedCommit& commit);
+void ShowUnresolved(core::FrontEnd& frontEnd, const InterruptedCommit& commit);
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -4,7 +4,7 @@
 
 #include "commit/ReportRow.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // What one commit leaves for the not-renamed report.
 struct CommitResult {
@@ -15,4 +15,4 @@ struct CommitResult {
   std::vector<std::string> renamed;
 };
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -4,7 +4,7 @@
 #include "commit/CommitResult.h"
 #include "base/LocalClock.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // The two answers of the not-renamed report.
 enum class NotRenamedChoice {
@@ -14,7 +14,7 @@ enum class NotRenamedChoice {
 
 // What a commit needs from outside the engine beyond the model.
 struct CommitServices {
-  LocalClock clock = LocalTimeNow;
+  base::LocalClock clock = base::LocalTimeNow;
   // Shows the report of a commit that left rows not renamed and returns the
   // user's choice; unset, the choice is NoAction.
   std::function<NotRenamedChoice(const CommitResult&)> showNotRenamed;
@@ -23,4 +23,4 @@ struct CommitServices {
   std::function<void()> showSelectAction;
 };
 
-}  // namespace nomra
+}  // namespace nomra::commit

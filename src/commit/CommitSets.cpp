@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace nomra {
+namespace nomra::commit {
 
 void PathMap::Set(std::string_view path, std::string value) {
   values_.insert_or_assign(keys_.KeyOf(path), std::move(value));
@@ -38,4 +38,4 @@ bool OrderedPathMap::Erase(std::string_view path) {
   return true;
 }
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -6,7 +6,7 @@
 
 #include "commit/PathKeys.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // The working sets of a commit: values stored under full paths, the paths
 // compared by the case rule of their volume. Setting a path that is there
@@ -64,4 +64,4 @@ class OrderedPathMap {
   std::unordered_map<std::string_view, std::list<Entry>::iterator> index_;
 };
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -3,7 +3,7 @@
 #include "commit/NotRenamedReport.h"
 #include "commit/RenameFiles.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 void DiskCommitter::CommitAll() {
   lastResult_ = mdlRenameFiles(context_, kWholeList, services_.clock);
@@ -15,4 +15,4 @@ void DiskCommitter::CommitRow(int position) {
   ShowNotRenamed(context_, lastResult_, services_);
 }
 
-}  // namespace nomra
+}  // namespace nomra::commit

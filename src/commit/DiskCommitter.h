@@ -6,12 +6,12 @@
 #include "commit/CommitContext.h"
 #include "core/RowCommitter.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // Lets the list's removal commands take pending changes to disk before rows
 // go: the whole list as one planned batch, or one row alone. A commit that
 // left rows not renamed is shown through the services. The caller refreshes.
-class DiskCommitter final : public RowCommitter {
+class DiskCommitter final : public core::RowCommitter {
  public:
   explicit DiskCommitter(const CommitContext& context, CommitServices services = {})
       : context_(context), services_(std::move(services)) {}
@@ -28,4 +28,4 @@ class DiskCommitter final : public RowCommitter {
   CommitResult lastResult_;
 };
 
-}  // namespace nomra
+}  // namespace nomra::commit

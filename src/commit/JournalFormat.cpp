@@ -1,6 +1,6 @@
 #include "commit/JournalFormat.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 namespace {
 
@@ -101,4 +101,4 @@ JournalContent ParseJournal(std::string_view text) {
   return content;
 }
 
-}  // namespace nomra
+}  // namespace nomra::commit

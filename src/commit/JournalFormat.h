@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-namespace nomra {
+namespace nomra::commit {
 
 // The text of the commit journal. A file name may hold any byte but NUL, a
 // tab or a line break included, so every path is written as its length in
@@ -53,4 +53,4 @@ struct JournalContent {
 
 JournalContent ParseJournal(std::string_view text);
 
-}  // namespace nomra
+}  // namespace nomra::commit

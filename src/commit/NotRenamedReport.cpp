@@ -2,15 +2,15 @@
 
 #include <unordered_set>
 
-namespace nomra {
+namespace nomra::commit {
 
 void ApplyNotRenamedChoice(const CommitContext& context, const CommitResult& result, bool removeRenamed) {
   if (!removeRenamed || result.renamed.empty()) return;
-  std::unordered_set<const FileEntry*> renamedRows;
+  std::unordered_set<const core::FileEntry*> renamedRows;
   for (const std::string& key : result.renamed) {
-    if (const FileEntry* row = context.List().Find(key)) renamedRows.insert(row);
+    if (const core::FileEntry* row = context.List().Find(key)) renamedRows.insert(row);
   }
-  context.List().RemoveWhere([&](const FileEntry& row) { return renamedRows.contains(&row); });
+  context.List().RemoveWhere([&](const core::FileEntry& row) { return renamedRows.contains(&row); });
 }
 
 void ShowNotRenamed(const CommitContext& context, const CommitResult& result, const CommitServices& services) {
@@ -19,4 +19,4 @@ void ShowNotRenamed(const CommitContext& context, const CommitResult& result, co
   ApplyNotRenamedChoice(context, result, choice == NotRenamedChoice::RemoveRenamed);
 }
 
-}  // namespace nomra
+}  // namespace nomra::commit

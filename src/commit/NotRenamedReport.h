@@ -3,7 +3,7 @@
 #include "commit/CommitServices.h"
 #include "commit/CommitContext.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // The user's answer to the not-renamed report. With removeRenamed each row
 // listed as renamed leaves the list; a row listed under its temporary name
@@ -14,4 +14,4 @@ void ApplyNotRenamedChoice(const CommitContext& context, const CommitResult& res
 // services, when they can show it, and applies the choice.
 void ShowNotRenamed(const CommitContext& context, const CommitResult& result, const CommitServices& services);
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -3,10 +3,10 @@
 #include "base/CaseMap.h"
 #include "base/Paths.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 std::string PathKeys::KeyOf(std::string_view path) {
-  return IgnoresCase(FolderOf(path)) ? text::ToLower(path) : std::string(path);
+  return IgnoresCase(base::FolderOf(path)) ? base::ToLower(path) : std::string(path);
 }
 
 bool PathKeys::IgnoresCase(const std::string& folder) {
@@ -17,4 +17,4 @@ bool PathKeys::IgnoresCase(const std::string& folder) {
   return found->second;
 }
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -5,7 +5,7 @@
 
 #include "platform/FileSystem.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // The text a full path compares by during one commit: the path itself on a
 // case-sensitive volume, its lower-case form where the folder ignores case.
@@ -23,4 +23,4 @@ class PathKeys {
   std::unordered_map<std::string, bool> ignoresCaseByFolder_;
 };
 
-}  // namespace nomra
+}  // namespace nomra::commit

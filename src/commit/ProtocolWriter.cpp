@@ -4,11 +4,11 @@
 
 #include "base/DateText.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 std::string ProtocolRecord(const std::tm& when, std::string_view folder, std::string_view oldName,
                            std::string_view newName) {
-  std::string record = text::FormatTimeStamp(when);
+  std::string record = base::FormatTimeStamp(when);
   record.append("\"").append(folder).append("\"").append(oldName).append("\"").append(newName).append("\r\n");
   return record;
 }
@@ -27,4 +27,4 @@ void ProtocolWriter::Write(const std::tm& when, std::string_view folder, std::st
   if (file_) file_->Write(ProtocolRecord(when, folder, oldName, newName));
 }
 
-}  // namespace nomra
+}  // namespace nomra::commit

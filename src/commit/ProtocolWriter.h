@@ -6,7 +6,7 @@
 
 #include "platform/FileSystem.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // One line of the rename protocol: time, folder (ending with the separator),
 // old name and new name joined by double quotes, without quoting or
@@ -37,4 +37,4 @@ class ProtocolWriter {
   std::unique_ptr<platform::OpenFile> file_;
 };
 
-}  // namespace nomra
+}  // namespace nomra::commit

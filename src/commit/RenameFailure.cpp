@@ -5,12 +5,12 @@
 
 #include "base/FileNames.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 namespace {
 
-Failure OfKind(FailureKind kind, int error) {
-  Failure failure;
+base::Failure OfKind(base::FailureKind kind, int error) {
+  base::Failure failure;
   failure.kind = kind;
   failure.systemError = error;
   return failure;
@@ -18,11 +18,11 @@ Failure OfKind(FailureKind kind, int error) {
 
 }  // namespace
 
-Failure FailureOfError(int error) {
+base::Failure FailureOfError(int error) {
   switch (error) {
     case EEXIST:
     case ENOTEMPTY:
-      return OfKind(FailureKind::TargetExists, error);
+      return OfKind(base::FailureKind::TargetExists, error);
     case EACCES:
     case EPERM:
     case EROFS:
@@ -30,26 +30,26 @@ Failure FailureOfError(int error) {
     case ENOTDIR:
     case ENAMETOOLONG:
     case EINVAL:  // a name the volume can't hold
-      return OfKind(FailureKind::PathNotUsable, error);
+      return OfKind(base::FailureKind::PathNotUsable, error);
     default:
-      return SystemFailure(error);
+      return base::SystemFailure(error);
   }
 }
 
-Failure OtherFailure(std::string systemText) {
-  Failure failure;
+base::Failure OtherFailure(std::string systemText) {
+  base::Failure failure;
   failure.systemText = std::move(systemText);
   return failure;
 }
 
-std::optional<Failure> RefuseName(std::string_view newName) {
+std::optional<base::Failure> RefuseName(std::string_view newName) {
   // UTF-8 never uses ASCII bytes inside a longer character, so a byte search
   // finds exactly the characters.
-  if (newName.empty() || newName.find_first_of(kForbiddenNameCharacters) != std::string_view::npos ||
+  if (newName.empty() || newName.find_first_of(base::kForbiddenNameCharacters) != std::string_view::npos ||
       newName.find('\0') != std::string_view::npos) {
-    return OfKind(FailureKind::PathNotUsable, 0);
+    return OfKind(base::FailureKind::PathNotUsable, 0);
   }
   return std::nullopt;
 }
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -7,7 +7,7 @@
 #include "commit/SingleRowCommit.h"
 #include "settings/SettingsKeys.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 namespace {
 
@@ -33,12 +33,12 @@ class CommitScope {
 
 // Without a data folder there is no protocol to open.
 std::string ProtocolPath(const CommitContext& context) {
-  return context.options.dataFolder.empty() ? std::string() : AddBackslash(context.options.dataFolder) + settings::kProtocolFileName;
+  return context.options.dataFolder.empty() ? std::string() : base::AddBackslash(context.options.dataFolder) + settings::kProtocolFileName;
 }
 
 }  // namespace
 
-CommitResult mdlRenameFiles(const CommitContext& context, int position, const LocalClock& clock) {
+CommitResult mdlRenameFiles(const CommitContext& context, int position, const base::LocalClock& clock) {
   CommitResult result;
   ProtocolWriter protocol(context.fileSystem);
   CommitJournal journal(context.fileSystem);
@@ -61,4 +61,4 @@ CommitResult mdlRenameFiles(const CommitContext& context, int position, const Lo
   return result;
 }
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -3,7 +3,7 @@
 #include "base/LocalClock.h"
 #include "commit/CommitContext.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // The position that asks for the whole list.
 inline constexpr int kWholeList = -1;
@@ -14,6 +14,6 @@ inline constexpr int kWholeList = -1;
 // alone. No file is ever replaced. Each rename is written to the protocol
 // when renames are logged. Returns the rows not renamed and the keys renamed;
 // the caller refreshes the list.
-CommitResult mdlRenameFiles(const CommitContext& context, int position, const LocalClock& clock = LocalTimeNow);
+CommitResult mdlRenameFiles(const CommitContext& context, int position, const base::LocalClock& clock = base::LocalTimeNow);
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace nomra {
+namespace nomra::commit {
 
 namespace {
 
@@ -26,11 +26,11 @@ std::string Names(const ReportRow& row) {
   return "the rename protocol";
 }
 
-const char* TextKeyOf(FailureKind kind) {
+const char* TextKeyOf(base::FailureKind kind) {
   switch (kind) {
-    case FailureKind::TargetExists:
+    case base::FailureKind::TargetExists:
       return lang::kTargetExistsText;
-    case FailureKind::PathNotUsable:
+    case base::FailureKind::PathNotUsable:
       return lang::kPathNotUsableText;
     default:
       break;
@@ -40,17 +40,17 @@ const char* TextKeyOf(FailureKind kind) {
 
 }  // namespace
 
-ReportRow FailedRenameRow(const Failure& failure, int number, std::string rowKey, const std::string& from,
+ReportRow FailedRenameRow(const base::Failure& failure, int number, std::string rowKey, const std::string& from,
                           const std::string& to) {
   ReportRow row;
   row.number = number;
   row.rowKey = std::move(rowKey);
   row.textKey = TextKeyOf(failure.kind);
-  row.arguments = {Quoted(from), Quoted(to)};
-  if (failure.kind == FailureKind::Other) row.systemText = failure.systemText;
+  row.arguments = {base::Quoted(from), base::Quoted(to)};
+  if (failure.kind == base::FailureKind::Other) row.systemText = failure.systemText;
   return row;
 }
 
 std::string ReportRow::Describe() const { return Names(*this) + ": " + Reason(*this); }
 
-}  // namespace nomra
+}  // namespace nomra::commit

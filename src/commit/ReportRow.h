@@ -4,7 +4,7 @@
 
 #include "commit/RenameFailure.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // One rename that did not happen. The front end looks the text up by its key
 // and fills "%1" (the old path) and "%2" (the new path), both already in
@@ -27,7 +27,7 @@ struct ReportRow {
 // The row of a rename from `from` to `to` that failed: the message chosen by
 // the failure's kind, both paths in double quotes, and the system's text of a
 // failure no number describes.
-ReportRow FailedRenameRow(const Failure& failure, int number, std::string rowKey, const std::string& from,
+ReportRow FailedRenameRow(const base::Failure& failure, int number, std::string rowKey, const std::string& from,
                           const std::string& to);
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -4,16 +4,16 @@
 #include "base/Paths.h"
 #include "commit/DiskRename.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 namespace {
 
 // Returns whether the rename failed.
-bool RenamePendingRow(CommitBatch& batch, FileEntry& row) {
-  const std::string folder = AddBackslash(row[kColPath]);
-  const std::string src = folder + row[kColOldName];
-  const std::string dst = folder + row[kColNewName];
-  std::optional<Failure> failure = RefuseName(row[kColNewName]);
+bool RenamePendingRow(CommitBatch& batch, core::FileEntry& row) {
+  const std::string folder = base::AddBackslash(row[core::kColPath]);
+  const std::string src = folder + row[core::kColOldName];
+  const std::string dst = folder + row[core::kColNewName];
+  std::optional<base::Failure> failure = RefuseName(row[core::kColNewName]);
   if (!failure) {
     // One row never goes through a temporary name; its journal lets a start
     // after a crash tell the user if the file is under neither name.
@@ -27,20 +27,20 @@ bool RenamePendingRow(CommitBatch& batch, FileEntry& row) {
   }
   batch.RecordRename(row);
   // RenameOnDisk refuses a name another row holds, so this can't fail.
-  if (!batch.context.List().ChangeKey(row, dst)) throw RuntimeFault("Two rows of the list came to hold " + dst);
-  row[kColOldName] = row[kColNewName];
+  if (!batch.context.List().ChangeKey(row, dst)) throw base::RuntimeFault("Two rows of the list came to hold " + dst);
+  row[core::kColOldName] = row[core::kColNewName];
   return false;
 }
 
 }  // namespace
 
 void CommitSingleRow(CommitBatch& batch, int position) {
-  FileEntry& row = batch.context.List().Item(position);
+  core::FileEntry& row = batch.context.List().Item(position);
   const bool failed = row.HasPendingChange() && RenamePendingRow(batch, row);
   if (failed) return;
-  for (int column = kColHistory0; column <= kColHistoryLast; ++column) {
-    if (!row[column].empty()) row[column] = row[kColNewName];
+  for (int column = core::kColHistory0; column <= core::kColHistoryLast; ++column) {
+    if (!row[column].empty()) row[column] = row[core::kColNewName];
   }
 }
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -1,7 +1,7 @@
 #pragma once
 #include "commit/CommitBatch.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // One row alone, without a plan and without a temporary name: its pending
 // name becomes the name on disk, or a report row says why not. The history
@@ -9,4 +9,4 @@ namespace nomra {
 // renamed.
 void CommitSingleRow(CommitBatch& batch, int position);
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -5,24 +5,24 @@
 #include "commit/RenameFiles.h"
 #include "lang/MessageKeys.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 namespace {
 
 bool UserAgrees(const CommitContext& context) {
   if (!context.options.securityQuestions[1]) return true;
-  return context.frontEnd.Ask({lang::kTakeChangesQuestion, lang::kPendingChangesCaption, MessageStyle::YesNo, {}}) == Answer::Yes;
+  return context.frontEnd.Ask({lang::kTakeChangesQuestion, lang::kPendingChangesCaption, core::MessageStyle::YesNo, {}}) == core::Answer::Yes;
 }
 
 }  // namespace
 
-std::optional<CommitResult> takeChanges(const CommitContext& context, Preview& preview, std::string_view tag,
+std::optional<CommitResult> takeChanges(const CommitContext& context, core::Preview& preview, std::string_view tag,
                                         const CommitServices& services) {
-  if (text::EqualsNoCase(tag, "TakeChanges2")) {
+  if (base::EqualsNoCase(tag, "TakeChanges2")) {
     if (services.showSelectAction) services.showSelectAction();
     return std::nullopt;
   }
-  if (!tag.empty() && !text::EqualsNoCase(tag, "TakeChanges1")) return std::nullopt;
+  if (!tag.empty() && !base::EqualsNoCase(tag, "TakeChanges1")) return std::nullopt;
   if (!UserAgrees(context)) return std::nullopt;
   CommitResult result = mdlRenameFiles(context, kWholeList, services.clock);
   ShowNotRenamed(context, result, services);
@@ -30,4 +30,4 @@ std::optional<CommitResult> takeChanges(const CommitContext& context, Preview& p
   return result;
 }
 
-}  // namespace nomra
+}  // namespace nomra::commit

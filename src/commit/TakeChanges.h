@@ -7,7 +7,7 @@
 #include "commit/CommitContext.h"
 #include "core/Preview.h"
 
-namespace nomra {
+namespace nomra::commit {
 
 // The take-changes button and menu entry, by the button's Tag. "TakeChanges1"
 // (or no tag) takes every pending change to disk, after asking when the
@@ -15,7 +15,7 @@ namespace nomra {
 // "TakeChanges2" hands over to frmSelAction, whose OK copies or moves and
 // renames; any other tag does nothing. Nothing comes back when no commit of
 // the whole list ran here.
-std::optional<CommitResult> takeChanges(const CommitContext& context, Preview& preview, std::string_view tag,
+std::optional<CommitResult> takeChanges(const CommitContext& context, core::Preview& preview, std::string_view tag,
                                         const CommitServices& services = {});
 
-}  // namespace nomra
+}  // namespace nomra::commit

@@ -10,7 +10,7 @@
 #include "base/Paths.h"
 #include "base/NumberText.h"
 
-namespace nomra {
+namespace nomra::core {
 
 namespace {
 
@@ -19,20 +19,20 @@ constexpr long kPumpInterval = 100;
 bool IsJpegName(const std::string& name) {
   const std::size_t dot = name.rfind('.');
   if (dot == std::string::npos) return false;
-  const std::string extension = text::ToLower(name.substr(dot));
+  const std::string extension = base::ToLower(name.substr(dot));
   return extension == ".jpg" || extension == ".jpeg";
 }
 
 void FillRow(const ListState& state, FileEntry& row, const platform::FileStatus& status) {
-  const std::size_t slash = row.key.rfind(kPathSeparator);
+  const std::size_t slash = row.key.rfind(base::kPathSeparator);
   row[kColPath] = row.key.substr(0, slash + 1);
   row[kColOldName] = row.key.substr(slash + 1);
   row[kColNewName] = row[kColOldName];
-  row[kColSize] = text::FormatGrouped(status.size);
-  row.sizeTag = text::FormatPadded(status.size, 12);
+  row[kColSize] = base::FormatGrouped(status.size);
+  row.sizeTag = base::FormatPadded(status.size, 12);
   // A file whose dates can't be read keeps the 1980 text.
-  row[kColCreated] = status.created ? text::FormatListDate(*status.created) : text::kDefaultListDate;
-  row[kColModified] = status.modified ? text::FormatListDate(*status.modified) : text::kDefaultListDate;
+  row[kColCreated] = status.created ? base::FormatListDate(*status.created) : base::kDefaultListDate;
+  row[kColModified] = status.modified ? base::FormatListDate(*status.modified) : base::kDefaultListDate;
   // A row added late gets as many history levels as the others have.
   for (int column = kColHistory0; column <= kColHistory0 + state.undoLevels && column <= kColHistoryLast; ++column) {
     row[column] = row[kColOldName];
@@ -53,7 +53,7 @@ void AddFile(ListLoad& load, std::string& path) {
   if (status.kind != platform::EntryKind::File) {
     if (load.options.checkExistence) return;
     const int error = status.error != 0 ? status.error : ENOENT;
-    throw RuntimeFault("Cannot add \"" + path + "\": " + SystemErrorText(error));
+    throw base::RuntimeFault("Cannot add \"" + path + "\": " + base::SystemErrorText(error));
   }
   path = load.fileSystem.AbsolutePath(path);
 
@@ -70,14 +70,14 @@ void AddFile(ListLoad& load, std::string& path) {
 }
 
 void AddFolder(ListLoad& load, const std::string& folder) {
-  const std::string base = AddBackslash(folder);
+  const std::string base = base::AddBackslash(folder);
   std::vector<std::string> subfolders;
   load.fileSystem.ListFolder(base, [&](std::string_view name, platform::EntryKind kind) {
     if (kind == platform::EntryKind::File) {
       std::string path = base + std::string(name);
       try {
         AddFile(load, path);
-      } catch (const RuntimeFault&) {
+      } catch (const base::RuntimeFault&) {
         // A file that went away during the walk is passed over.
       }
     } else if (kind == platform::EntryKind::Folder) {
@@ -87,4 +87,4 @@ void AddFolder(ListLoad& load, const std::string& folder) {
   for (const std::string& subfolder : subfolders) AddFolder(load, subfolder);
 }
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -9,7 +9,7 @@
 #include "core/StatusTexts.h"
 #include "platform/FileSystem.h"
 
-namespace nomra {
+namespace nomra::core {
 
 // What loading files into the list works with.
 struct ListLoad {
@@ -37,4 +37,4 @@ void AddFile(ListLoad& load, std::string& path);
 // no stop: a dropped folder always comes whole.
 void AddFolder(ListLoad& load, const std::string& folder);
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -1,7 +1,7 @@
 #pragma once
 #include "core/FrontEnd.h"
 
-namespace nomra {
+namespace nomra::core {
 
 // The wait pointer for as long as long work runs; it comes back however the
 // work ends, a fault included, so the pointer never stays an hourglass.
@@ -16,4 +16,4 @@ class BusyPointer {
   FrontEnd& frontEnd_;
 };
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -3,7 +3,7 @@
 #include "base/CaseMap.h"
 #include "base/Utf8.h"
 
-namespace nomra {
+namespace nomra::core {
 
 namespace {
 
@@ -18,17 +18,17 @@ std::string_view Trimmed(std::string_view s) {
 
 CharacterSets BuildCharacterSets(std::string_view letters) {
   CharacterSets sets;
-  sets.letterSetLower = Trimmed(letters).empty() ? std::string(kDefaultLetters) : text::ToLower(letters);
+  sets.letterSetLower = Trimmed(letters).empty() ? std::string(kDefaultLetters) : base::ToLower(letters);
   std::u32string firstLetters;
-  text::ForEachChar(sets.letterSetLower, [&](char32_t c, std::size_t, std::size_t) {
-    const char32_t upper = text::ToUpperChar(c);
-    if (upper != c) text::AppendChar(sets.letterSetUpper, upper);
+  base::ForEachChar(sets.letterSetLower, [&](char32_t c, std::size_t, std::size_t) {
+    const char32_t upper = base::ToUpperChar(c);
+    if (upper != c) base::AppendChar(sets.letterSetUpper, upper);
     if (firstLetters.size() < 26) firstLetters.push_back(c);
   });
-  const std::string first26 = text::FromChars(firstLetters);
-  sets.upperWithDash = "-" + text::ToUpper(first26);
-  sets.lowerWithDash = "-" + text::ToLower(first26);
+  const std::string first26 = base::FromChars(firstLetters);
+  sets.upperWithDash = "-" + base::ToUpper(first26);
+  sets.lowerWithDash = "-" + base::ToLower(first26);
   return sets;
 }
 
-}  // namespace nomra
+}  // namespace nomra::core

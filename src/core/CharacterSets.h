@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-namespace nomra {
+namespace nomra::core {
 
 // The letters the case actions know, built at start from the setting
 // "letters" of section "Settings".
@@ -23,4 +23,4 @@ inline constexpr std::string_view kDefaultLetters = "abcdefghijklmnopqrstuvwxyz√
 // one of its own ("√ü" has none and stays out).
 CharacterSets BuildCharacterSets(std::string_view letters);
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -2,7 +2,7 @@
 #include <optional>
 #include <string>
 
-namespace nomra {
+namespace nomra::core {
 
 // Reads the date a camera stored in a JPEG file's Exif data, in the list's
 // date form. The loader asks it for every ".jpg" and ".jpeg" file when
@@ -19,4 +19,4 @@ class NoExifDates final : public ExifDateReader {
   std::optional<std::string> ReadExifDate(const std::string&) override { return std::nullopt; }
 };
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -2,7 +2,7 @@
 #include <array>
 #include <string>
 
-namespace nomra {
+namespace nomra::core {
 
 // Column numbers of a row. Every value of a row is text.
 enum Column : int {
@@ -67,4 +67,4 @@ struct FileEntry {
   std::string foldedKey_;  // lower-cased key, only where the volume ignores case
 };
 
-}  // namespace nomra
+}  // namespace nomra::core

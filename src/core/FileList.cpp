@@ -6,13 +6,13 @@
 #include "base/Fault.h"
 #include "base/Paths.h"
 
-namespace nomra {
+namespace nomra::core {
 
 FileList::FileList(platform::FileSystem& caseRules) : caseRules_(caseRules) {}
 
 FileEntry& FileList::Item(int position) {
   if (position < 1 || position > Count()) {
-    throw RuntimeFault("There is no row " + std::to_string(position) + " in a list of " +
+    throw base::RuntimeFault("There is no row " + std::to_string(position) + " in a list of " +
                        std::to_string(Count()) + " rows");
   }
   return *rows_[static_cast<std::size_t>(position - 1)];
@@ -24,8 +24,8 @@ const FileEntry& FileList::Item(int position) const {
 
 std::string_view FileList::IndexKeyOf(FileEntry& entry) {
   entry.foldedKey_.clear();
-  if (caseRules_.IsCaseInsensitiveFolder(FolderOf(entry.key))) {
-    entry.foldedKey_ = text::ToLower(entry.key);
+  if (caseRules_.IsCaseInsensitiveFolder(base::FolderOf(entry.key))) {
+    entry.foldedKey_ = base::ToLower(entry.key);
     return entry.foldedKey_;
   }
   return entry.key;
@@ -35,8 +35,8 @@ FileEntry* FileList::Find(std::string_view key) {
   std::string probe(key);
   auto found = byKey_.find(probe);
   if (found != byKey_.end()) return found->second;
-  if (caseRules_.IsCaseInsensitiveFolder(FolderOf(probe))) {
-    found = byKey_.find(text::ToLower(probe));
+  if (caseRules_.IsCaseInsensitiveFolder(base::FolderOf(probe))) {
+    found = byKey_.find(base::ToLower(probe));
     if (found != byKey_.end()) return found->second;
   }
   return nullptr;
@@ -107,7 +107,7 @@ void FileList::Reorder(const std::vector<int>& order) {
     permutation = order[i] >= 0 && index < rows_.size() && !named[index];
     if (permutation) named[index] = true;
   }
-  if (!permutation) throw RuntimeFault("A new row order must name every row once");
+  if (!permutation) throw base::RuntimeFault("A new row order must name every row once");
   std::vector<std::unique_ptr<FileEntry>> next;
   next.reserve(rows_.size());
   for (int index : order) next.push_back(std::move(rows_[static_cast<std::size_t>(index)]));
@@ -119,4 +119,4 @@ void FileList::Renumber(std::size_t from) {
   for (std::size_t i = from; i < rows_.size(); ++i) rows_[i]->position = static_cast<int>(i + 1);
 }
 
-}  // namespace nomra
+}  // namespace nomra::core

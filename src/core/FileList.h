@@ -9,7 +9,7 @@
 #include "core/FileEntry.h"
 #include "platform/FileSystem.h"
 
-namespace nomra {
+namespace nomra::core {
 
 // The one document: ordered rows, addressed by 1-based position or by key.
 // Keys are unique by the case rule of the volume that holds them: exact on
@@ -89,4 +89,4 @@ class FileList {
   std::unordered_map<std::string_view, FileEntry*> byKey_;
 };
 
-}  // namespace nomra
+}  // namespace nomra::core

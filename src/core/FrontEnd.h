@@ -2,7 +2,7 @@
 #include <string>
 #include <vector>
 
-namespace nomra {
+namespace nomra::core {
 
 // Message box styles by their numbers, used throughout the program.
 enum class MessageStyle : int {
@@ -47,4 +47,4 @@ class FrontEnd {
   virtual void SetBusy(bool busy) = 0;
 };
 
-}  // namespace nomra
+}  // namespace nomra::core

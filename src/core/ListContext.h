@@ -3,7 +3,7 @@
 #include "core/ListState.h"
 #include "core/Preview.h"
 
-namespace nomra {
+namespace nomra::core {
 
 // What every command on the list works with: the list's state, the user it
 // asks and tells, and the preview that follows each change. Services beyond
@@ -17,4 +17,4 @@ struct ListContext {
   FileList& List() const { return state.list; }
 };
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -2,7 +2,7 @@
 #include <array>
 #include <string>
 
-namespace nomra {
+namespace nomra::core {
 
 // What the user chose in the settings that the list's commands follow,
 // read once at start.
@@ -18,4 +18,4 @@ struct ListOptions {
   std::string dataFolder;
 };
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -1,6 +1,6 @@
 #include "core/ListState.h"
 
-namespace nomra {
+namespace nomra::core {
 
 bool InScope(int applyScope, const FileEntry& row) {
   switch (applyScope) {
@@ -17,4 +17,4 @@ bool InScope(int applyScope, const FileEntry& row) {
 
 bool InScope(const ListState& state, int position) { return InScope(state.applyScope, state.list.Item(position)); }
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -1,7 +1,7 @@
 #pragma once
 #include "core/FileList.h"
 
-namespace nomra {
+namespace nomra::core {
 
 // Which rows the actions change.
 enum ApplyScope : int {
@@ -36,4 +36,4 @@ struct ListState {
 bool InScope(int applyScope, const FileEntry& row);
 bool InScope(const ListState& state, int position);
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -3,11 +3,11 @@
 #include "base/FileNames.h"
 #include "base/Trim.h"
 
-namespace nomra {
+namespace nomra::core {
 
 namespace {
 
-bool OnlyBlanks(const std::string& text) { return TrimSpaces(text).empty(); }
+bool OnlyBlanks(const std::string& text) { return base::TrimSpaces(text).empty(); }
 
 }  // namespace
 
@@ -19,8 +19,8 @@ bool ApplyManualEdit(const ListContext& context, int position, const std::string
 }
 
 void ApplyLabelEdit(const ListContext& context, int position, const std::string& edited) {
-  context.List().Item(position)[kColNewName] = CleanFileName(edited);
+  context.List().Item(position)[kColNewName] = base::CleanFileName(edited);
   context.preview.Refresh();
 }
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -3,7 +3,7 @@
 
 #include "core/ListContext.h"
 
-namespace nomra {
+namespace nomra::core {
 
 // The typed name of the manual edit becomes the row's pending name as typed,
 // unless it holds nothing but blanks. Returns whether it was taken.
@@ -13,4 +13,4 @@ bool ApplyManualEdit(const ListContext& context, int position, const std::string
 // becomes the pending name.
 void ApplyLabelEdit(const ListContext& context, int position, const std::string& edited);
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -5,7 +5,7 @@
 #include "core/BusyPointer.h"
 #include "lang/MessageKeys.h"
 
-namespace nomra {
+namespace nomra::core {
 
 bool mnuUndo(const ListContext& context, bool askFirst) {
   if (askFirst && context.frontEnd.Ask({lang::kUndoQuestion, "", MessageStyle::YesNo, {}}) != Answer::Yes) {
@@ -34,4 +34,4 @@ bool mnuRejectChanges(const ListContext& context, bool askFirst) {
   return true;
 }
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -2,7 +2,7 @@
 
 #include "core/ListContext.h"
 
-namespace nomra {
+namespace nomra::core {
 
 // One step back in the pending names of every row, whatever the scope.
 // Asks first with `askFirst` (the first security question). Returns whether
@@ -13,4 +13,4 @@ bool mnuUndo(const ListContext& context, bool askFirst);
 // Asks first with `askFirst` (the third security question).
 bool mnuRejectChanges(const ListContext& context, bool askFirst);
 
-}  // namespace nomra
+}  // namespace nomra::core

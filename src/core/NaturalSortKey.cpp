@@ -1,6 +1,6 @@
 #include "core/NaturalSortKey.h"
 
-namespace nomra {
+namespace nomra::core {
 
 namespace {
 
@@ -36,4 +36,4 @@ void AssignNaturalSortKey(std::string& out, std::string_view text) {
   }
 }
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -5,7 +5,7 @@
 #include "core/BusyPointer.h"
 #include "core/RefreshList.h"
 
-namespace nomra {
+namespace nomra::core {
 
 void PlainPreview::Refresh() {
   {
@@ -17,4 +17,4 @@ void PlainPreview::Refresh() {
   frontEnd_.SetStatusText(ListSummaryText(texts_, state_));
 }
 
-}  // namespace nomra
+}  // namespace nomra::core

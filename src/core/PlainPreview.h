@@ -4,7 +4,7 @@
 #include "core/Preview.h"
 #include "core/StatusTexts.h"
 
-namespace nomra {
+namespace nomra::core {
 
 // The preview without a window, as the command line keeps it: the list's
 // state is refreshed and the status text told.
@@ -20,4 +20,4 @@ class PlainPreview final : public Preview {
   const StatusTexts& texts_;
 };
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace nomra {
+namespace nomra::core {
 
 // The preview: the list as the user sees it, old and new names side by
 // side. Every command that changes the list ends by refreshing it, so that
@@ -12,4 +12,4 @@ class Preview {
   virtual void Refresh() = 0;
 };
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -2,7 +2,7 @@
 #include <cstdint>
 #include <string>
 
-namespace nomra {
+namespace nomra::core {
 
 // Where a long task stands.
 struct ProgressStep {
@@ -37,4 +37,4 @@ class NoProgress final : public Progress {
   bool Tick(const ProgressStep&) override { return true; }
 };
 
-}  // namespace nomra
+}  // namespace nomra::core

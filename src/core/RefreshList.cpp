@@ -7,7 +7,7 @@
 #include "base/MessageText.h"
 #include "core/SortFileList.h"
 
-namespace nomra {
+namespace nomra::core {
 
 namespace {
 
@@ -90,8 +90,8 @@ void RefreshList(ListState& state) {
 }
 
 std::string ListSummaryText(const StatusTexts& texts, const ListState& state) {
-  return FormatMessage(texts.listSummary, {std::to_string(state.list.Count()), std::to_string(state.folderCount),
+  return base::FormatMessage(texts.listSummary, {std::to_string(state.list.Count()), std::to_string(state.folderCount),
                                            std::to_string(state.changedCount)});
 }
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -4,7 +4,7 @@
 #include "core/ListState.h"
 #include "core/StatusTexts.h"
 
-namespace nomra {
+namespace nomra::core {
 
 // Brings the list's state back in line with its rows after any change:
 // colours, counts, the history of pending names, the folder count, the
@@ -15,4 +15,4 @@ void RefreshList(ListState& state);
 // The status text after a refresh: rows, folders and changed rows.
 std::string ListSummaryText(const StatusTexts& texts, const ListState& state);
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -6,7 +6,7 @@
 #include "base/Fault.h"
 #include "lang/MessageKeys.h"
 
-namespace nomra {
+namespace nomra::core {
 
 namespace {
 
@@ -19,7 +19,7 @@ class Removal {
   Removal(const ListContext& context, RowCommitter* committer) : context_(context), committer_(committer) {}
 
   RowCommitter& Committer() const {
-    if (committer_ == nullptr) throw RuntimeFault("Pending changes can't be taken here; the rows stay in the list");
+    if (committer_ == nullptr) throw base::RuntimeFault("Pending changes can't be taken here; the rows stay in the list");
     return *committer_;
   }
 
@@ -76,7 +76,7 @@ class Removal {
   }
 
   bool RemoveByTag(std::string_view variant) const {
-    const std::string tag = text::ToUpper(variant);
+    const std::string tag = base::ToUpper(variant);
     bool done = false;
     if (tag.empty() || tag == "DELLIST1") {
       done = RemoveAll();
@@ -106,7 +106,7 @@ class Removal {
 bool deleteFromList(const ListContext& context, RowCommitter* committer, std::string_view variant) {
   try {
     return Removal(context, committer).RemoveByTag(variant);
-  } catch (const RuntimeFault&) {
+  } catch (const base::RuntimeFault&) {
     // What was removed before the fault stays removed; the view must show it.
     context.preview.Refresh();
     throw;
@@ -126,4 +126,4 @@ bool btnBarLeftDel1File(const ListContext& context, RowCommitter* committer, int
   return true;
 }
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -4,7 +4,7 @@
 #include "core/ListContext.h"
 #include "core/RowCommitter.h"
 
-namespace nomra {
+namespace nomra::core {
 
 // Removes the rows named by the variant of the removal button (its Tag):
 // "" or "DelList1" all, "DelList2" the selected, "DelList3" the unselected,
@@ -17,4 +17,4 @@ bool deleteFromList(const ListContext& context, RowCommitter* committer, std::st
 // Removes one row; a pending change is asked about first.
 bool btnBarLeftDel1File(const ListContext& context, RowCommitter* committer, int position);
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace nomra {
+namespace nomra::core {
 
 // Turns pending names into renames on disk. The list's removal commands hand
 // rows to it when the user wants their changes kept.
@@ -13,4 +13,4 @@ class RowCommitter {
   virtual void CommitRow(int position) = 0;
 };
 
-}  // namespace nomra
+}  // namespace nomra::core

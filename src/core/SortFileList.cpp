@@ -9,7 +9,7 @@
 #include "core/BusyPointer.h"
 #include "core/NaturalSortKey.h"
 
-namespace nomra {
+namespace nomra::core {
 
 namespace {
 
@@ -53,7 +53,7 @@ class SortKeys {
         row[kColSortKey] = row.sizeTag;
         text = &row[kColSortKey];
       }
-      text::AppendLowerCase(buffer_, *text);
+      base::AppendLowerCase(buffer_, *text);
       ends.push_back(buffer_.size());
       rows_.push_back(&row);
     });
@@ -85,7 +85,7 @@ void SortRows(FileList& list, const SortPlan& plan, int tieColumn) {
   for (std::size_t i = 0; i < order.size(); ++i) order[i] = static_cast<int>(i);
   const auto before = [&](int a, int b) {
     int cmp = keys.Text(a).compare(keys.Text(b));
-    if (cmp == 0 && tieColumn >= 0) cmp = text::CompareNoCase(keys.Row(a)[tieColumn], keys.Row(b)[tieColumn]);
+    if (cmp == 0 && tieColumn >= 0) cmp = base::CompareNoCase(keys.Row(a)[tieColumn], keys.Row(b)[tieColumn]);
     return descending ? cmp > 0 : cmp < 0;
   };
   // A refresh mostly finds the rows in order already; one look settles it.
@@ -142,4 +142,4 @@ int CheckedSortMenuEntry(const FileList& list) {
   return 2 * (head - 1) - 1 + list.sortOrder;
 }
 
-}  // namespace nomra
+}  // namespace nomra::core

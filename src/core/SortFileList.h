@@ -3,7 +3,7 @@
 #include "core/FileList.h"
 #include "core/FrontEnd.h"
 
-namespace nomra {
+namespace nomra::core {
 
 // Sorts by the column of head n (column n - 1): heads 2 to 7 by the natural
 // sort text of their column, head 8 by the size's padded tag, head 21 by the
@@ -33,4 +33,4 @@ void SortRowsByColumn(FileList& list, int column);
 // and that is how it runs.
 void SortInFolderOrderThenByHead(FileList& list, int columnHead);
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -1,7 +1,7 @@
 #pragma once
 #include <string>
 
-namespace nomra {
+namespace nomra::core {
 
 // The texts of the status panel and the selected-script label, from the
 // language file's Messages section (the keys are in lang/MessageKeys.h).
@@ -13,4 +13,4 @@ struct StatusTexts {
   std::string rowOfCount;   // "%1 of %2": the row an action is at
 };
 
-}  // namespace nomra
+}  // namespace nomra::core

@@ -33,7 +33,7 @@ std::string JoinSelectedRows(const DialogInput& input) {
 std::string OpenScriptStep(std::string_view type, const formats::IniFile& file) {
   const long steps = file.ReadInt(kScriptMainSection, kStepsKey);
   if (steps < std::numeric_limits<std::int16_t>::min() || steps >= std::numeric_limits<std::int16_t>::max()) {
-    throw RuntimeFault("Overflow: a script holds at most 32767 steps");
+    throw base::RuntimeFault("Overflow: a script holds at most 32767 steps");
   }
   const std::string section = std::to_string(steps + 1);
   file.Write(section, kTypeKey, type);
@@ -51,7 +51,7 @@ std::optional<int> NumberOf(std::string_view value) {
 
 // Each part is announced, then selected; then every selected row is
 // announced. The message boxes are the program's own habit and stay.
-void RestoreMultiSelection(DialogInput& input, std::string_view value, FrontEnd& frontEnd) {
+void RestoreMultiSelection(DialogInput& input, std::string_view value, core::FrontEnd& frontEnd) {
   std::size_t start = 0;
   int part = 0;
   while (start <= value.size()) {
@@ -68,7 +68,7 @@ void RestoreMultiSelection(DialogInput& input, std::string_view value, FrontEnd&
   }
 }
 
-void RestoreInput(DialogModel& dialog, DialogInput& input, std::string_view value, FrontEnd& frontEnd) {
+void RestoreInput(DialogModel& dialog, DialogInput& input, std::string_view value, core::FrontEnd& frontEnd) {
   switch (input.kind) {
     case InputKind::Text:
       input.text = DecodeStoredText(value);
@@ -151,7 +151,7 @@ void StoreDialogState(const DialogModel& dialog, std::string_view name, int mode
 }
 
 void RestoreDialogState(DialogModel& dialog, std::string_view section, int mode, const ScriptSession& session,
-                        platform::FileSystem& fileSystem, FrontEnd& frontEnd) {
+                        platform::FileSystem& fileSystem, core::FrontEnd& frontEnd) {
   const formats::IniFile file(fileSystem, mode == kScriptMode ? session.runPath : session.settingsPath);
   for (DialogInput& input : dialog.Inputs()) {
     const std::string value = file.ReadString(section, input.Key());

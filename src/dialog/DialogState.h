@@ -36,6 +36,6 @@ void StoreDialogState(const DialogModel& dialog, std::string_view name, int mode
 // multi-selection list shows plain message boxes through `frontEnd`, as the
 // program always has.
 void RestoreDialogState(DialogModel& dialog, std::string_view section, int mode, const ScriptSession& session,
-                        platform::FileSystem& fileSystem, FrontEnd& frontEnd);
+                        platform::FileSystem& fileSystem, core::FrontEnd& frontEnd);
 
 }  // namespace nomra::dialog

@@ -2,7 +2,7 @@
 #include <cstdint>
 #include <string>
 
-namespace nomra {
+namespace nomra::dialog {
 
 // What the dialogs share about remembering inputs and about scripts: the
 // files the dialog state goes to and the state of recording and playback.
@@ -18,4 +18,4 @@ struct ScriptSession {
   std::int16_t runMode = 0;   // 0 no playback, 1 run all steps, 2 single steps
 };
 
-}  // namespace nomra
+}  // namespace nomra::dialog

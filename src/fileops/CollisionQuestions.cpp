@@ -11,13 +11,13 @@ namespace {
 
 constexpr char kLineBreak[] = "\n";
 
-Message FileExistsQuestion(const Collision& collision) {
+core::Message FileExistsQuestion(const Collision& collision) {
   return {lang::kFileExists,
           lang::kReplaceCaption,
-          MessageStyle::YesNoCancelDefaultNo,
-          {NameOf(collision.target), FolderOf(collision.target), FolderOf(collision.source),
-           text::FormatGrouped(collision.targetInfo.size), text::FormatListDate(collision.targetInfo.modified.value_or(0)),
-           text::FormatGrouped(collision.sourceInfo.size), text::FormatListDate(collision.sourceInfo.modified.value_or(0)),
+          core::MessageStyle::YesNoCancelDefaultNo,
+          {base::NameOf(collision.target), base::FolderOf(collision.target), base::FolderOf(collision.source),
+           base::FormatGrouped(collision.targetInfo.size), base::FormatListDate(collision.targetInfo.modified.value_or(0)),
+           base::FormatGrouped(collision.sourceInfo.size), base::FormatListDate(collision.sourceInfo.modified.value_or(0)),
            kLineBreak}};
 }
 
@@ -28,19 +28,19 @@ CollisionChoice CollisionQuestions::Ask(const Collision& collision, bool moreFol
   if (forAll_ && (*forAll_ != CollisionChoice::Replace || replaceable)) return *forAll_;
   const CollisionChoice choice = AskOnce(collision, replaceable);
   if (choice == CollisionChoice::Stop || !moreFollow) return choice;
-  if (frontEnd_.Ask({lang::kSameForAll, lang::kReplaceCaption, MessageStyle::YesNo, {}}) == Answer::Yes) forAll_ = choice;
+  if (frontEnd_.Ask({lang::kSameForAll, lang::kReplaceCaption, core::MessageStyle::YesNo, {}}) == core::Answer::Yes) forAll_ = choice;
   return choice;
 }
 
 CollisionChoice CollisionQuestions::AskOnce(const Collision& collision, bool replaceable) {
   if (replaceable) {
-    const Answer answer = frontEnd_.Ask(FileExistsQuestion(collision));
-    if (answer == Answer::Yes) return CollisionChoice::Replace;
-    if (answer == Answer::Cancel) return CollisionChoice::Stop;
+    const core::Answer answer = frontEnd_.Ask(FileExistsQuestion(collision));
+    if (answer == core::Answer::Yes) return CollisionChoice::Replace;
+    if (answer == core::Answer::Cancel) return CollisionChoice::Stop;
   }
-  const Message keepBoth{lang::kKeepBoth, lang::kReplaceCaption, MessageStyle::YesNo,
-                         {NameOf(collision.keepBothTarget), kLineBreak}};
-  return frontEnd_.Ask(keepBoth) == Answer::Yes ? CollisionChoice::KeepBoth : CollisionChoice::Skip;
+  const core::Message keepBoth{lang::kKeepBoth, lang::kReplaceCaption, core::MessageStyle::YesNo,
+                         {base::NameOf(collision.keepBothTarget), kLineBreak}};
+  return frontEnd_.Ask(keepBoth) == core::Answer::Yes ? CollisionChoice::KeepBoth : CollisionChoice::Skip;
 }
 
 }  // namespace nomra::fileops

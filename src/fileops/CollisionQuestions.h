@@ -24,7 +24,7 @@ struct Collision {
 // only keeping both or skipping is offered then.
 class CollisionQuestions {
  public:
-  explicit CollisionQuestions(FrontEnd& frontEnd) : frontEnd_(frontEnd) {}
+  explicit CollisionQuestions(core::FrontEnd& frontEnd) : frontEnd_(frontEnd) {}
 
   // `moreFollow`: further taken names are known to come, so "for all" is asked.
   CollisionChoice Ask(const Collision& collision, bool moreFollow);
@@ -32,7 +32,7 @@ class CollisionQuestions {
  private:
   CollisionChoice AskOnce(const Collision& collision, bool replaceable);
 
-  FrontEnd& frontEnd_;
+  core::FrontEnd& frontEnd_;
   std::optional<CollisionChoice> forAll_;
 };
 

@@ -9,12 +9,12 @@ namespace {
 
 constexpr char kLineBreak[] = "\n";
 
-bool UserAgrees(const std::vector<std::string>& paths, bool toTrash, FrontEnd& frontEnd) {
+bool UserAgrees(const std::vector<std::string>& paths, bool toTrash, core::FrontEnd& frontEnd) {
   const bool one = paths.size() == 1;
   const char* key = toTrash ? (one ? lang::kTrashOne : lang::kTrashMany) : (one ? lang::kDeleteOne : lang::kDeleteMany);
   const std::string what = one ? paths.front() : std::to_string(paths.size());
-  const MessageStyle style = toTrash ? MessageStyle::YesNo : MessageStyle::YesNoWarningDefaultNo;
-  return frontEnd.Ask({key, lang::kDeleteCaption, style, {what}}) == Answer::Yes;
+  const core::MessageStyle style = toTrash ? core::MessageStyle::YesNo : core::MessageStyle::YesNoWarningDefaultNo;
+  return frontEnd.Ask({key, lang::kDeleteCaption, style, {what}}) == core::Answer::Yes;
 }
 
 enum class Step { Next, Stop };
@@ -28,7 +28,7 @@ Step DeleteAtOnce(const std::string& path, std::size_t left, DeleteOutcome& outc
   const int error = services.fileSystem.RemoveFile(path);
   if (error == 0) return Step::Next;
   Record(outcome, error);
-  services.frontEnd.Ask({lang::kDeleteFailed, lang::kAttentionCaption, MessageStyle::OkStop, {path, SystemErrorText(error)}});
+  services.frontEnd.Ask({lang::kDeleteFailed, lang::kAttentionCaption, core::MessageStyle::OkStop, {path, base::SystemErrorText(error)}});
   return AskGoOn(services.frontEnd, static_cast<int>(left)) ? Step::Next : Step::Stop;
 }
 
@@ -36,12 +36,12 @@ Step SendToTrash(const std::string& path, std::size_t left, DeleteOutcome& outco
   const int error = services.trash.MoveToTrash(path, services.clock());
   if (error == 0) return Step::Next;
   // Deleting for good instead is the user's choice, never ours.
-  const Message offer{lang::kTrashFailed, lang::kAttentionCaption, MessageStyle::YesNoCancelDefaultNo,
-                      {path, SystemErrorText(error), kLineBreak}};
+  const core::Message offer{lang::kTrashFailed, lang::kAttentionCaption, core::MessageStyle::YesNoCancelDefaultNo,
+                      {path, base::SystemErrorText(error), kLineBreak}};
   switch (services.frontEnd.Ask(offer)) {
-    case Answer::Yes:
+    case core::Answer::Yes:
       return DeleteAtOnce(path, left, outcome, services);
-    case Answer::Cancel:
+    case core::Answer::Cancel:
       Record(outcome, error);
       return Step::Stop;
     default:
@@ -59,7 +59,7 @@ DeleteOutcome DeleteFiles(const std::vector<std::string>& paths, bool toTrash, b
     outcome.aborted = true;
     return outcome;
   }
-  ProgressStep step;
+  core::ProgressStep step;
   step.task = ProgressTaskOf(toTrash ? OperationKind::Trash : OperationKind::Delete);
   step.count = static_cast<int>(paths.size());
   services.progress.Begin(step);

@@ -9,6 +9,6 @@ namespace nomra::fileops {
 // user's yes; then each row whose file is gone leaves the list, and the
 // list is refreshed. A cancelled or partly failed deletion leaves the rows
 // whose files are still there. False when expert mode is off.
-bool DeleteListFiles(const ListContext& context, bool expertMode, bool toTrash, OperationServices& services);
+bool DeleteListFiles(const core::ListContext& context, bool expertMode, bool toTrash, OperationServices& services);
 
 }  // namespace nomra::fileops

@@ -5,8 +5,8 @@
 namespace nomra::fileops {
 
 std::string NumberedName(std::string_view target, int number) {
-  const std::string folder = FolderOf(target);
-  const std::string name = NameOf(target);
+  const std::string folder = base::FolderOf(target);
+  const std::string name = base::NameOf(target);
   // A leading dot marks a hidden file, not an extension.
   std::size_t dot = name.rfind('.');
   if (dot == 0 || dot == std::string::npos) dot = name.size();

@@ -13,10 +13,10 @@ constexpr char kWorkFilePrefix[] = ".nomra-part-";
 constexpr int kMostWorkFiles = 1000;
 constexpr unsigned kFolderMode = 0777;  // the umask takes what the user withholds
 
-FileResult Failed(Failure failure) { return {false, false, std::move(failure)}; }
+FileResult Failed(base::Failure failure) { return {false, false, std::move(failure)}; }
 
 FileResult Failed(int error, const std::string& from, const std::string& to) {
-  Failure failure;
+  base::Failure failure;
   failure.systemError = error;
   failure.path = from;
   failure.target = to;
@@ -48,22 +48,22 @@ int Rename(platform::FileSystem& fileSystem, const std::string& from, const std:
 
 }  // namespace
 
-std::optional<Failure> EnsureFolder(platform::FileSystem& fileSystem, const std::string& folder) {
+std::optional<base::Failure> EnsureFolder(platform::FileSystem& fileSystem, const std::string& folder) {
   std::string path = folder;
   while (path.size() > 1 && path.back() == '/') path.pop_back();
   // A relative path's first folder is the working folder, which exists.
   if (path.empty()) return std::nullopt;
   const platform::FileStatus info = fileSystem.Inspect(path);
   if (info.kind == platform::EntryKind::Folder) return std::nullopt;
-  Failure failure;
+  base::Failure failure;
   failure.target = folder;
   if (info.kind != platform::EntryKind::Missing) {
-    failure.kind = FailureKind::NotAFolder;
+    failure.kind = base::FailureKind::NotAFolder;
     failure.systemError = ENOTDIR;
     failure.obstacle = path;
     return failure;
   }
-  if (auto above = EnsureFolder(fileSystem, FolderOf(path))) return above;
+  if (auto above = EnsureFolder(fileSystem, base::FolderOf(path))) return above;
   failure.systemError = fileSystem.MakeFolder(path, kFolderMode);
   if (failure.systemError == 0 || failure.systemError == EEXIST) return std::nullopt;
   return failure;
@@ -71,7 +71,7 @@ std::optional<Failure> EnsureFolder(platform::FileSystem& fileSystem, const std:
 
 FileResult PutFile(platform::FileSystem& fileSystem, const std::string& from, const std::string& to, const platform::FileStatus& source,
                    bool move, bool replace, const platform::CopyTick& tick) {
-  const std::string folder = FolderOf(to);
+  const std::string folder = base::FolderOf(to);
   if (auto failure = EnsureFolder(fileSystem, folder)) {
     failure->path = from;
     failure->target = to;
@@ -100,7 +100,7 @@ FileResult PutFile(platform::FileSystem& fileSystem, const std::string& from, co
   if (error == 0) return {true, false, std::nullopt};
   FileResult kept = Failed(error, from, to);
   kept.done = true;
-  kept.failure->kind = FailureKind::OriginalKept;
+  kept.failure->kind = base::FailureKind::OriginalKept;
   return kept;
 }
 

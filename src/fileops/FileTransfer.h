@@ -11,12 +11,12 @@ namespace nomra::fileops {
 struct FileResult {
   bool done = false;     // the file stands at its target
   bool stopped = false;  // the user stopped while its bytes were copied
-  std::optional<Failure> failure;
+  std::optional<base::Failure> failure;
 };
 
 // Makes every missing folder of a path, from the left. A file standing
 // where a folder should be fails with ENOTDIR and is named in the failure.
-std::optional<Failure> EnsureFolder(platform::FileSystem& fileSystem, const std::string& folder);
+std::optional<base::Failure> EnsureFolder(platform::FileSystem& fileSystem, const std::string& folder);
 
 // Puts one file at its target, copying or moving. The bytes go to a hidden
 // work file beside the target first, and take the target's name only when

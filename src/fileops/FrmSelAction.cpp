@@ -32,32 +32,32 @@ SelActionMode ModeOf(const std::string& tag) {
   throw std::invalid_argument("frmSelAction has no mode " + tag);
 }
 
-std::string SourceOf(const FileEntry& row) { return AddBackslash(row[kColPath]) + row[kColOldName]; }
+std::string SourceOf(const core::FileEntry& row) { return base::AddBackslash(row[core::kColPath]) + row[core::kColOldName]; }
 
 // Whether a picked row has a later row, picked or not, with the same name
 // in `column`. The copies of the two would land on one name.
 template <typename Picked>
-bool NamesCollide(const FileList& list, int column, Picked&& picked) {
+bool NamesCollide(const core::FileList& list, int column, Picked&& picked) {
   std::unordered_set<std::string> later;
   for (int position = list.Count(); position >= 1; --position) {
-    const FileEntry& row = list.Item(position);
+    const core::FileEntry& row = list.Item(position);
     if (picked(row) && later.contains(row[column])) return true;
     later.insert(row[column]);
   }
   return false;
 }
 
-void ShowNamesCollide(FrontEnd& frontEnd) {
-  frontEnd.Ask({lang::kCopiesCollideText, lang::kAttentionCaption, MessageStyle::OkStop, {}});
+void ShowNamesCollide(core::FrontEnd& frontEnd) {
+  frontEnd.Ask({lang::kCopiesCollideText, lang::kAttentionCaption, core::MessageStyle::OkStop, {}});
 }
 
 // The row stands for its file at its new place. A name given beside a file
 // already there is taken by the pending name too, where none was pending.
-void FollowFile(FileList& list, FileEntry& row, const std::string& placed) {
-  const std::string name = NameOf(placed);
-  if (row[kColNewName] == row[kColOldName]) row[kColNewName] = name;
-  row[kColPath] = FolderOf(placed);
-  row[kColOldName] = name;
+void FollowFile(core::FileList& list, core::FileEntry& row, const std::string& placed) {
+  const std::string name = base::NameOf(placed);
+  if (row[core::kColNewName] == row[core::kColOldName]) row[core::kColNewName] = name;
+  row[core::kColPath] = base::FolderOf(placed);
+  row[core::kColOldName] = name;
   list.ChangeKey(row, placed);  // a key held by another row stays with it
 }
 
@@ -73,7 +73,7 @@ FrmSelAction::FrmSelAction(std::string tag) : tag_(std::move(tag)), mode_(ModeOf
   for (const char* name : {"frameCopy", "lblTargetDir", "cmdOK", "cmdCancel"}) model_.AddNoValue(name);
 }
 
-void FrmSelAction::Activate(const ActionContext& context) {
+void FrmSelAction::Activate(const rename::ActionContext& context) {
   dialog::RestoreDialogState(model_, tag_, dialog::kSettingsMode, context.script, context.fileSystem, context.User());
   if (mode_ == SelActionMode::MoveFiles) model_.SetNumber(kUpdateList, 1);
   txtTargetPath_Change(context.fileSystem);
@@ -90,8 +90,8 @@ void FrmSelAction::cmdSelPath(const std::string& chosenFolder, platform::FileSys
   txtTargetPath_Change(fileSystem);
 }
 
-bool FrmSelAction::cmdOK(const ActionContext& context, RowCommitter* committer, OperationServices& services) {
-  BusyPointer busy(context.User());
+bool FrmSelAction::cmdOK(const rename::ActionContext& context, core::RowCommitter* committer, OperationServices& services) {
+  core::BusyPointer busy(context.User());
   const bool done = mode_ == SelActionMode::TakeChanges2 ? CopyForTakeChanges(context, committer, services)
                                                          : CopyOrMoveSelected(context, services);
   if (!done) return false;
@@ -100,20 +100,20 @@ bool FrmSelAction::cmdOK(const ActionContext& context, RowCommitter* committer, 
   return true;
 }
 
-bool FrmSelAction::CopyOrMoveSelected(const ActionContext& context, OperationServices& services) {
-  FileList& list = context.State().list;
-  if (NamesCollide(list, kColOldName, [](const FileEntry& row) { return row.selected; })) {
+bool FrmSelAction::CopyOrMoveSelected(const rename::ActionContext& context, OperationServices& services) {
+  core::FileList& list = context.State().list;
+  if (NamesCollide(list, core::kColOldName, [](const core::FileEntry& row) { return row.selected; })) {
     ShowNamesCollide(context.User());
     return false;
   }
-  const std::string target = AddBackslash(model_.Text(kTargetPath));
+  const std::string target = base::AddBackslash(model_.Text(kTargetPath));
   std::vector<std::string> sources;
   std::vector<std::string> targets;
-  std::vector<FileEntry*> rows;
-  list.ForEach([&](FileEntry& row) {
+  std::vector<core::FileEntry*> rows;
+  list.ForEach([&](core::FileEntry& row) {
     if (!row.selected) return;
     sources.push_back(SourceOf(row));
-    targets.push_back(target + row[kColOldName]);
+    targets.push_back(target + row[core::kColOldName]);
     rows.push_back(&row);
   });
   const std::uint32_t function = mode_ == SelActionMode::MoveFiles ? FO_MOVE : FO_COPY;
@@ -128,20 +128,20 @@ bool FrmSelAction::CopyOrMoveSelected(const ActionContext& context, OperationSer
   return true;
 }
 
-bool FrmSelAction::CopyForTakeChanges(const ActionContext& context, RowCommitter* committer,
+bool FrmSelAction::CopyForTakeChanges(const rename::ActionContext& context, core::RowCommitter* committer,
                                       OperationServices& services) {
-  FileList& list = context.State().list;
+  core::FileList& list = context.State().list;
   const bool renameOriginal = model_.IsSelected(kRenOriginal);
   const bool renameBoth = model_.IsSelected(kRenBoth);
-  const int copyName = renameOriginal ? kColOldName : kColNewName;
-  if (NamesCollide(list, copyName, [](const FileEntry&) { return true; })) {
+  const int copyName = renameOriginal ? core::kColOldName : core::kColNewName;
+  if (NamesCollide(list, copyName, [](const core::FileEntry&) { return true; })) {
     ShowNamesCollide(context.User());
     return false;
   }
-  const std::string target = AddBackslash(model_.Text(kTargetPath));
+  const std::string target = base::AddBackslash(model_.Text(kTargetPath));
   std::vector<std::string> sources;
   std::vector<std::string> targets;
-  list.ForEach([&](const FileEntry& row) {
+  list.ForEach([&](const core::FileEntry& row) {
     sources.push_back(SourceOf(row));
     targets.push_back(target + row[copyName]);
   });
@@ -150,20 +150,20 @@ bool FrmSelAction::CopyForTakeChanges(const ActionContext& context, RowCommitter
   // A copy the user stopped is taken like a finished one on purpose: the
   // rename and the list follow all the same, as they always have.
   if ((renameOriginal || renameBoth) && list.Count() > 0) {
-    if (committer == nullptr) throw RuntimeFault("The new names can't be taken here");
+    if (committer == nullptr) throw base::RuntimeFault("The new names can't be taken here");
     committer->CommitAll();
   }
-  list.ForEach([&](FileEntry& row) {
+  list.ForEach([&](core::FileEntry& row) {
     if (renameOriginal) {
       // The originals have their new names; a row that failed loses its pending name.
-      row[kColNewName] = row[kColOldName];
+      row[core::kColNewName] = row[core::kColOldName];
     } else {
       // The row now stands for the copy.
-      row[kColPath] = target;
-      row[kColOldName] = row[kColNewName];
+      row[core::kColPath] = target;
+      row[core::kColOldName] = row[core::kColNewName];
     }
-    list.ChangeKey(row, row[kColPath] + row[kColOldName]);
-    for (int column = kColHistory0; column <= kColHistoryLast; ++column) row[column].clear();
+    list.ChangeKey(row, row[core::kColPath] + row[core::kColOldName]);
+    for (int column = core::kColHistory0; column <= core::kColHistoryLast; ++column) row[column].clear();
   });
   return true;
 }

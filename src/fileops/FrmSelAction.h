@@ -46,7 +46,7 @@ class FrmSelAction {
 
   // When the dialog first becomes active: the remembered inputs of its
   // Tag, then the change handler of txtTargetPath.
-  void Activate(const ActionContext& context);
+  void Activate(const rename::ActionContext& context);
   // cmdOK is enabled only while txtTargetPath names an existing folder.
   void txtTargetPath_Change(platform::FileSystem& fileSystem);
   // The folder browser's answer; an empty answer (cancelled) changes nothing.
@@ -55,11 +55,11 @@ class FrmSelAction {
   // Copies or moves, updates the list and remembers the inputs; true when
   // the dialog closes. Two files whose copies would land on one name stop
   // it with a message, and the dialog stays open.
-  bool cmdOK(const ActionContext& context, RowCommitter* committer, OperationServices& services);
+  bool cmdOK(const rename::ActionContext& context, core::RowCommitter* committer, OperationServices& services);
 
  private:
-  bool CopyOrMoveSelected(const ActionContext& context, OperationServices& services);
-  bool CopyForTakeChanges(const ActionContext& context, RowCommitter* committer, OperationServices& services);
+  bool CopyOrMoveSelected(const rename::ActionContext& context, OperationServices& services);
+  bool CopyForTakeChanges(const rename::ActionContext& context, core::RowCommitter* committer, OperationServices& services);
 
   std::string tag_;
   SelActionMode mode_;

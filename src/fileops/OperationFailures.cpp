@@ -9,18 +9,18 @@ namespace nomra::fileops {
 
 namespace {
 
-Message Stop(const char* key, std::vector<std::string> arguments) {
-  return {key, lang::kAttentionCaption, MessageStyle::OkStop, std::move(arguments)};
+core::Message Stop(const char* key, std::vector<std::string> arguments) {
+  return {key, lang::kAttentionCaption, core::MessageStyle::OkStop, std::move(arguments)};
 }
 
-Message FailureMessage(OperationKind kind, const Failure& failure) {
-  const std::string targetFolder = FolderOf(failure.target);
+core::Message FailureMessage(OperationKind kind, const base::Failure& failure) {
+  const std::string targetFolder = base::FolderOf(failure.target);
   switch (failure.kind) {
-    case FailureKind::OriginalKept:
-      return Stop(lang::kOriginalKept, {failure.path, failure.target, SystemErrorText(failure.systemError)});
-    case FailureKind::SourceMissing:
+    case base::FailureKind::OriginalKept:
+      return Stop(lang::kOriginalKept, {failure.path, failure.target, base::SystemErrorText(failure.systemError)});
+    case base::FailureKind::SourceMissing:
       return Stop(lang::kSourceMissing, {failure.path});
-    case FailureKind::NotAFolder:
+    case base::FailureKind::NotAFolder:
       return Stop(lang::kNotAFolder, {failure.obstacle});
     default:
       break;
@@ -37,19 +37,19 @@ Message FailureMessage(OperationKind kind, const Failure& failure) {
       break;
   }
   const char* key = kind == OperationKind::Move ? lang::kMoveFailed : lang::kCopyFailed;
-  return Stop(key, {failure.path, failure.target, SystemErrorText(failure.systemError)});
+  return Stop(key, {failure.path, failure.target, base::SystemErrorText(failure.systemError)});
 }
 
 }  // namespace
 
-void ShowTransferFailure(FrontEnd& frontEnd, OperationKind kind, const Failure& failure) {
+void ShowTransferFailure(core::FrontEnd& frontEnd, OperationKind kind, const base::Failure& failure) {
   frontEnd.Ask(FailureMessage(kind, failure));
 }
 
-bool AskGoOn(FrontEnd& frontEnd, int filesLeft) {
+bool AskGoOn(core::FrontEnd& frontEnd, int filesLeft) {
   if (filesLeft <= 0) return true;
-  const Message question{lang::kGoOn, lang::kAttentionCaption, MessageStyle::YesNo, {std::to_string(filesLeft)}};
-  return frontEnd.Ask(question) == Answer::Yes;
+  const core::Message question{lang::kGoOn, lang::kAttentionCaption, core::MessageStyle::YesNo, {std::to_string(filesLeft)}};
+  return frontEnd.Ask(question) == core::Answer::Yes;
 }
 
 }  // namespace nomra::fileops

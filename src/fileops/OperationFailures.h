@@ -10,9 +10,9 @@ namespace nomra::fileops {
 // Tells the user, with a stop sign, what went wrong and that the original
 // is where it was: a full disk, a folder that refuses access, a file where
 // a folder should be, a source that has gone, or the system's text.
-void ShowTransferFailure(FrontEnd& frontEnd, OperationKind kind, const Failure& failure);
+void ShowTransferFailure(core::FrontEnd& frontEnd, OperationKind kind, const base::Failure& failure);
 
 // After a failure, with files still to come: whether to go on with them.
-bool AskGoOn(FrontEnd& frontEnd, int filesLeft);
+bool AskGoOn(core::FrontEnd& frontEnd, int filesLeft);
 
 }  // namespace nomra::fileops

@@ -13,9 +13,9 @@ namespace nomra::fileops {
 struct OperationServices {
   platform::FileSystem& fileSystem;
   platform::Trash& trash;
-  FrontEnd& frontEnd;
-  Progress& progress;
-  LocalClock clock = LocalTimeNow;
+  core::FrontEnd& frontEnd;
+  core::Progress& progress;
+  base::LocalClock clock = base::LocalTimeNow;
 };
 
 }  // namespace nomra::fileops

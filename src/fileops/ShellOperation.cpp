@@ -13,14 +13,14 @@ namespace nomra::fileops {
 
 namespace {
 
-bool HoldsWildcard(std::string_view path) { return NameOf(path).find_first_of("*?") != std::string::npos; }
+bool HoldsWildcard(std::string_view path) { return base::NameOf(path).find_first_of("*?") != std::string::npos; }
 
 void AddMatches(const std::string& pattern, platform::FileSystem& fileSystem, std::vector<std::string>& sources) {
-  const std::string folder = FolderOf(pattern);
-  const std::string name = NameOf(pattern);
+  const std::string folder = base::FolderOf(pattern);
+  const std::string name = base::NameOf(pattern);
   std::vector<std::string> matches;
   fileSystem.ListFolder(folder, [&](std::string_view entry, platform::EntryKind) {
-    if (text::MatchesWildcard(entry, name)) matches.push_back(folder + std::string(entry));
+    if (base::MatchesWildcard(entry, name)) matches.push_back(folder + std::string(entry));
   });
   std::sort(matches.begin(), matches.end());
   for (std::string& match : matches) {
@@ -94,7 +94,7 @@ std::vector<TransferPair> PairTargets(const std::vector<std::string>& sources, s
   const std::string& target = targetPaths.front();
   const bool intoFolder = sources.size() > 1 || fileSystem.Inspect(target).kind == platform::EntryKind::Folder;
   for (const std::string& source : sources) {
-    pairs.push_back({source, intoFolder ? AddBackslash(target) + NameOf(source) : target});
+    pairs.push_back({source, intoFolder ? base::AddBackslash(target) + base::NameOf(source) : target});
   }
   return pairs;
 }

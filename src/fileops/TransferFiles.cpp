@@ -27,7 +27,7 @@ class TransferRun {
   bool Handle(std::size_t index);
   // The name to put the file under, "" to skip it; false when stopped.
   bool ChooseTarget(std::size_t index, std::string& target, bool& replace);
-  bool Fail(std::size_t index, Failure failure);
+  bool Fail(std::size_t index, base::Failure failure);
   std::string KeepBothTarget(const std::string& target) {
     return KeepBothName(target, [this](const std::string& path) {
       return services_.fileSystem.Inspect(path).kind != platform::EntryKind::Missing;
@@ -42,7 +42,7 @@ class TransferRun {
   std::vector<platform::FileStatus> sources_;
   std::vector<bool> takenAtStart_;
   int collisionsLeft_ = 0;
-  ProgressStep step_;
+  core::ProgressStep step_;
   TransferOutcome outcome_;
 };
 
@@ -77,9 +77,9 @@ bool TransferRun::Handle(std::size_t index) {
   const TransferPair& pair = pairs_[index];
   const platform::FileStatus& source = sources_[index];
   if (source.kind != platform::EntryKind::File) {
-    Failure failure;
+    base::Failure failure;
     failure.systemError = source.kind == platform::EntryKind::Missing ? ENOENT : EISDIR;
-    if (source.kind == platform::EntryKind::Missing) failure.kind = FailureKind::SourceMissing;
+    if (source.kind == platform::EntryKind::Missing) failure.kind = base::FailureKind::SourceMissing;
     failure.path = pair.from;
     failure.target = pair.to;
     return Fail(index, std::move(failure));
@@ -139,7 +139,7 @@ bool TransferRun::ChooseTarget(std::size_t index, std::string& target, bool& rep
   return false;
 }
 
-bool TransferRun::Fail(std::size_t index, Failure failure) {
+bool TransferRun::Fail(std::size_t index, base::Failure failure) {
   if (outcome_.result == 0) outcome_.result = failure.systemError;
   ShowTransferFailure(services_.frontEnd, kind_, failure);
   return AskGoOn(services_.frontEnd, static_cast<int>(pairs_.size() - index - 1));

@@ -21,7 +21,7 @@ constexpr char kTemporaryEnding[] = ".tmp";
 std::vector<std::string> ReadLines(platform::FileSystem& fileSystem, const std::string& file) {
   const auto bytes = fileSystem.ReadFile(file);
   if (!bytes) return {};
-  return SplitLines(text::DecodeTextFile(*bytes));
+  return SplitLines(base::DecodeTextFile(*bytes));
 }
 
 bool EachLineHolds(const std::vector<std::string>& lines, std::string_view what) {
@@ -180,7 +180,7 @@ void LoadListFromFile(platform::FileSystem& fileSystem, const std::string& file,
   const std::vector<std::string> lines = ReadLines(fileSystem, file);
   for (std::size_t n = firstLineIsData ? 0 : 1; n < lines.size(); ++n) {
     std::vector<std::string> fields = SplitDelimitedLine(lines[n], separator);
-    if (TrimBlanks(fields.front()).empty()) continue;
+    if (base::TrimBlanks(fields.front()).empty()) continue;
     for (std::string& field : fields) field = WithLocaleDecimal(std::move(field));
     if (list.columns > 0) fields.resize(static_cast<std::size_t>(list.columns));
 

@@ -18,7 +18,7 @@ std::string_view FirstLineOf(std::string_view value) { return value.substr(0, va
 std::string IniFile::ReadString(std::string_view section, std::string_view key) const {
   const auto bytes = fileSystem_.ReadFile(path_);
   if (!bytes) return {};
-  auto value = FindValue(SplitLines(text::DecodeTextFile(*bytes)), section, key);
+  auto value = FindValue(SplitLines(base::DecodeTextFile(*bytes)), section, key);
   if (!value) return {};
   return CutToLongestValue(std::move(*value));
 }
@@ -27,7 +27,7 @@ long IniFile::ReadInt(std::string_view section, std::string_view key) const {
   const std::string value = ReadString(section, key);
   if (value.empty()) return -1;
   if (const auto number = ParseIniNumber(value)) return *number;
-  throw RuntimeFault("The setting \"" + std::string(key) + "\" in section [" + std::string(section) + "] of \"" +
+  throw base::RuntimeFault("The setting \"" + std::string(key) + "\" in section [" + std::string(section) + "] of \"" +
                      path_ + "\" is not a number: \"" + value + "\"");
 }
 
@@ -36,7 +36,7 @@ bool IniFile::Write(std::string_view section, std::string_view key, std::string_
   if (const auto bytes = fileSystem_.ReadFile(path_)) {
     // A Windows-1252 file comes back as UTF-8 as a whole, so it never mixes
     // two encodings.
-    lines = SplitLines(text::DecodeTextFile(*bytes));
+    lines = SplitLines(base::DecodeTextFile(*bytes));
   } else if (fileSystem_.Inspect(path_).kind != platform::EntryKind::Missing) {
     return false;  // there but unreadable: rewriting it would lose its content
   }

@@ -9,7 +9,7 @@ namespace nomra::formats {
 std::string CutToLongestValue(std::string value) {
   std::size_t count = 0;
   std::size_t cutAt = std::string::npos;
-  text::ForEachChar(value, [&](char32_t, std::size_t offset, std::size_t) {
+  base::ForEachChar(value, [&](char32_t, std::size_t offset, std::size_t) {
     if (count++ == kLongestIniValue && cutAt == std::string::npos) cutAt = offset;
   });
   if (cutAt != std::string::npos) value.resize(cutAt);
@@ -28,7 +28,7 @@ struct SectionRange {
 std::optional<SectionRange> FindSection(const std::vector<std::string>& lines, std::string_view section) {
   for (std::size_t i = 0; i < lines.size(); ++i) {
     const auto name = SectionNameOf(lines[i]);
-    if (!name || !text::EqualsNoCase(*name, section)) continue;
+    if (!name || !base::EqualsNoCase(*name, section)) continue;
     std::size_t end = i + 1;
     while (end < lines.size() && !SectionNameOf(lines[end])) ++end;
     return SectionRange{i, end};
@@ -70,19 +70,19 @@ std::string JoinLines(const std::vector<std::string>& lines) {
 }
 
 std::optional<std::string_view> SectionNameOf(std::string_view line) {
-  const std::string_view trimmed = TrimBlanks(line);
+  const std::string_view trimmed = base::TrimBlanks(line);
   if (trimmed.empty() || trimmed.front() != '[') return std::nullopt;
   std::string_view name = trimmed.substr(1);
   const std::size_t close = name.find(']');
   if (close != std::string_view::npos) name = name.substr(0, close);
-  return TrimBlanks(name);
+  return base::TrimBlanks(name);
 }
 
 std::optional<IniEntry> EntryOf(std::string_view line) {
   if (SectionNameOf(line)) return std::nullopt;
   const std::size_t equals = line.find('=');
   if (equals == std::string_view::npos) return std::nullopt;
-  return IniEntry{TrimBlanks(line.substr(0, equals)), TrimBlanks(line.substr(equals + 1))};
+  return IniEntry{base::TrimBlanks(line.substr(0, equals)), base::TrimBlanks(line.substr(equals + 1))};
 }
 
 std::optional<std::string> FindValue(const std::vector<std::string>& lines, std::string_view section,
@@ -91,7 +91,7 @@ std::optional<std::string> FindValue(const std::vector<std::string>& lines, std:
   if (!range) return std::nullopt;
   for (std::size_t i = range->header + 1; i < range->end; ++i) {
     const auto entry = EntryOf(lines[i]);
-    if (entry && text::EqualsNoCase(entry->key, key)) return std::string(entry->value);
+    if (entry && base::EqualsNoCase(entry->key, key)) return std::string(entry->value);
   }
   return std::nullopt;
 }
@@ -100,7 +100,7 @@ void SetValue(std::vector<std::string>& lines, std::string_view section, std::st
               std::string_view value) {
   const auto range = FindSection(lines, section);
   if (!range) {
-    if (!lines.empty() && !TrimBlanks(lines.back()).empty()) lines.emplace_back();
+    if (!lines.empty() && !base::TrimBlanks(lines.back()).empty()) lines.emplace_back();
     lines.push_back("[" + std::string(section) + "]");
     lines.push_back(MakeEntry(key, value));
     return;
@@ -108,11 +108,11 @@ void SetValue(std::vector<std::string>& lines, std::string_view section, std::st
   std::size_t lastFilled = range->header;
   for (std::size_t i = range->header + 1; i < range->end; ++i) {
     const auto entry = EntryOf(lines[i]);
-    if (entry && text::EqualsNoCase(entry->key, key)) {
+    if (entry && base::EqualsNoCase(entry->key, key)) {
       lines[i] = MakeEntry(entry->key, value);  // entry->key points into lines[i]; MakeEntry copies first
       return;
     }
-    if (!TrimBlanks(lines[i]).empty()) lastFilled = i;
+    if (!base::TrimBlanks(lines[i]).empty()) lastFilled = i;
   }
   lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(lastFilled + 1), MakeEntry(key, value));
 }

@@ -51,7 +51,7 @@ std::optional<long> ParseDecimal(std::string_view text) {
 }  // namespace
 
 std::optional<long> ParseIniNumber(std::string_view text) {
-  text = TrimBlanks(text);
+  text = base::TrimBlanks(text);
   if (text.size() >= 2 && text[0] == '&' && (text[1] == 'H' || text[1] == 'h')) {
     return ParseHex(text.substr(2));
   }

@@ -29,7 +29,7 @@ void SortHistory(HistoryList& list) {
   // Each row's text is lowered once, not at every comparison.
   std::vector<std::string> keys;
   keys.reserve(list.rows.size());
-  for (const HistoryRow& row : list.rows) keys.push_back(text::ToLower(row.ColumnText(list.sortColumn)));
+  for (const HistoryRow& row : list.rows) keys.push_back(base::ToLower(row.ColumnText(list.sortColumn)));
   std::vector<std::size_t> order(list.rows.size());
   std::iota(order.begin(), order.end(), std::size_t{0});
   std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {

@@ -33,12 +33,12 @@ std::string FormatHistoryDate(std::string_view stored) {
   std::u32string chars;
   for (std::size_t pos = 0; pos < stored.size() && chars.size() < kStoredTimeLength;) {
     char32_t c;
-    pos += text::DecodeAt(stored, pos, c);
+    pos += base::DecodeAt(stored, pos, c);
     chars.push_back(c);
   }
   const auto piece = [&chars](std::size_t first, std::size_t length) {
     if (first > chars.size()) return std::string();
-    return text::FromChars(std::u32string_view(chars).substr(first - 1, length));
+    return base::FromChars(std::u32string_view(chars).substr(first - 1, length));
   };
   return piece(1, 4) + "-" + piece(5, 2) + "-" + piece(7, 2) + ", " + piece(9, 2) + ":" + piece(11, 2) + ":" +
          piece(13, 2);

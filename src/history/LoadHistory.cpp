@@ -37,20 +37,20 @@ void ForEachLine(std::string_view content, F&& line) {
 }  // namespace
 
 std::string HistoryFilePath(const std::string& dataFolder) {
-  return dataFolder.empty() ? std::string() : AddBackslash(dataFolder) + settings::kProtocolFileName;
+  return dataFolder.empty() ? std::string() : base::AddBackslash(dataFolder) + settings::kProtocolFileName;
 }
 
 bool NamesExistingFile(const HistoryRow& row, platform::FileSystem& fileSystem) {
-  if (row.folder.empty() || row.folder.front() != kPathSeparator) return false;
-  if (RefuseName(row.newName)) return false;
-  return fileSystem.Status(AddBackslash(row.folder) + row.newName).kind == platform::EntryKind::File;
+  if (row.folder.empty() || row.folder.front() != base::kPathSeparator) return false;
+  if (commit::RefuseName(row.newName)) return false;
+  return fileSystem.Status(base::AddBackslash(row.folder) + row.newName).kind == platform::EntryKind::File;
 }
 
 std::optional<HistoryRow> ReadHistoryLine(std::string_view line, platform::FileSystem& fileSystem) {
-  if (text::IsValidUtf8(line)) return Painted(ParseHistoryRecord(line), fileSystem);
+  if (base::IsValidUtf8(line)) return Painted(ParseHistoryRecord(line), fileSystem);
   std::optional<HistoryRow> asBytes = Painted(ParseHistoryRecord(line), fileSystem);
   if (asBytes && asBytes->present) return asBytes;
-  return Painted(ParseHistoryRecord(text::DecodeCp1252(line)), fileSystem);
+  return Painted(ParseHistoryRecord(base::DecodeCp1252(line)), fileSystem);
 }
 
 void LoadHistory(HistoryList& list, const std::string& dataFolder, platform::FileSystem& fileSystem) {
@@ -60,8 +60,8 @@ void LoadHistory(HistoryList& list, const std::string& dataFolder, platform::Fil
   int error = 0;
   const std::optional<std::string> content = fileSystem.ReadFile(path, error);
   if (!content) {
-    const std::string reason = error != 0 ? SystemErrorText(error) : "not a readable file";
-    throw RuntimeFault("the rename history " + path + " could not be read: " + reason);
+    const std::string reason = error != 0 ? base::SystemErrorText(error) : "not a readable file";
+    throw base::RuntimeFault("the rename history " + path + " could not be read: " + reason);
   }
   std::string_view text = *content;
   if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());

@@ -12,34 +12,34 @@ namespace nomra::history {
 
 namespace {
 
-bool Confirmed(FrontEnd& frontEnd, const char* question) {
-  const Message message{question, lang::kAttentionCaption, MessageStyle::YesNoWarningDefaultNo, {kParagraphBreak}};
-  return frontEnd.Ask(message) == Answer::Yes;
+bool Confirmed(core::FrontEnd& frontEnd, const char* question) {
+  const core::Message message{question, lang::kAttentionCaption, core::MessageStyle::YesNoWarningDefaultNo, {kParagraphBreak}};
+  return frontEnd.Ask(message) == core::Answer::Yes;
 }
 
 // Renames the file back; nothing when that worked. An old name that no file
 // may have is refused before the disk is touched, so a damaged record can't
 // move a file into another folder.
-std::optional<Failure> RenameBack(platform::FileSystem& fileSystem, const HistoryRow& row, const std::string& from,
+std::optional<base::Failure> RenameBack(platform::FileSystem& fileSystem, const HistoryRow& row, const std::string& from,
                                   const std::string& to) {
-  if (std::optional<Failure> refused = RefuseName(row.oldName)) return refused;
+  if (std::optional<base::Failure> refused = commit::RefuseName(row.oldName)) return refused;
   const platform::RenameResult renamed = fileSystem.RenameNoReplace(from, to);
-  if (!renamed.ok) return FailureOfError(renamed.error);
-  if (!fileSystem.ConfirmRenamed(from, to)) return OtherFailure(kRenameDidNothingText);
+  if (!renamed.ok) return commit::FailureOfError(renamed.error);
+  if (!fileSystem.ConfirmRenamed(from, to)) return commit::OtherFailure(commit::kRenameDidNothingText);
   return std::nullopt;
 }
 
 // One row's rename back; a failure is shown at once. Answers whether it worked.
 bool UndoRow(const HistoryRow& row, const HistoryServices& services, UndoOutcome& outcome) {
-  const std::string folder = AddBackslash(row.folder);
+  const std::string folder = base::AddBackslash(row.folder);
   const std::string from = folder + row.newName;
   const std::string to = folder + row.oldName;
-  const std::optional<Failure> failure = RenameBack(services.fileSystem, row, from, to);
+  const std::optional<base::Failure> failure = RenameBack(services.fileSystem, row, from, to);
   if (!failure) {
     ++outcome.undone;
     return true;
   }
-  outcome.failures.push_back(FailedRenameRow(*failure, static_cast<int>(outcome.failures.size()) + 1, from, from, to));
+  outcome.failures.push_back(commit::FailedRenameRow(*failure, static_cast<int>(outcome.failures.size()) + 1, from, from, to));
   if (services.showFailure) {
     services.showFailure(outcome.failures.back());
   } else {
@@ -50,8 +50,8 @@ bool UndoRow(const HistoryRow& row, const HistoryServices& services, UndoOutcome
 
 }  // namespace
 
-Message FailureMessage(const ReportRow& failure) {
-  return Message{failure.textKey, "", MessageStyle::OkWarning, failure.arguments};
+core::Message FailureMessage(const commit::ReportRow& failure) {
+  return core::Message{failure.textKey, "", core::MessageStyle::OkWarning, failure.arguments};
 }
 
 UndoOutcome UndoRenamings(HistoryList& list, const HistoryServices& services) {

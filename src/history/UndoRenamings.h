@@ -17,22 +17,22 @@ inline constexpr char kParagraphBreak[] = "\n\n";
 // What the history's commands work with.
 struct HistoryServices {
   platform::FileSystem& fileSystem;
-  FrontEnd& frontEnd;
+  core::FrontEnd& frontEnd;
   std::string dataFolder;  // holds "renamed.nrp"; ends with the separator
   // Shows a rename that failed at once, before the next one is tried; "%1"
   // and "%2" of its text are the two paths in double quotes. Without it the
   // front end shows the message by its keys, without the system's text.
-  std::function<void(const ReportRow& failure)> showFailure;
+  std::function<void(const commit::ReportRow& failure)> showFailure;
 };
 
 struct UndoOutcome {
   bool confirmed = false;  // the question was answered Yes
   int undone = 0;
-  std::vector<ReportRow> failures;  // in the order they were shown
+  std::vector<commit::ReportRow> failures;  // in the order they were shown
 };
 
 // The message a failed undo shows when the front end is told it by its keys.
-Message FailureMessage(const ReportRow& failure);
+core::Message FailureMessage(const commit::ReportRow& failure);
 
 // UndoRenamings, the command of cmdUndoRenaming: after a Yes to MsgText18,
 // each selected black row, in the order shown, renames its file from the new

@@ -16,15 +16,15 @@ namespace {
 constexpr char kLineEnd[] = "\r\n";
 
 [[noreturn]] void Fail(const std::string& path, int error) {
-  throw RuntimeFault("the rename history " + path + " could not be written" +
-                     (error != 0 ? std::string(": ") + SystemErrorText(error) : std::string()));
+  throw base::RuntimeFault("the rename history " + path + " could not be written" +
+                     (error != 0 ? std::string(": ") + base::SystemErrorText(error) : std::string()));
 }
 
 }  // namespace
 
 void writeHistoryData(const HistoryList& list, const std::string& dataFolder, platform::FileSystem& fileSystem) {
   const std::string path = HistoryFilePath(dataFolder);
-  if (path.empty()) throw RuntimeFault("there is no data folder to keep the rename history in");
+  if (path.empty()) throw base::RuntimeFault("there is no data folder to keep the rename history in");
   std::string content;
   for (const HistoryRow& row : list.rows) content.append(HistoryRecordLine(row)).append(kLineEnd);
 
@@ -35,7 +35,7 @@ void writeHistoryData(const HistoryList& list, const std::string& dataFolder, pl
   }
   // Written afresh, not appended to: a "renamed.tmp" that a crash left
   // behind must not put its lines in front of these.
-  const std::string temporary = AddBackslash(dataFolder) + settings::kProtocolTempFileName;
+  const std::string temporary = base::AddBackslash(dataFolder) + settings::kProtocolTempFileName;
   if (const int error = formats::WriteThroughTemporary(fileSystem, path, temporary, content); error != 0) {
     Fail(path, error);
   }

@@ -13,7 +13,7 @@ bool HasLanguageEnding(std::string_view name) {
   const std::string_view ending = settings::kLanguageFileEnding;
   // A file named only ".lng" still matches "*.lng", as on Windows.
   return name.size() >= ending.size() &&
-         text::EqualsNoCase(name.substr(name.size() - ending.size()), ending);
+         base::EqualsNoCase(name.substr(name.size() - ending.size()), ending);
 }
 
 void Take(platform::FileSystem& fileSystem, LanguageChoice& choice, const std::string& path) {
@@ -28,7 +28,7 @@ std::vector<LanguageFile> ListLanguageFiles(platform::FileSystem& fileSystem, co
   std::vector<LanguageFile> files;
   fileSystem.ListFolder(appFolder, [&](std::string_view name, platform::EntryKind kind) {
     if (!HasLanguageEnding(name) || kind != platform::EntryKind::File) return;
-    const std::string path = AddBackslash(appFolder) + std::string(name);
+    const std::string path = base::AddBackslash(appFolder) + std::string(name);
     files.push_back(LanguageFile{path, MessageCatalog(fileSystem, path).LanguageName()});
   });
   return files;
@@ -49,7 +49,7 @@ LanguageChoice ChooseLanguage(const std::string& appFolder, const formats::IniFi
   // lacks a language name and would "equal" the empty text.
   if (!wanted.empty()) {
     for (const auto& candidate : choice.candidates) {
-      if (text::EqualsNoCase(candidate.languageName, wanted)) {
+      if (base::EqualsNoCase(candidate.languageName, wanted)) {
         Take(fileSystem, choice, candidate.path);
         return choice;
       }

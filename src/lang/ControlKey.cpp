@@ -25,7 +25,7 @@ TextKey KeyOfControl(ControlKind kind, std::string_view name, std::string_view t
     return TextKey{std::string(name), std::string(section)};
   }
   if (auto both = SplitKeyAndSection(tag)) return std::move(*both);
-  if (text::StartsWithNoCase(tag, kDialogPrefix)) return TextKey{std::string(name), std::string(tag)};
+  if (base::StartsWithNoCase(tag, kDialogPrefix)) return TextKey{std::string(name), std::string(tag)};
   return TextKey{std::string(tag), std::string(dialogSection)};
 }
 

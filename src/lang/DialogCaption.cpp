@@ -26,7 +26,7 @@ std::string MenuTitle(const CaptionSources& sources, std::string_view menu) {
 template <typename Table>
 const typename Table::value_type* FindDialog(const Table& table, std::string_view dialog) {
   for (const auto& row : table) {
-    if (text::EqualsNoCase(row.dialog, dialog)) return &row;
+    if (base::EqualsNoCase(row.dialog, dialog)) return &row;
   }
   return nullptr;
 }
@@ -54,7 +54,7 @@ std::string HistoryTitle(const std::string& own, const CaptionSources& sources) 
 void SetOnControlsNamed(LocalisableForm& form, std::string_view name,
                         const std::function<void(LocalisableControl&)>& set) {
   form.ForEachControl([&](LocalisableControl& control) {
-    if (text::EqualsNoCase(control.Name(), name)) set(control);
+    if (base::EqualsNoCase(control.Name(), name)) set(control);
   });
 }
 
@@ -82,15 +82,15 @@ void LocaliseDialogCaption(LocalisableForm& form, std::string_view section, cons
                            const CaptionSources& sources) {
   const std::string own = catalog.GetText(section, kCaptionKey);
   std::string title;
-  if (text::EqualsNoCase(section, kHistoryDialog)) {
+  if (base::EqualsNoCase(section, kHistoryDialog)) {
     if (!own.empty()) title = HistoryTitle(own, sources);
   } else {
     title = own.empty() ? BorrowedTitle(section, catalog, sources) : own;
   }
   if (!title.empty()) form.SetCaption(title);
 
-  if (text::EqualsNoCase(section, kNotRenamedDialog)) LocaliseNotRenamed(form, catalog);
-  if (text::EqualsNoCase(section, kID3DataDialog)) LocaliseID3Data(form, catalog);
+  if (base::EqualsNoCase(section, kNotRenamedDialog)) LocaliseNotRenamed(form, catalog);
+  if (base::EqualsNoCase(section, kID3DataDialog)) LocaliseID3Data(form, catalog);
 }
 
 }  // namespace nomra::lang

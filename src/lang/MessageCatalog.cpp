@@ -14,7 +14,7 @@ namespace nomra::lang {
 MessageCatalog::MessageCatalog(platform::FileSystem& fileSystem, const std::string& languageFile)
     : path_(languageFile) {
   if (const auto bytes = fileSystem.ReadFile(languageFile)) {
-    lines_ = formats::SplitLines(text::DecodeTextFile(*bytes));
+    lines_ = formats::SplitLines(base::DecodeTextFile(*bytes));
   }
 }
 
@@ -22,7 +22,7 @@ std::string MessageCatalog::GetText(std::string_view section, std::string_view k
                                     const std::vector<std::string>& arguments) const {
   auto value = formats::FindValue(lines_, section, key);
   if (!value) return {};
-  return FormatMessage(formats::CutToLongestValue(std::move(*value)), arguments);
+  return base::FormatMessage(formats::CutToLongestValue(std::move(*value)), arguments);
 }
 
 const std::string& MessageCatalog::FilePath() const { return path_; }

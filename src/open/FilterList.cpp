@@ -39,7 +39,7 @@ std::string SystemDialogFilter(const std::vector<FilterRow>& rows) {
 }
 
 bool PassesFilter(std::string_view fileName, std::string_view pattern) {
-  return text::MatchesWildcard(fileName, pattern);
+  return base::MatchesWildcard(fileName, pattern);
 }
 
 }  // namespace nomra::open

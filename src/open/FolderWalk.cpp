@@ -11,7 +11,7 @@ bool WalkFolders(platform::FileSystem& fileSystem, std::vector<std::string> work
   // The list grows while it is walked, so it goes by position, never by
   // iterator.
   for (std::size_t position = 0; position < workList.size(); ++position) {
-    const std::string folder = AddBackslash(workList[position]);
+    const std::string folder = base::AddBackslash(workList[position]);
     std::vector<std::string> fileNames;
     std::vector<std::string> subfolders;
     // The names are collected first: the visitor adds files, which may pump
@@ -20,7 +20,7 @@ bool WalkFolders(platform::FileSystem& fileSystem, std::vector<std::string> work
       if (kind == platform::EntryKind::File) {
         fileNames.emplace_back(name);
       } else if (kind == platform::EntryKind::Folder) {
-        subfolders.push_back(folder + std::string(name) + kPathSeparator);
+        subfolders.push_back(folder + std::string(name) + base::kPathSeparator);
       }
     });
     if (!readable) continue;

@@ -14,7 +14,7 @@ namespace {
 
 // A stop by the user: what was added so far is shown, and the stop is
 // spent.
-LoadOutcome StopLoading(ListLoad& load, Preview& preview) {
+LoadOutcome StopLoading(core::ListLoad& load, core::Preview& preview) {
   preview.Refresh();
   load.stopAsked = false;
   return LoadOutcome::Cancelled;
@@ -22,10 +22,10 @@ LoadOutcome StopLoading(ListLoad& load, Preview& preview) {
 
 // A path the user chose that names nothing ends the command with a fault;
 // the rows added before it are shown first.
-void AddChosenPath(ListLoad& load, Preview& preview, std::string path) {
+void AddChosenPath(core::ListLoad& load, core::Preview& preview, std::string path) {
   try {
-    AddFile(load, path);
-  } catch (const RuntimeFault&) {
+    core::AddFile(load, path);
+  } catch (const base::RuntimeFault&) {
     preview.Refresh();
     throw;
   }
@@ -41,12 +41,12 @@ std::string PatternOf(const std::vector<FilterRow>& filters, int filterIndex) {
 
 // The folder whose files are all taken: a chosen file stands for its folder.
 std::string FolderToTake(platform::FileSystem& fileSystem, const std::string& chosen) {
-  if (fileSystem.Status(chosen).kind == platform::EntryKind::File) return FolderOf(chosen);
-  return AddBackslash(chosen);
+  if (fileSystem.Status(chosen).kind == platform::EntryKind::File) return base::FolderOf(chosen);
+  return base::AddBackslash(chosen);
 }
 
 // False when the user stopped the walk.
-bool AddAllFiles(ListLoad& load, const std::string& folder, const OpenChoice& choice,
+bool AddAllFiles(core::ListLoad& load, const std::string& folder, const OpenChoice& choice,
                  const std::vector<FilterRow>& filters, bool showHiddenFiles) {
   const std::string pattern = PatternOf(filters, choice.filterIndex);
   const bool walked = WalkFolders(
@@ -58,8 +58,8 @@ bool AddAllFiles(ListLoad& load, const std::string& folder, const OpenChoice& ch
           if (IsHiddenName(name) && !showHiddenFiles) continue;
           std::string path = current + name;
           try {
-            AddFile(load, path);
-          } catch (const RuntimeFault&) {
+            core::AddFile(load, path);
+          } catch (const base::RuntimeFault&) {
             // A file that went away during the walk is passed over.
           }
         }
@@ -72,12 +72,12 @@ bool AddAllFiles(ListLoad& load, const std::string& folder, const OpenChoice& ch
 
 }  // namespace
 
-LoadOutcome RunOpenChoice(ListLoad& load, Preview& preview, const OpenChoice& choice, const std::vector<FilterRow>& filters,
+LoadOutcome RunOpenChoice(core::ListLoad& load, core::Preview& preview, const OpenChoice& choice, const std::vector<FilterRow>& filters,
                           const formats::IniFile& settingsFile, bool showHiddenFiles) {
   if (choice.paths.empty()) return LoadOutcome::Finished;  // nothing chosen is a dialog cancelled
-  BusyPointer busy(load.frontEnd);
+  core::BusyPointer busy(load.frontEnd);
 
-  std::string lastPath = FolderOf(choice.paths.front());
+  std::string lastPath = base::FolderOf(choice.paths.front());
   if (choice.mode == OpenMode::Files && choice.allFiles) {
     const std::string folder = FolderToTake(load.fileSystem, choice.paths.front());
     lastPath = folder;
@@ -102,7 +102,7 @@ LoadOutcome RunOpenChoice(ListLoad& load, Preview& preview, const OpenChoice& ch
 std::string InitialFolder(const formats::IniFile& settingsFile, const std::string& homeFolder) {
   const std::string lastPath = settingsFile.ReadString(settings::kSettingsSection, settings::kLastPathKey);
   if (!lastPath.empty() && settingsFile.Files().Status(lastPath).kind == platform::EntryKind::Folder) return lastPath;
-  return AddBackslash(homeFolder.empty() ? "/" : homeFolder);
+  return base::AddBackslash(homeFolder.empty() ? "/" : homeFolder);
 }
 
 }  // namespace nomra::open

@@ -42,7 +42,7 @@ struct OpenChoice {
 // the caller passes the index in force for files. A chosen path that is
 // neither file nor folder while CheckExistence is off ends the command with
 // AddFile's RuntimeFault, after the refresh. No path at all changes nothing.
-LoadOutcome RunOpenChoice(ListLoad& load, Preview& preview, const OpenChoice& choice,
+LoadOutcome RunOpenChoice(core::ListLoad& load, core::Preview& preview, const OpenChoice& choice,
                           const std::vector<FilterRow>& filters, const formats::IniFile& settingsFile,
                           bool showHiddenFiles);
 

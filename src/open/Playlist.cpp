@@ -17,10 +17,10 @@ namespace {
 enum class PlaylistKind { M3u, Pls, Plain };
 
 PlaylistKind KindOf(const std::string& playlistPath) {
-  const std::size_t nameStart = playlistPath.rfind(kPathSeparator) + 1;  // 0 when there is no separator
+  const std::size_t nameStart = playlistPath.rfind(base::kPathSeparator) + 1;  // 0 when there is no separator
   const std::size_t dot = playlistPath.rfind('.');
   if (dot == std::string::npos || dot < nameStart) return PlaylistKind::Plain;
-  const std::string extension = text::ToLower(std::string_view(playlistPath).substr(dot));
+  const std::string extension = base::ToLower(std::string_view(playlistPath).substr(dot));
   if (extension == ".m3u") return PlaylistKind::M3u;
   if (extension == ".pls") return PlaylistKind::Pls;
   return PlaylistKind::Plain;
@@ -32,9 +32,9 @@ std::string MarkerOf(std::string_view line) {
   std::size_t end = 0;
   for (int count = 0; count < 4 && end < line.size(); ++count) {
     char32_t ignored;
-    end += text::DecodeAt(line, end, ignored);
+    end += base::DecodeAt(line, end, ignored);
   }
-  return text::ToUpper(line.substr(0, end));
+  return base::ToUpper(line.substr(0, end));
 }
 
 // What a line gives as an entry; empty when it gives none.
@@ -62,10 +62,10 @@ std::optional<std::vector<std::string>> ReadEntries(const std::string& playlistP
 
   const PlaylistKind kind = KindOf(playlistPath);
   const std::string absolute = fileSystem.AbsolutePath(playlistPath);
-  const std::string folder = absolute.substr(0, absolute.rfind(kPathSeparator) + 1);
+  const std::string folder = absolute.substr(0, absolute.rfind(base::kPathSeparator) + 1);
 
   std::vector<std::string> entries;
-  for (const std::string& line : formats::SplitLines(text::DecodeTextFile(*bytes))) {
+  for (const std::string& line : formats::SplitLines(base::DecodeTextFile(*bytes))) {
     std::string entry = EntryOf(line, kind);
     // No file name holds a NUL, and the system calls would read the path
     // only up to it: "\0x" in the playlist's folder would be the folder
@@ -74,7 +74,7 @@ std::optional<std::vector<std::string>> ReadEntries(const std::string& playlistP
     // Every entry that is no file as it stands is tried in the playlist's
     // folder, whatever it holds; one that still names nothing is dropped
     // later by AddFile. A leading separator already makes a path absolute.
-    if (fileSystem.Status(entry).kind != platform::EntryKind::File && entry.front() != kPathSeparator) {
+    if (fileSystem.Status(entry).kind != platform::EntryKind::File && entry.front() != base::kPathSeparator) {
       entry = folder + entry;
     }
     entries.push_back(std::move(entry));
@@ -88,14 +88,14 @@ std::vector<std::string> ReadPlaylistEntries(const std::string& playlistPath, pl
   return ReadEntries(playlistPath, fileSystem).value_or(std::vector<std::string>());
 }
 
-LoadOutcome LoadPlaylist(ListLoad& load, Preview& preview, const std::string& playlistPath) {
+LoadOutcome LoadPlaylist(core::ListLoad& load, core::Preview& preview, const std::string& playlistPath) {
   const auto entries = ReadEntries(playlistPath, load.fileSystem);
   if (!entries) return LoadOutcome::Finished;  // a missing playlist changes nothing, not even the view
 
   for (std::string entry : *entries) {
     try {
-      AddFile(load, entry);
-    } catch (const RuntimeFault&) {
+      core::AddFile(load, entry);
+    } catch (const base::RuntimeFault&) {
       // An entry that names nothing is passed over.
     }
     // The caller spends the stop: it may have more to stop.

@@ -26,6 +26,6 @@ enum class LoadOutcome { Finished, Cancelled };
 // stop asked and running no refresh; otherwise the preview is refreshed
 // after the last entry. A missing or unreadable playlist changes nothing,
 // the view included.
-LoadOutcome LoadPlaylist(ListLoad& load, Preview& preview, const std::string& playlistPath);
+LoadOutcome LoadPlaylist(core::ListLoad& load, core::Preview& preview, const std::string& playlistPath);
 
 }  // namespace nomra::open

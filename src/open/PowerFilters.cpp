@@ -80,7 +80,7 @@ bool PassesAnyPattern(std::string_view fileName, std::string_view patterns) {
     const std::string_view pattern = patterns.substr(start, end - start);
     // The folder listing takes "*.*" as every file, a name without a dot too,
     // as the listings of the system this dialog comes from do.
-    if (pattern == kAllFilesPattern || (!pattern.empty() && text::MatchesWildcard(fileName, pattern))) return true;
+    if (pattern == kAllFilesPattern || (!pattern.empty() && base::MatchesWildcard(fileName, pattern))) return true;
     if (end == patterns.size()) return false;
     start = end + 1;
   }

@@ -10,7 +10,7 @@
 namespace nomra::open {
 
 std::vector<std::string> StageFiles(const FolderSelection& selection, platform::FileSystem& fileSystem) {
-  const std::string shown = AddBackslash(selection.folder);
+  const std::string shown = base::AddBackslash(selection.folder);
   std::vector<std::string> staged;
   for (const std::string& name : selection.allFiles ? selection.listedFiles : selection.selectedFiles) {
     staged.push_back(shown + name);
@@ -36,19 +36,19 @@ std::vector<std::string> StageFiles(const FolderSelection& selection, platform::
   return staged;
 }
 
-LoadOutcome LoadStagedFiles(ListLoad& load, Preview& preview, std::vector<std::string>& staged) {
-  BusyPointer busy(load.frontEnd);
+LoadOutcome LoadStagedFiles(core::ListLoad& load, core::Preview& preview, std::vector<std::string>& staged) {
+  core::BusyPointer busy(load.frontEnd);
   LoadOutcome outcome = LoadOutcome::Finished;
   try {
     for (std::string path : staged) {
-      AddFile(load, path);
+      core::AddFile(load, path);
       if (load.stopAsked) {
         load.stopAsked = false;
         outcome = LoadOutcome::Cancelled;
         break;
       }
     }
-  } catch (const RuntimeFault&) {
+  } catch (const base::RuntimeFault&) {
     // A staged path that names nothing ends the load with a fault; what
     // came before it is shown, and nothing stays staged for a later load.
     preview.Refresh();

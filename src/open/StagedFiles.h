@@ -34,6 +34,6 @@ std::vector<std::string> StageFiles(const FolderSelection& selection, platform::
 // refresh runs either way and the staging list is emptied. A path that is
 // neither file nor folder while CheckExistence is off ends the load with
 // AddFile's RuntimeFault, after the refresh and the emptying.
-LoadOutcome LoadStagedFiles(ListLoad& load, Preview& preview, std::vector<std::string>& staged);
+LoadOutcome LoadStagedFiles(core::ListLoad& load, core::Preview& preview, std::vector<std::string>& staged);
 
 }  // namespace nomra::open

@@ -4,19 +4,19 @@
 #include "dialog/ScriptSession.h"
 #include "platform/FileSystem.h"
 
-namespace nomra {
+namespace nomra::rename {
 
 // What an action dialog works with: the list with its user and preview, the
 // status texts of the walk over the rows, and the script session, with the
 // file system its remembered inputs and script steps are stored through.
 struct ActionContext {
-  ListContext list;
-  const StatusTexts& texts;
-  ScriptSession& script;
+  core::ListContext list;
+  const core::StatusTexts& texts;
+  dialog::ScriptSession& script;
   platform::FileSystem& fileSystem;
 
-  ListState& State() const { return list.state; }
-  FrontEnd& User() const { return list.frontEnd; }
+  core::ListState& State() const { return list.state; }
+  core::FrontEnd& User() const { return list.frontEnd; }
 };
 
-}  // namespace nomra
+}  // namespace nomra::rename

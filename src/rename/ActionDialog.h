@@ -4,7 +4,7 @@
 #include "rename/ActionContext.h"
 #include "dialog/DialogModel.h"
 
-namespace nomra {
+namespace nomra::rename {
 
 // When a dialog takes back its remembered inputs or its script step: most
 // on loading, some the first time they come to the front.
@@ -51,4 +51,4 @@ class ActionDialog {
   dialog::DialogModel model_;
 };
 
-}  // namespace nomra
+}  // namespace nomra::rename

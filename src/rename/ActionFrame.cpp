@@ -2,12 +2,12 @@
 
 #include "dialog/DialogState.h"
 
-namespace nomra {
+namespace nomra::rename {
 
 namespace {
 
 void RestoreInputs(ActionDialog& dialog, const ActionContext& context) {
-  const ScriptSession& session = context.script;
+  const dialog::ScriptSession& session = context.script;
   if (session.runMode == 1 || session.runMode == 2) {
     dialog::RestoreDialogState(dialog.Model(), std::to_string(session.runStep), dialog::kScriptMode, session, context.fileSystem, context.User());
     return;
@@ -34,7 +34,7 @@ bool ActivateActionDialog(ActionDialog& dialog, const ActionContext& context, bo
 bool ApplyActionDialog(ActionDialog& dialog, const ActionContext& context) {
   if (!dialog.CheckInputs(context)) return false;
   const ActionTraits& traits = dialog.Traits();
-  const ScriptSession& session = context.script;
+  const dialog::ScriptSession& session = context.script;
   if (session.saveDialogSettings && session.runMode == 0 && !traits.storeSection.empty()) {
     dialog::StoreDialogState(dialog.Model(), traits.storeSection, dialog::kSettingsMode, session, context.fileSystem);
   }
@@ -50,4 +50,4 @@ void PlayActionWithoutWindow(ActionDialog& dialog, const ActionContext& context)
   if (ActivateActionDialog(dialog, context, true)) ApplyActionDialog(dialog, context);
 }
 
-}  // namespace nomra
+}  // namespace nomra::rename

@@ -1,7 +1,7 @@
 #pragma once
 #include "rename/ActionDialog.h"
 
-namespace nomra {
+namespace nomra::rename {
 
 // What every action dialog does alike, apart from any window.
 
@@ -22,4 +22,4 @@ bool ApplyActionDialog(ActionDialog& dialog, const ActionContext& context);
 // dialog: load, come to the front, and OK when all steps run.
 void PlayActionWithoutWindow(ActionDialog& dialog, const ActionContext& context);
 
-}  // namespace nomra
+}  // namespace nomra::rename

@@ -4,7 +4,7 @@
 #include "base/MessageText.h"
 #include "core/BusyPointer.h"
 
-namespace nomra {
+namespace nomra::rename {
 
 namespace {
 
@@ -16,24 +16,24 @@ std::string RowOfFault(int row, int count, const std::string& name, std::string_
 }  // namespace
 
 void RewritePendingNames(const ActionContext& context, const PendingNameRewrite& newName) {
-  ListState& state = context.State();
-  BusyPointer busy(context.User());
+  core::ListState& state = context.State();
+  core::BusyPointer busy(context.User());
   const int count = state.list.Count();
   const std::string countText = std::to_string(count);
   int row = 1;
   try {
     for (; row <= count; ++row) {
-      context.User().SetStatusText(FormatMessage(context.texts.rowOfCount, {std::to_string(row), countText}));
-      if (!InScope(state, row)) continue;
-      FileEntry& entry = state.list.Item(row);
-      entry[kColNewName] = newName(row, entry);
+      context.User().SetStatusText(base::FormatMessage(context.texts.rowOfCount, {std::to_string(row), countText}));
+      if (!core::InScope(state, row)) continue;
+      core::FileEntry& entry = state.list.Item(row);
+      entry[core::kColNewName] = newName(row, entry);
     }
-  } catch (const RuntimeFault& fault) {
+  } catch (const base::RuntimeFault& fault) {
     // The rows done so far keep their names and show them; the message says
     // where the action stopped.
-    const std::string name = state.list.Item(row)[kColOldName];
+    const std::string name = state.list.Item(row)[core::kColOldName];
     context.list.preview.Refresh();
-    throw RuntimeFault(RowOfFault(row, count, name, fault.what()));
+    throw base::RuntimeFault(RowOfFault(row, count, name, fault.what()));
   } catch (...) {
     context.list.preview.Refresh();
     throw;
@@ -41,4 +41,4 @@ void RewritePendingNames(const ActionContext& context, const PendingNameRewrite&
   context.list.preview.Refresh();
 }
 
-}  // namespace nomra
+}  // namespace nomra::rename

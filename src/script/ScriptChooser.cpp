@@ -6,7 +6,7 @@
 #include "lang/MessageKeys.h"
 #include "script/ScriptFiles.h"
 
-namespace nomra {
+namespace nomra::script {
 
 namespace {
 
@@ -26,7 +26,7 @@ void RemoveScriptFile(platform::FileSystem& fileSystem, const std::string& path)
 
 }  // namespace
 
-ScriptChooser::ScriptChooser(ScriptSession& session, platform::FileSystem& fileSystem, FrontEnd& frontEnd)
+ScriptChooser::ScriptChooser(dialog::ScriptSession& session, platform::FileSystem& fileSystem, core::FrontEnd& frontEnd)
     : session_(session), fileSystem_(fileSystem), frontEnd_(frontEnd), dialog_("frmScript") {
   dialog_.AddNoValue("lblScript");
   dialog_.AddList(kScriptList, {}, false);
@@ -69,13 +69,13 @@ void ScriptChooser::Cancel() { session_.runMode = 0; }
 
 void ScriptChooser::DeleteChosen(int row) {
   dialog::DialogInput& list = dialog_.At(kScriptList);
-  const Answer answer =
-      frontEnd_.Ask({lang::kDeleteScriptQuestion, lang::kAttentionCaption, MessageStyle::YesNoDefaultNo, {list.rows[row]}});
-  if (answer != Answer::Yes) return;
+  const core::Answer answer =
+      frontEnd_.Ask({lang::kDeleteScriptQuestion, lang::kAttentionCaption, core::MessageStyle::YesNoDefaultNo, {list.rows[row]}});
+  if (answer != core::Answer::Yes) return;
   RemoveScriptFile(fileSystem_, ScriptFolder(session_.dataFolder) + fileNames_[row]);
   list.rows.erase(list.rows.begin() + row);
   fileNames_.erase(fileNames_.begin() + row);
   list.number = -1;
 }
 
-}  // namespace nomra
+}  // namespace nomra::script

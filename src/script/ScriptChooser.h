@@ -7,13 +7,13 @@
 #include "platform/FileSystem.h"
 #include "dialog/DialogModel.h"
 
-namespace nomra {
+namespace nomra::script {
 
 // The dialog frmScript without a window: the stored scripts, how to run the
 // chosen one, or deleting it.
 class ScriptChooser {
  public:
-  ScriptChooser(ScriptSession& session, platform::FileSystem& fileSystem, FrontEnd& frontEnd);
+  ScriptChooser(dialog::ScriptSession& session, platform::FileSystem& fileSystem, core::FrontEnd& frontEnd);
 
   dialog::DialogModel& Model() { return dialog_; }
 
@@ -38,11 +38,11 @@ class ScriptChooser {
  private:
   void DeleteChosen(int row);
 
-  ScriptSession& session_;
+  dialog::ScriptSession& session_;
   platform::FileSystem& fileSystem_;
-  FrontEnd& frontEnd_;
+  core::FrontEnd& frontEnd_;
   dialog::DialogModel dialog_;
   std::vector<std::string> fileNames_;
 };
 
-}  // namespace nomra
+}  // namespace nomra::script

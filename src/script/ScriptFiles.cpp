@@ -6,31 +6,31 @@
 #include "base/Utf8.h"
 #include "formats/IniFile.h"
 
-namespace nomra {
+namespace nomra::script {
 
 namespace {
 
 bool HasScriptEnding(std::string_view name) {
   return name.size() > kScriptFileEnding.size() &&
-         text::EqualsNoCase(name.substr(name.size() - kScriptFileEnding.size()), kScriptFileEnding);
+         base::EqualsNoCase(name.substr(name.size() - kScriptFileEnding.size()), kScriptFileEnding);
 }
 
 }  // namespace
 
 std::string ScriptFolder(const std::string& dataFolder) {
-  return AddBackslash(AddBackslash(dataFolder) + kScriptFolderName);
+  return base::AddBackslash(base::AddBackslash(dataFolder) + kScriptFolderName);
 }
 
 std::string ScriptFileName(const std::tm& moment) {
-  return text::FormatTimeStamp(moment) + std::string(kScriptFileEnding);
+  return base::FormatTimeStamp(moment) + std::string(kScriptFileEnding);
 }
 
 std::string FormatScriptDate(std::string_view fileName) {
-  const std::u32string chars = text::ToChars(fileName);
+  const std::u32string chars = base::ToChars(fileName);
   // Characters from..to (1-based), as far as the name reaches.
   const auto cut = [&](std::size_t from, std::size_t to) {
     if (from > chars.size()) return std::string();
-    return text::FromChars(std::u32string_view(chars).substr(from - 1, to - from + 1));
+    return base::FromChars(std::u32string_view(chars).substr(from - 1, to - from + 1));
   };
   return cut(1, 4) + "-" + cut(5, 6) + "-" + cut(7, 8) + ", " + cut(9, 10) + ":" + cut(11, 12) + ":" + cut(13, 14);
 }
@@ -54,4 +54,4 @@ std::vector<StoredScript> ListStoredScripts(platform::FileSystem& fileSystem, co
   return scripts;
 }
 
-}  // namespace nomra
+}  // namespace nomra::script

@@ -7,7 +7,7 @@
 #include "formats/IniFile.h"
 #include "platform/FileSystem.h"
 
-namespace nomra {
+namespace nomra::script {
 
 // Stored scripts lie in the folder "Script" of the data folder, named by the
 // moment they were stored ("yyyymmddhhnnss.nrs"); the name the user gave is
@@ -41,4 +41,4 @@ struct StoredScript {
 // gives them, with their display texts; none when the folder is missing.
 std::vector<StoredScript> ListStoredScripts(platform::FileSystem& fileSystem, const std::string& dataFolder);
 
-}  // namespace nomra
+}  // namespace nomra::script

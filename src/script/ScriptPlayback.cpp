@@ -10,7 +10,7 @@
 #include "script/ScriptFiles.h"
 #include "formats/IniFile.h"
 
-namespace nomra {
+namespace nomra::script {
 
 namespace {
 
@@ -22,15 +22,15 @@ bool FileExists(platform::FileSystem& fileSystem, const std::string& path) {
 }
 
 // A Type that is no number counts as a missing one.
-long ReadStepType(const ScriptSession& session, const formats::IniFile& script) {
+long ReadStepType(const dialog::ScriptSession& session, const formats::IniFile& script) {
   try {
     return script.ReadInt(std::to_string(session.runStep), kScriptTypeKey);
-  } catch (const RuntimeFault&) {
+  } catch (const base::RuntimeFault&) {
     return -1;
   }
 }
 
-void PlaySteps(ScriptSession& session, platform::FileSystem& fileSystem, const StepOpener& openStep) {
+void PlaySteps(dialog::ScriptSession& session, platform::FileSystem& fileSystem, const StepOpener& openStep) {
   if (session.runPath.empty() || session.runMode == 0) return;
   const formats::IniFile script(fileSystem, session.runPath);
   const long steps = script.ReadInt(kScriptMainSection, kScriptStepsKey);
@@ -45,7 +45,7 @@ void PlaySteps(ScriptSession& session, platform::FileSystem& fileSystem, const S
 
 }  // namespace
 
-void PlayScript(ScriptSession& session, platform::FileSystem& fileSystem, const StepOpener& openStep) {
+void PlayScript(dialog::ScriptSession& session, platform::FileSystem& fileSystem, const StepOpener& openStep) {
   try {
     PlaySteps(session, fileSystem, openStep);
   } catch (...) {
@@ -57,12 +57,12 @@ void PlayScript(ScriptSession& session, platform::FileSystem& fileSystem, const 
   session.runPath.clear();
 }
 
-void PlayStepWithoutWindow(const ActionContext& context, int stepType) {
-  const std::unique_ptr<ActionDialog> dialog = CreateActionDialog(stepType);
-  if (dialog) PlayActionWithoutWindow(*dialog, context);
+void PlayStepWithoutWindow(const rename::ActionContext& context, int stepType) {
+  const std::unique_ptr<rename::ActionDialog> dialog = rename::CreateActionDialog(stepType);
+  if (dialog) rename::PlayActionWithoutWindow(*dialog, context);
 }
 
-bool RunSelectedScript(ScriptSession& session, platform::FileSystem& fileSystem, std::string_view fileName,
+bool RunSelectedScript(dialog::ScriptSession& session, platform::FileSystem& fileSystem, std::string_view fileName,
                        const StepOpener& openStep) {
   session.runPath = ScriptFolder(session.dataFolder) + std::string(fileName);
   if (!fileName.empty() && FileExists(fileSystem, session.runPath)) {
@@ -74,9 +74,9 @@ bool RunSelectedScript(ScriptSession& session, platform::FileSystem& fileSystem,
   return false;
 }
 
-bool RunScriptArgument(ScriptSession& session, platform::FileSystem& fileSystem, std::string_view text,
+bool RunScriptArgument(dialog::ScriptSession& session, platform::FileSystem& fileSystem, std::string_view text,
                        const StepOpener& openStep) {
-  const std::string name = WithoutDoubleQuotes(text);
+  const std::string name = base::WithoutDoubleQuotes(text);
   session.runPath = name;
   if (!FileExists(fileSystem, session.runPath)) session.runPath = ScriptFolder(session.dataFolder) + name;
   if (!FileExists(fileSystem, session.runPath)) return false;
@@ -85,4 +85,4 @@ bool RunScriptArgument(ScriptSession& session, platform::FileSystem& fileSystem,
   return true;
 }
 
-}  // namespace nomra
+}  // namespace nomra::script

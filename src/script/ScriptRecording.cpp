@@ -11,30 +11,30 @@
 #include "settings/SettingsKeys.h"
 #include "script/ScriptFiles.h"
 
-namespace nomra {
+namespace nomra::script {
 
 namespace {
 
 std::string DateTimeText(const std::tm& moment) {
   std::tm copy = moment;
-  return text::FormatListDate(std::mktime(&copy));
+  return base::FormatListDate(std::mktime(&copy));
 }
 
 // The name the user gives, or nothing when the recording is discarded.
-std::optional<std::string> AskScriptName(FrontEnd& frontEnd, const LocalClock& clock) {
+std::optional<std::string> AskScriptName(core::FrontEnd& frontEnd, const base::LocalClock& clock) {
   for (;;) {
-    std::string answer = frontEnd.AskInput({lang::kScriptNamePrompt, lang::kSaveScriptCaption, MessageStyle::OkInformation, {}},
+    std::string answer = frontEnd.AskInput({lang::kScriptNamePrompt, lang::kSaveScriptCaption, core::MessageStyle::OkInformation, {}},
                                                  DateTimeText(clock()));
-    if (!TrimBlanks(answer).empty()) return answer;
-    const Answer discard = frontEnd.Ask({lang::kDiscardRecordingQuestion, lang::kSaveScriptCaption, MessageStyle::YesNoDefaultNo, {}});
-    if (discard == Answer::Yes) return std::nullopt;
+    if (!base::TrimBlanks(answer).empty()) return answer;
+    const core::Answer discard = frontEnd.Ask({lang::kDiscardRecordingQuestion, lang::kSaveScriptCaption, core::MessageStyle::YesNoDefaultNo, {}});
+    if (discard == core::Answer::Yes) return std::nullopt;
   }
 }
 
 // Two scripts stored within one second would share a name: the later one
 // takes the next free second, so that none replaces another.
-bool MoveIntoScriptFolder(const ScriptSession& session, platform::FileSystem& fileSystem, const std::string& folder,
-                          const LocalClock& clock) {
+bool MoveIntoScriptFolder(const dialog::ScriptSession& session, platform::FileSystem& fileSystem, const std::string& folder,
+                          const base::LocalClock& clock) {
   std::tm moment = clock();
   for (int attempt = 0; attempt < 3600; ++attempt) {
     const platform::RenameResult result =
@@ -49,19 +49,19 @@ bool MoveIntoScriptFolder(const ScriptSession& session, platform::FileSystem& fi
 
 }  // namespace
 
-void ResetScriptTemp(ScriptSession& session, platform::FileSystem& fileSystem) {
+void ResetScriptTemp(dialog::ScriptSession& session, platform::FileSystem& fileSystem) {
   session.tempPath = session.dataFolder + settings::kScriptTempFileName;
   fileSystem.RemoveFile(session.tempPath);
   session.recording = 0;
 }
 
-void BeginScriptRecording(ScriptSession& session, platform::FileSystem& fileSystem) {
+void BeginScriptRecording(dialog::ScriptSession& session, platform::FileSystem& fileSystem) {
   session.recording = 1;
   formats::IniFile(fileSystem, session.tempPath).Write(kScriptMainSection, kScriptStepsKey, 0L);
 }
 
-bool EndScriptRecording(ScriptSession& session, platform::FileSystem& fileSystem, FrontEnd& frontEnd,
-                        const LocalClock& clock) {
+bool EndScriptRecording(dialog::ScriptSession& session, platform::FileSystem& fileSystem, core::FrontEnd& frontEnd,
+                        const base::LocalClock& clock) {
   session.recording = 0;
   const std::string folder = ScriptFolder(session.dataFolder);
   fileSystem.MakeFolder(folder, 0777);
@@ -80,4 +80,4 @@ bool EndScriptRecording(ScriptSession& session, platform::FileSystem& fileSystem
   return true;
 }
 
-}  // namespace nomra
+}  // namespace nomra::script

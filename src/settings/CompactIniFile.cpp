@@ -26,7 +26,7 @@ std::vector<std::string> CompactedLines(const std::vector<std::string>& lines) {
   std::string_view previous;
   for (const std::string& line : lines) {
     if (!line.empty() && line.front() == '[' && !previous.empty()) kept.emplace_back();
-    if (!TrimBlanks(line).ends_with(kDeleteMarker)) kept.push_back(line);
+    if (!base::TrimBlanks(line).ends_with(kDeleteMarker)) kept.push_back(line);
     previous = line;
   }
   return kept;
@@ -37,7 +37,7 @@ std::vector<std::string> CompactedLines(const std::vector<std::string>& lines) {
 bool CompactIniFile(platform::FileSystem& fileSystem, const std::string& path, const std::string& dataFolder) {
   const auto source = fileSystem.ReadFile(path);
   if (!source || !fileSystem.MayWriteFile(path)) return false;
-  const std::string temp = AddBackslash(dataFolder) + kCompactionTempName;
+  const std::string temp = base::AddBackslash(dataFolder) + kCompactionTempName;
   const std::string compacted = JoinLines(CompactedLines(SplitLines(*source)));
   return formats::WriteThroughTemporary(fileSystem, path, temp, compacted) == 0;
 }

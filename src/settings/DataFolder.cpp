@@ -18,7 +18,7 @@ namespace {
 constexpr char kInstalledAppFolder[] = "share/nomra/";
 
 bool IsAppFileName(std::string_view name) {
-  const std::string lower = text::ToLower(name);
+  const std::string lower = base::ToLower(name);
   return lower.ends_with(kLanguageFileEnding) || lower == kUpdateFileName;
 }
 
@@ -33,17 +33,17 @@ bool HoldsAppFiles(platform::FileSystem& fileSystem, const std::string& folder) 
 }  // namespace
 
 std::string FindDataFolder(platform::FileSystem& fileSystem, platform::DataLocations& locations) {
-  const std::string folder = AddBackslash(locations.DataFolder());
+  const std::string folder = base::AddBackslash(locations.DataFolder());
   fileSystem.MakeFolderPath(folder);
   return folder;
 }
 
 std::string FindAppFolderFrom(platform::FileSystem& fileSystem, const std::string& executableFolder) {
-  const std::string own = AddBackslash(executableFolder);
+  const std::string own = base::AddBackslash(executableFolder);
   if (HoldsAppFiles(fileSystem, own)) return own;
   // The executable's folder comes from the system whole, without "." or
   // "..", so its parent is found by text.
-  const std::string installed = FolderOf(WithoutTrailingSeparators(own)) + kInstalledAppFolder;
+  const std::string installed = base::FolderOf(base::WithoutTrailingSeparators(own)) + kInstalledAppFolder;
   if (fileSystem.Status(installed).kind == platform::EntryKind::Folder) return installed;
   return own;
 }
@@ -55,8 +55,8 @@ std::string FindAppFolder(platform::FileSystem& fileSystem, platform::DataLocati
 bool PrepareDataFolder(platform::FileSystem& fileSystem, const std::string& appFolder, const std::string& dataFolder) {
   fileSystem.MakeFolderPath(dataFolder);
   if (!fileSystem.MayWriteInFolder(dataFolder)) return false;
-  const std::string app = AddBackslash(appFolder);
-  const std::string data = AddBackslash(dataFolder);
+  const std::string app = base::AddBackslash(appFolder);
+  const std::string data = base::AddBackslash(dataFolder);
   const std::string settingsFile = data + kSettingsFileName;
   CopyFirstRunFiles(fileSystem, app, data);
   MergeUpdateInstructions(formats::IniFile(fileSystem, app + kUpdateFileName),

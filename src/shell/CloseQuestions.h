@@ -8,16 +8,16 @@
 #include "core/RowCommitter.h"
 #include "shell/MainWindowSettings.h"
 
-namespace nomra {
+namespace nomra::shell {
 
 enum class CloseDecision { Refuse, Close };
 
 // What the close asks about: the list, the user, and whoever takes the
 // pending names to disk when the user wants them kept.
 struct ClosingList {
-  const ListState& state;
-  FrontEnd& frontEnd;
-  RowCommitter* committer = nullptr;
+  const core::ListState& state;
+  core::FrontEnd& frontEnd;
+  core::RowCommitter* committer = nullptr;
 };
 
 // The questions before the main window closes. While a recording runs, the
@@ -34,7 +34,7 @@ CloseDecision AskBeforeClose(const ClosingList& closing, bool recordingRuns, con
 // remaining settings are written. The caller releases its services when the
 // result is Close.
 CloseDecision RunCloseSequence(const MainWindowSettings& settings, const ClosingList& closing,
-                               const ListOptions& options, const formats::IniFile& settingsFile, bool recordingRuns,
+                               const core::ListOptions& options, const formats::IniFile& settingsFile, bool recordingRuns,
                                const std::function<void()>& stopRecording);
 
-}  // namespace nomra
+}  // namespace nomra::shell

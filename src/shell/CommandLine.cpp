@@ -5,7 +5,7 @@
 #include "base/Quoting.h"
 #include "core/AddFile.h"
 
-namespace nomra {
+namespace nomra::shell {
 
 namespace {
 
@@ -71,20 +71,20 @@ std::vector<std::string> ArgumentsFromArgv(int argc, char** argv) {
   return arguments;
 }
 
-void RunCommandLine(const std::vector<std::string>& arguments, ListLoad& load, const CommandLineSwitches& switches) {
+void RunCommandLine(const std::vector<std::string>& arguments, core::ListLoad& load, const CommandLineSwitches& switches) {
   if (arguments.empty()) return;
   const std::size_t endMark = arguments.size() - 1;
   for (std::size_t i = 0; i < endMark; ++i) {
     const std::string& argument = arguments[i];
     if (IsFileOrFolder(load.fileSystem, argument)) {
       std::string path = argument;
-      AddFile(load, path);
+      core::AddFile(load, path);
     } else if (HasSwitch(argument, kOpenFromFileSwitch)) {
-      if (switches.openFromFile) switches.openFromFile(WithoutDoubleQuotes(argument.substr(kOpenFromFileSwitch.size())));
+      if (switches.openFromFile) switches.openFromFile(base::WithoutDoubleQuotes(argument.substr(kOpenFromFileSwitch.size())));
     } else if (HasSwitch(argument, kRunScriptSwitch)) {
-      if (switches.runScript) switches.runScript(WithoutDoubleQuotes(argument.substr(kRunScriptSwitch.size())));
+      if (switches.runScript) switches.runScript(base::WithoutDoubleQuotes(argument.substr(kRunScriptSwitch.size())));
     }
   }
 }
 
-}  // namespace nomra
+}  // namespace nomra::shell

@@ -6,7 +6,7 @@
 
 #include "core/AddFile.h"
 
-namespace nomra {
+namespace nomra::shell {
 
 // The arguments of a start, in order, always followed by one empty element
 // that marks the end; with no arguments the end mark is all there is.
@@ -43,6 +43,6 @@ struct CommandLineSwitches {
 // "/runscript=", in any case and with at least one character behind the
 // "=", go to their switch; anything else is passed over in silence. No
 // refresh runs here. A fault of AddFile ends the run and goes to the caller.
-void RunCommandLine(const std::vector<std::string>& arguments, ListLoad& load, const CommandLineSwitches& switches);
+void RunCommandLine(const std::vector<std::string>& arguments, core::ListLoad& load, const CommandLineSwitches& switches);
 
-}  // namespace nomra
+}  // namespace nomra::shell

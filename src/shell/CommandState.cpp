@@ -1,6 +1,6 @@
 #include "shell/CommandState.h"
 
-namespace nomra {
+namespace nomra::shell {
 
 const std::vector<std::string>& MainToolBarKeys() {
   static const std::vector<std::string> keys = {
@@ -11,4 +11,4 @@ const std::vector<std::string>& MainToolBarKeys() {
   return keys;
 }
 
-}  // namespace nomra
+}  // namespace nomra::shell

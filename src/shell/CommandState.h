@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-namespace nomra {
+namespace nomra::shell {
 
 // The keys of the main tool bar, in order; "" is a separator.
 const std::vector<std::string>& MainToolBarKeys();
@@ -19,4 +19,4 @@ struct CommandState {
   bool IsEnabled(std::string_view name) const { return enabled.contains(name); }
 };
 
-}  // namespace nomra
+}  // namespace nomra::shell

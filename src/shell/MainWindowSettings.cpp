@@ -5,7 +5,7 @@
 #include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"
 
-namespace nomra {
+namespace nomra::shell {
 
 namespace {
 
@@ -17,12 +17,12 @@ std::string ColumnWidthKey(int head) { return kColumnWidthKeyPrefix + std::to_st
 // caller's default stands.
 class SettingsReader {
  public:
-  SettingsReader(const formats::IniFile& file, FrontEnd& frontEnd) : file_(file), frontEnd_(frontEnd) {}
+  SettingsReader(const formats::IniFile& file, core::FrontEnd& frontEnd) : file_(file), frontEnd_(frontEnd) {}
 
   long Number(const char* section, const std::string& key) {
     try {
       return file_.ReadInt(section, key);
-    } catch (const RuntimeFault& fault) {
+    } catch (const base::RuntimeFault& fault) {
       frontEnd_.ShowFault(fault.what());
       return -1;
     }
@@ -31,12 +31,12 @@ class SettingsReader {
   long NumberOrSilence(const char* section, const char* key) {
     try {
       return file_.ReadInt(section, key);
-    } catch (const RuntimeFault&) {
+    } catch (const base::RuntimeFault&) {
       return -1;
     }
   }
 
-  bool Flag(const char* section, const char* key, bool fallback) { return ToBoolean(Number(section, key), fallback); }
+  bool Flag(const char* section, const char* key, bool fallback) { return base::ToBoolean(Number(section, key), fallback); }
 
   long NumberOr(const char* section, const char* key, long fallback) {
     const long value = Number(section, key);
@@ -47,7 +47,7 @@ class SettingsReader {
 
  private:
   const formats::IniFile& file_;
-  FrontEnd& frontEnd_;
+  core::FrontEnd& frontEnd_;
 };
 
 // The last character of a button key, the style number the settings keep.
@@ -63,7 +63,7 @@ std::string LastCharacter(const std::string& tag) {
 
 }  // namespace
 
-MainWindowSettings ReadMainWindowSettings(const formats::IniFile& settingsFile, FrontEnd& frontEnd) {
+MainWindowSettings ReadMainWindowSettings(const formats::IniFile& settingsFile, core::FrontEnd& frontEnd) {
   SettingsReader read(settingsFile, frontEnd);
   MainWindowSettings s;
   // In the order the window's load takes them, so faults come in that order.
@@ -102,7 +102,7 @@ void WriteLayoutOnClose(const MainWindowSettings& s, const formats::IniFile& fil
     file.Write(kMainSection, ColumnWidthKey(head), s.columnWidths[static_cast<std::size_t>(head - 1)]);
   }
   file.Write(kSettingsSection, kPreviewStyleKey, s.previewStyle);
-  file.Write(kSettingsSection, kPreviewGridLinesKey, FromBoolean(s.previewGridLines));
+  file.Write(kSettingsSection, kPreviewGridLinesKey, base::FromBoolean(s.previewGridLines));
   file.Write(kMainSection, kWindowStateKey, s.ws);
   // A maximised or minimised window's size isn't the one to come back to.
   if (s.ws != 0) return;
@@ -112,23 +112,23 @@ void WriteLayoutOnClose(const MainWindowSettings& s, const formats::IniFile& fil
   file.Write(kMainSection, kWindowHeightKey, s.h);
 }
 
-void WriteSettingsOnClose(const MainWindowSettings& s, const ListOptions& options, const formats::IniFile& file) {
+void WriteSettingsOnClose(const MainWindowSettings& s, const core::ListOptions& options, const formats::IniFile& file) {
   file.Write(kSettingsSection, kSplashKey, s.splash);
   file.Write(kSettingsSection, kButtonBarMainKey, s.btnbarMain);
   file.Write(kSettingsSection, kButtonBarScriptKey, s.btnbarScript);
   file.Write(kSettingsSection, kPreviewSortKeyKey, s.previewSortKey);
   file.Write(kSettingsSection, kPreviewSortOrderKey, s.previewSortOrder);
-  file.Write(kAssistantSection, kAssistantVisibleKey, FromBoolean(s.assistantVisible));
+  file.Write(kAssistantSection, kAssistantVisibleKey, base::FromBoolean(s.assistantVisible));
   file.Write(kDialogsSection, kBackColorKey, s.backColor);
   file.Write(kDialogsSection, kForeColorKey, s.foreColor);
   file.Write(kFrmOpenSection, kCheckAllKey, s.chkAll);
   file.Write(kFrmOpenSection, kCheckSubKey, s.chkSub);
   file.Write(kFrmOpenSection, kDialogueStyleKey, LastCharacter(s.openFileTag));
   file.Write(kSettingsSection, kRenameStyleKey, LastCharacter(s.takeChangesTag));
-  file.Write(kSettingsSection, kExpertModeKey, FromBoolean(options.expertMode));
-  file.Write(kSettingsSection, kLoadExifDatesKey, FromBoolean(options.loadExifDates));
-  file.Write(kSettingsSection, kCheckExistenceKey, FromBoolean(options.checkExistence));
-  file.Write(kFrmOpenSection, kShowHiddenFilesKey, FromBoolean(s.showHiddenFiles));
+  file.Write(kSettingsSection, kExpertModeKey, base::FromBoolean(options.expertMode));
+  file.Write(kSettingsSection, kLoadExifDatesKey, base::FromBoolean(options.loadExifDates));
+  file.Write(kSettingsSection, kCheckExistenceKey, base::FromBoolean(options.checkExistence));
+  file.Write(kFrmOpenSection, kShowHiddenFilesKey, base::FromBoolean(s.showHiddenFiles));
 }
 
 int DefaultColumnWidth(int head) {
@@ -157,4 +157,4 @@ std::string TakeChangesTagFromStyle(long renameStyle) {
   return renameStyle == 2 ? "TakeChanges2" : "TakeChanges1";
 }
 
-}  // namespace nomra
+}  // namespace nomra::shell

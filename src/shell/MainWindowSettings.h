@@ -6,7 +6,7 @@
 #include "formats/IniFile.h"
 #include "core/ListOptions.h"
 
-namespace nomra {
+namespace nomra::shell {
 
 inline constexpr int kColumnHeadCount = 8;
 inline constexpr long kDefaultDialogBackColor = 0x80C0FF;
@@ -64,7 +64,7 @@ struct MainWindowSettings {
 // back, or "&H" and hexadecimal digits, as a hand-edited file may hold them.
 // The sort key and sort order are read with failures ignored: a damaged one
 // is passed over in silence.
-MainWindowSettings ReadMainWindowSettings(const formats::IniFile& settingsFile, FrontEnd& frontEnd);
+MainWindowSettings ReadMainWindowSettings(const formats::IniFile& settingsFile, core::FrontEnd& frontEnd);
 
 // The layout part of the close, written before any question is asked: Col1 to
 // Col8, PreviewStyle, PreviewGridLines and ws, then x, y, w and h only for a
@@ -75,7 +75,7 @@ void WriteLayoutOnClose(const MainWindowSettings& settings, const formats::IniFi
 // PreviewSortOrder, the assistant's Visible, BackColor, ForeColor, chkAll,
 // chkSub, DialogueStyle, RenameStyle, ExpertMode, LoadEXIFDates,
 // CheckExistence and ShowHiddenFiles, in this order.
-void WriteSettingsOnClose(const MainWindowSettings& settings, const ListOptions& options,
+void WriteSettingsOnClose(const MainWindowSettings& settings, const core::ListOptions& options,
                           const formats::IniFile& settingsFile);
 
 // The width of a column head (1 to 8) whose width is missing: 3000 for the
@@ -100,4 +100,4 @@ std::array<bool, 7> ColumnMenuChecks(const std::array<long, kColumnHeadCount>& w
 std::string OpenFileTagFromStyle(long dialogueStyle);
 std::string TakeChangesTagFromStyle(long renameStyle);
 
-}  // namespace nomra
+}  // namespace nomra::shell

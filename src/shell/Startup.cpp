@@ -7,16 +7,16 @@
 #include "settings/DataFolder.h"
 #include "settings/SettingsKeys.h"
 
-namespace nomra {
+namespace nomra::shell {
 
 namespace {
 
 // A flag of the settings; a value that isn't a number is shown and the
 // default stands, so one bad line can't stop the program.
-bool ReadFlag(FrontEnd& frontEnd, const formats::IniFile& file, const char* section, const char* key, bool fallback) {
+bool ReadFlag(core::FrontEnd& frontEnd, const formats::IniFile& file, const char* section, const char* key, bool fallback) {
   try {
-    return ToBoolean(file.ReadInt(section, key), fallback);
-  } catch (const RuntimeFault& fault) {
+    return base::ToBoolean(file.ReadInt(section, key), fallback);
+  } catch (const base::RuntimeFault& fault) {
     frontEnd.ShowFault(fault.what());
     return fallback;
   }
@@ -37,7 +37,7 @@ StartupPaths PrepareStartup(platform::FileSystem& fileSystem, platform::DataLoca
   if (dataFolderOverride.empty()) {
     paths.dataFolder = settings::FindDataFolder(fileSystem, locations);
   } else {
-    paths.dataFolder = AddBackslash(dataFolderOverride);
+    paths.dataFolder = base::AddBackslash(dataFolderOverride);
     fileSystem.MakeFolderPath(paths.dataFolder);
   }
   paths.settingsPath = paths.dataFolder + settings::kSettingsFileName;
@@ -48,8 +48,8 @@ StartupPaths PrepareStartup(platform::FileSystem& fileSystem, platform::DataLoca
 void LoadStartupSettings(const StartupPaths& paths, const StartupTarget& target) {
   using namespace settings;
   const formats::IniFile file(target.fileSystem, paths.settingsPath);
-  FrontEnd& frontEnd = target.frontEnd;
-  ListOptions& options = target.options;
+  core::FrontEnd& frontEnd = target.frontEnd;
+  core::ListOptions& options = target.options;
   options.securityQuestions[0] = ReadFlag(frontEnd, file, kSettingsSection, kSecurityQuestion1Key, false);
   options.securityQuestions[1] = ReadFlag(frontEnd, file, kSettingsSection, kSecurityQuestion2Key, false);
   options.securityQuestions[2] = ReadFlag(frontEnd, file, kSettingsSection, kSecurityQuestion3Key, false);
@@ -58,7 +58,7 @@ void LoadStartupSettings(const StartupPaths& paths, const StartupTarget& target)
   options.loadExifDates = ReadFlag(frontEnd, file, kSettingsSection, kLoadExifDatesKey, true);
   options.protocolRenames = ReadFlag(frontEnd, file, kSettingsSection, kProtocolRenamesKey, false);
   options.dataFolder = paths.dataFolder;
-  ScriptSession& script = target.script;
+  dialog::ScriptSession& script = target.script;
   script.dataFolder = paths.dataFolder;
   script.settingsPath = paths.settingsPath;
   script.saveDialogSettings = ReadFlag(frontEnd, file, kSettingsSection, kSaveDialogSettingsKey, false);
@@ -66,4 +66,4 @@ void LoadStartupSettings(const StartupPaths& paths, const StartupTarget& target)
   if (paths.dataFolderUsable) CreateProtocolIfMissing(target.fileSystem, paths.dataFolder);
 }
 
-}  // namespace nomra
+}  // namespace nomra::shell

@@ -7,7 +7,7 @@
 #include "platform/DataLocations.h"
 #include "platform/FileSystem.h"
 
-namespace nomra {
+namespace nomra::shell {
 
 struct StartupPaths {
   std::string appFolder;     // holds the language files; ends with the separator
@@ -24,9 +24,9 @@ StartupPaths PrepareStartup(platform::FileSystem& fileSystem, platform::DataLoca
 // Where the start-up settings go, and what reading them needs.
 struct StartupTarget {
   platform::FileSystem& fileSystem;
-  FrontEnd& frontEnd;   // a value that isn't a number is shown as a fault
-  ListOptions& options;
-  ScriptSession& script;
+  core::FrontEnd& frontEnd;   // a value that isn't a number is shown as a fault
+  core::ListOptions& options;
+  dialog::ScriptSession& script;
 };
 
 // Reads the flags the list and the dialogs need from the settings and
@@ -35,4 +35,4 @@ struct StartupTarget {
 // goes on.
 void LoadStartupSettings(const StartupPaths& paths, const StartupTarget& target);
 
-}  // namespace nomra
+}  // namespace nomra::shell

@@ -3,11 +3,11 @@
 #include "lang/LanguageKeys.h"
 #include "lang/MessageKeys.h"
 
-namespace nomra {
+namespace nomra::shell {
 
-StatusTexts StatusTextsOf(const lang::MessageCatalog& catalog) {
+core::StatusTexts StatusTextsOf(const lang::MessageCatalog& catalog) {
   const auto text = [&catalog](const char* key) { return catalog.GetText(lang::kMessagesSection, key); };
-  StatusTexts texts;
+  core::StatusTexts texts;
   texts.listSummary = text(lang::kListSummaryStatus);
   texts.adding = text(lang::kAddingStatus);
   texts.renamed = text(lang::kRenamedStatus);
@@ -16,4 +16,4 @@ StatusTexts StatusTextsOf(const lang::MessageCatalog& catalog) {
   return texts;
 }
 
-}  // namespace nomra
+}  // namespace nomra::shell

@@ -2,9 +2,9 @@
 #include "core/StatusTexts.h"
 #include "lang/MessageCatalog.h"
 
-namespace nomra {
+namespace nomra::shell {
 
 // The status texts of the language in force.
-StatusTexts StatusTextsOf(const lang::MessageCatalog& catalog);
+core::StatusTexts StatusTextsOf(const lang::MessageCatalog& catalog);
 
-}  // namespace nomra
+}  // namespace nomra::shell

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace nomra {
+namespace nomra::shell {
 
 namespace {
 
@@ -56,4 +56,4 @@ int PixelsToTwips(int pixels, double dpi) {
   return static_cast<int>(std::lround(pixels * kTwipsPerInch / UsableDpi(dpi)));
 }
 
-}  // namespace nomra
+}  // namespace nomra::shell

@@ -2,7 +2,7 @@
 
 #include "shell/MainWindowSettings.h"
 
-namespace nomra {
+namespace nomra::shell {
 
 // A size in twips (1440 to the inch), the unit the settings keep places in.
 struct TwipsSize {
@@ -39,4 +39,4 @@ WindowPlacement PlaceWindow(const MainWindowSettings& settings, TwipsSize window
 int TwipsToPixels(int twips, double dpi);
 int PixelsToTwips(int pixels, double dpi);
 
-}  // namespace nomra
+}  // namespace nomra::shell

@@ -2,12 +2,12 @@
 
 #include "core/PlainPreview.h"
 
-namespace nomra {
+namespace nomra::shell {
 
 namespace {
 
-void ComputeCommandState(CommandState& commands, const WindowState& window, const ListState& state,
-                         const ScriptSession& script) {
+void ComputeCommandState(CommandState& commands, const WindowState& window, const core::ListState& state,
+                         const dialog::ScriptSession& script) {
   auto& enabled = commands.enabled;
   enabled.clear();
   for (const char* always : {"OpenFile", "Options", "ImgPreview"}) enabled.insert(always);
@@ -35,15 +35,15 @@ void ComputeCommandState(CommandState& commands, const WindowState& window, cons
 
 }  // namespace
 
-void RefreshWindowState(WindowState& window, const ListState& state, const ScriptSession& script,
-                        const StatusTexts& texts) {
+void RefreshWindowState(WindowState& window, const core::ListState& state, const dialog::ScriptSession& script,
+                        const core::StatusTexts& texts) {
   if (state.list.Empty()) window.selectedScriptLabel = texts.noScript;
   ComputeCommandState(window.commands, window, state, script);
 }
 
 void WindowPreview::Refresh() {
-  PlainPreview(state_, frontEnd_, texts_).Refresh();
+  core::PlainPreview(state_, frontEnd_, texts_).Refresh();
   RefreshWindowState(window_, state_, script_, texts_);
 }
 
-}  // namespace nomra
+}  // namespace nomra::shell

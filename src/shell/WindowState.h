@@ -3,7 +3,7 @@
 
 #include "shell/CommandState.h"
 
-namespace nomra {
+namespace nomra::shell {
 
 // What the main window shows beside the list, computed by its refresh.
 struct WindowState {
@@ -14,4 +14,4 @@ struct WindowState {
   std::string delListTag;
 };
 
-}  // namespace nomra
+}  // namespace nomra::shell

@@ -3,10 +3,10 @@
 #include "rename/ActionScope.h"
 #include "structure/StructureEngine.h"
 
-namespace nomra {
+namespace nomra::structure {
 
-void ApplyStructure(const ActionContext& context, std::string_view structure) {
-  RewritePendingNames(context, [&](int, FileEntry& row) { return EvaluateStructure(row, structure); });
+void ApplyStructure(const rename::ActionContext& context, std::string_view structure) {
+  rename::RewritePendingNames(context, [&](int, core::FileEntry& row) { return EvaluateStructure(row, structure); });
 }
 
-}  // namespace nomra
+}  // namespace nomra::structure

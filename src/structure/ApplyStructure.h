@@ -3,10 +3,10 @@
 
 #include "rename/ActionContext.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 // Sets the pending name of every row in scope to what the name structure
 // gives for that row.
-void ApplyStructure(const ActionContext& context, std::string_view structure);
+void ApplyStructure(const rename::ActionContext& context, std::string_view structure);
 
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -2,7 +2,7 @@
 
 #include "structure/TextSearch.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 namespace {
 
@@ -36,4 +36,4 @@ void RunBracketLoop(std::string& s, std::string_view tag, std::size_t minArgumen
   }
 }
 
-}  // namespace nomra
+}  // namespace nomra::structure

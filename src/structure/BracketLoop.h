@@ -6,7 +6,7 @@
 
 #include "structure/TagArguments.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 // The replacement of one bracket tag from its arguments.
 using BracketTagRule = std::function<std::string(const TagArguments& args)>;
@@ -21,4 +21,4 @@ using BracketTagRule = std::function<std::string(const TagArguments& args)>;
 void RunBracketLoop(std::string& s, std::string_view tag, std::size_t minArguments, std::size_t maxArguments,
                     const BracketTagRule& rule);
 
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -8,7 +8,7 @@
 #include "structure/CaseConversion.h"
 #include "structure/TextSearch.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 namespace {
 
@@ -33,7 +33,7 @@ void ResolveIntCharPair(std::string& s) {
   const std::size_t close = s.find(kIntChar, innerStart);
   if (close == std::string::npos) return;
   const std::string_view inner = std::string_view(s).substr(innerStart, close - innerStart);
-  if (inner.empty() || TrimSpaces(inner) == "x") s.erase(open, close + kIntChar.size() - open);
+  if (inner.empty() || base::TrimSpaces(inner) == "x") s.erase(open, close + kIntChar.size() - open);
 }
 
 void ResolveCaseBrackets(std::string& s) {
@@ -43,7 +43,7 @@ void ResolveCaseBrackets(std::string& s) {
       const std::size_t close = FindTagNoCase(s, closing);
       if (open == std::string::npos || close == std::string::npos) break;
       if (close < open) {
-        throw RuntimeFault("the case mark " + std::string(closing) + " stands before its " + std::string(opening));
+        throw base::RuntimeFault("the case mark " + std::string(closing) + " stands before its " + std::string(opening));
       }
       const std::size_t innerStart = open + opening.size();
       const std::string converted = ConvertCase(code, std::string_view(s).substr(innerStart, close - innerStart));
@@ -52,4 +52,4 @@ void ResolveCaseBrackets(std::string& s) {
   }
 }
 
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -1,7 +1,7 @@
 #pragma once
 #include <string>
 
-namespace nomra {
+namespace nomra::structure {
 
 // The first <IntChar> pair goes, with what it holds, when it holds nothing
 // or only an "x" between blanks (what an empty picture size leaves);
@@ -14,4 +14,4 @@ void ResolveIntCharPair(std::string& s);
 // when a closing mark stands before its opening one.
 void ResolveCaseBrackets(std::string& s);
 
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -5,43 +5,43 @@
 #include "base/CaseMap.h"
 #include "base/Utf8.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 namespace {
 
 std::u32string Upper(std::u32string chars) {
-  for (char32_t& c : chars) c = text::ToUpperChar(c);
+  for (char32_t& c : chars) c = base::ToUpperChar(c);
   return chars;
 }
 
 std::u32string Lower(std::u32string chars) {
-  for (char32_t& c : chars) c = text::ToLowerChar(c);
+  for (char32_t& c : chars) c = base::ToLowerChar(c);
   return chars;
 }
 
 std::u32string FirstUpper(std::u32string chars) {
   chars = Lower(std::move(chars));
   if (chars.empty()) return chars;
-  chars[0] = text::ToUpperChar(chars[0]);
+  chars[0] = base::ToUpperChar(chars[0]);
   // An extension in brackets keeps its dot and gets its first letter up.
-  if (chars[0] == U'.' && chars.size() >= 2) chars[1] = text::ToUpperChar(chars[1]);
+  if (chars[0] == U'.' && chars.size() >= 2) chars[1] = base::ToUpperChar(chars[1]);
   return chars;
 }
 
 std::u32string WordsUpper(std::u32string chars) {
   chars = Lower(std::move(chars));
   if (chars.empty()) return chars;
-  chars[0] = text::ToUpperChar(chars[0]);
+  chars[0] = base::ToUpperChar(chars[0]);
   for (std::size_t i = 1; i < chars.size(); ++i) {
-    if (!IsWordCharacter(chars[i - 1])) chars[i] = text::ToUpperChar(chars[i]);
+    if (!IsWordCharacter(chars[i - 1])) chars[i] = base::ToUpperChar(chars[i]);
   }
   return chars;
 }
 
 std::u32string Swapped(std::u32string chars) {
   for (char32_t& c : chars) {
-    const char32_t lower = text::ToLowerChar(c);
-    c = lower == c ? text::ToUpperChar(c) : lower;
+    const char32_t lower = base::ToLowerChar(c);
+    c = lower == c ? base::ToUpperChar(c) : lower;
   }
   return chars;
 }
@@ -53,7 +53,7 @@ bool IsWordCharacter(char32_t c) {
     return c == 39 || (c >= 65 && c <= 90) || (c >= 96 && c <= 122) || (c >= 192 && c <= 214) ||
            (c >= 216 && c <= 246) || c >= 248;
   }
-  if (text::IsRawByte(c)) return false;
+  if (base::IsRawByte(c)) return false;
   switch (utf8proc_category(static_cast<utf8proc_int32_t>(c))) {
     case UTF8PROC_CATEGORY_LU:
     case UTF8PROC_CATEGORY_LL:
@@ -67,7 +67,7 @@ bool IsWordCharacter(char32_t c) {
 }
 
 std::string ConvertCase(std::string_view code, std::string_view text) {
-  std::u32string chars = text::ToChars(text);
+  std::u32string chars = base::ToChars(text);
   if (code == "UC") {
     chars = Upper(std::move(chars));
   } else if (code == "LC") {
@@ -79,7 +79,7 @@ std::string ConvertCase(std::string_view code, std::string_view text) {
   } else if (code == "SC") {
     chars = Swapped(std::move(chars));
   }
-  return text::FromChars(chars);
+  return base::FromChars(chars);
 }
 
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-namespace nomra {
+namespace nomra::structure {
 
 // The conversions of the case brackets, by code: "UC" all upper, "LC" all
 // lower, "1C" first character upper and the rest lower (and the second
@@ -17,4 +17,4 @@ std::string ConvertCase(std::string_view code, std::string_view text);
 // Latin-1, every Unicode letter.
 bool IsWordCharacter(char32_t c);
 
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-namespace nomra {
+namespace nomra::structure {
 
 // Pieces of a text counted in characters, never cut inside one.
 std::string LeftCharacters(std::string_view text, long count);
@@ -16,4 +16,4 @@ std::string MiddleCharacters(std::string_view text, long start, long count);
 // an empty text brings about.
 std::string SliceCharacters(std::string_view text, long a, long b);
 
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -6,7 +6,7 @@
 #include <limits>
 #include <string>
 
-namespace nomra {
+namespace nomra::structure {
 
 std::optional<double> ParseLanguageNumber(std::string_view text) {
   std::size_t i = 0;
@@ -36,4 +36,4 @@ long WholeNumberOr(std::string_view text, long fallback) {
   return ToWholeNumber(*number).value_or(fallback);
 }
 
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -2,7 +2,7 @@
 #include <optional>
 #include <string_view>
 
-namespace nomra {
+namespace nomra::structure {
 
 // A number as the structure language reads it: an optional sign, digits and
 // an optional fraction ("-2", "3.5", ".5"); nothing for any other text.
@@ -16,4 +16,4 @@ std::optional<long> ToWholeNumber(double number);
 // or beyond 32 bits.
 long WholeNumberOr(std::string_view text, long fallback);
 
-}  // namespace nomra
+}  // namespace nomra::structure

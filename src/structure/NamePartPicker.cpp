@@ -6,7 +6,7 @@
 #include "structure/TagArguments.h"
 #include "structure/TextSearch.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 namespace {
 
@@ -26,7 +26,7 @@ std::vector<std::string> PartNumbers() {
 
 }  // namespace
 
-NamePartPicker::NamePartPicker(const FileList& list) : list_(list), dialog_("frmSelNamePart") {
+NamePartPicker::NamePartPicker(const core::FileList& list) : list_(list), dialog_("frmSelNamePart") {
   dialog_.AddNoValue("lblSeparator");
   dialog_.AddText(kSeparatorInput);
   dialog_.AddNoValue("lblPartCount");
@@ -87,14 +87,14 @@ std::string NamePartPicker::TagText() const {
 }
 
 void NamePartPicker::RefreshPreview() {
-  const FileEntry* entry = PreviewEntry(dialog_, list_);
-  dialog_.SetText(kFileNameInput, entry == nullptr ? std::string() : (*entry)[kColNewName]);
+  const core::FileEntry* entry = PreviewEntry(dialog_, list_);
+  dialog_.SetText(kFileNameInput, entry == nullptr ? std::string() : (*entry)[core::kColNewName]);
   if (entry == nullptr || !OkEnabled()) {
     dialog_.SetText(kResultInput, {});
     return;
   }
-  dialog_.SetText(kResultInput, NamePart(NameOnly((*entry)[kColNewName]), dialog_.Text(kSeparatorInput),
+  dialog_.SetText(kResultInput, NamePart(base::NameOnly((*entry)[core::kColNewName]), dialog_.Text(kSeparatorInput),
                                          dialog_.Number(kPartInput) + 1, dialog_.Number(kBlanksInput)));
 }
 
-}  // namespace nomra
+}  // namespace nomra::structure

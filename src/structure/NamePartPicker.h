@@ -5,7 +5,7 @@
 #include "core/FileList.h"
 #include "dialog/DialogModel.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 // The dialog frmSelNamePart without a window: it builds a <NamePart( tag
 // from a separator, a part number (1 to 9) and whether blanks go, with a
@@ -13,7 +13,7 @@ namespace nomra {
 // and gives back the text its OK writes there.
 class NamePartPicker {
  public:
-  explicit NamePartPicker(const FileList& list);
+  explicit NamePartPicker(const core::FileList& list);
 
   dialog::DialogModel& Model() { return dialog_; }
   const dialog::DialogModel& Model() const { return dialog_; }
@@ -37,8 +37,8 @@ class NamePartPicker {
   void RefreshPreview();
 
  private:
-  const FileList& list_;
+  const core::FileList& list_;
   dialog::DialogModel dialog_;
 };
 
-}  // namespace nomra
+}  // namespace nomra::structure

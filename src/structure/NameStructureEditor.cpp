@@ -12,7 +12,7 @@
 #include "structure/PreviewRow.h"
 #include "structure/StructureEngine.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 namespace {
 
@@ -22,11 +22,11 @@ constexpr char kFileNameInput[] = "txtFileName";
 constexpr char kResultInput[] = "txtResult";
 constexpr char kNewStructureName[] = "Structure ";
 
-bool HoldsText(const std::string& text) { return !TrimBlanks(text).empty(); }
+bool HoldsText(const std::string& text) { return !base::TrimBlanks(text).empty(); }
 
 }  // namespace
 
-NameStructureEditor::NameStructureEditor(const ActionContext& context, const lang::MessageCatalog& catalog)
+NameStructureEditor::NameStructureEditor(const rename::ActionContext& context, const lang::MessageCatalog& catalog)
     : context_(context), catalog_(catalog), dialog_("frmNameStructure") {
   for (const char* name : {"frameMain", "lstStructures", "cmdStructureAdd", "cmdStructureEdit", "cmdStructureDel",
                            "frameEdit", "lblName"}) {
@@ -43,7 +43,7 @@ NameStructureEditor::NameStructureEditor(const ActionContext& context, const lan
   AddPreviewScrollBar(dialog_);
   dialog_.AddNoValue("lblPreview");
   dialog_.AddText(kResultInput);
-  AddFrameButtons(dialog_);
+  rename::AddFrameButtons(dialog_);
 }
 
 std::string NameStructureEditor::StructuresFile() const { return StructuresFilePath(context_.script.dataFolder); }
@@ -88,19 +88,19 @@ void NameStructureEditor::SetPreviewRow(int row) {
 
 void NameStructureEditor::RefreshPreview() {
   if (loading_) return;
-  const FileEntry* entry = PreviewEntry(dialog_, context_.State().list);
+  const core::FileEntry* entry = PreviewEntry(dialog_, context_.State().list);
   if (entry == nullptr) {
     dialog_.SetText(kFileNameInput, {});
     dialog_.SetText(kResultInput, {});
     return;
   }
-  dialog_.SetText(kFileNameInput, (*entry)[kColNewName]);
+  dialog_.SetText(kFileNameInput, (*entry)[core::kColNewName]);
   // A structure that faults shows why in the result: a message box on each
   // key typed would be in the way of mending it.
   std::string result;
   try {
     result = EvaluateStructure(context_.State().list.Item(dialog_.Number(kPreviewScrollBar)), dialog_.Text(kStructureInput));
-  } catch (const RuntimeFault& fault) {
+  } catch (const base::RuntimeFault& fault) {
     result = fault.what();
   }
   dialog_.SetText(kResultInput, std::move(result));
@@ -119,9 +119,9 @@ void NameStructureEditor::Edit() {
 
 void NameStructureEditor::Delete() {
   if (chosen_ < 0) return;
-  const Answer answer = context_.User().Ask(
-      {lang::kRemoveStructureQuestion, lang::kRemoveStructureCaption, MessageStyle::YesNoDefaultNo, {structures_[chosen_].name}});
-  if (answer != Answer::Yes) return;
+  const core::Answer answer = context_.User().Ask(
+      {lang::kRemoveStructureQuestion, lang::kRemoveStructureCaption, core::MessageStyle::YesNoDefaultNo, {structures_[chosen_].name}});
+  if (answer != core::Answer::Yes) return;
   structures_.erase(structures_.begin() + chosen_);
   Choose(std::min(chosen_, static_cast<int>(structures_.size()) - 1));
 }
@@ -162,7 +162,7 @@ bool NameStructureEditor::CheckStructure() {
                           catalog_.GetText(lang::kMessagesSection, lang::kCorrectSyntaxText)};
   try {
     lastFailure_ = CheckStructureSyntax(context_.State().list, dialog_.Text(kStructureInput), texts);
-  } catch (const RuntimeFault& fault) {
+  } catch (const base::RuntimeFault& fault) {
     // The test evaluation met one of the language's faults: the structure
     // can't be used as it stands.
     lastFailure_ = SyntaxFailure{};
@@ -174,4 +174,4 @@ bool NameStructureEditor::CheckStructure() {
   return false;
 }
 
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -10,7 +10,7 @@
 #include "structure/SyntaxCheck.h"
 #include "structure/TagChoices.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 // What cmdStructureOK will do with the edited name and structure.
 enum class StructureEditMode { None, Add, Edit };
@@ -21,7 +21,7 @@ enum class StructureEditMode { None, Add, Edit };
 // records no script step.
 class NameStructureEditor {
  public:
-  NameStructureEditor(const ActionContext& context, const lang::MessageCatalog& catalog);
+  NameStructureEditor(const rename::ActionContext& context, const lang::MessageCatalog& catalog);
 
   dialog::DialogModel& Model() { return dialog_; }
   const dialog::DialogModel& Model() const { return dialog_; }
@@ -85,7 +85,7 @@ class NameStructureEditor {
   void ShowChosen();
   std::string StructuresFile() const;
 
-  ActionContext context_;
+  rename::ActionContext context_;
   const lang::MessageCatalog& catalog_;
   dialog::DialogModel dialog_;
   std::vector<StoredStructure> structures_;
@@ -97,4 +97,4 @@ class NameStructureEditor {
   std::optional<SyntaxFailure> lastFailure_;
 };
 
-}  // namespace nomra
+}  // namespace nomra::structure

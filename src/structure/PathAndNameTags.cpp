@@ -12,7 +12,7 @@
 #include "structure/LanguageNumber.h"
 #include "structure/TextSearch.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 namespace {
 
@@ -26,7 +26,7 @@ std::optional<double> NumericArgument(const std::string& arg, std::string_view h
 
 long WholeForSlice(double number) {
   const std::optional<long> whole = ToWholeNumber(number);
-  if (!whole) throw RuntimeFault("a position of an _M tag beyond 32 bits");
+  if (!whole) throw base::RuntimeFault("a position of an _M tag beyond 32 bits");
   return *whole;
 }
 
@@ -41,8 +41,8 @@ std::optional<long> CountOf(double number) {
 // The folder that holds the file: its column without the trailing
 // separator, from behind the last separator on; "" at the root.
 std::string FolderName(std::string_view folderColumn) {
-  if (!folderColumn.empty() && folderColumn.back() == kPathSeparator) folderColumn.remove_suffix(1);
-  const std::size_t separator = folderColumn.rfind(kPathSeparator);
+  if (!folderColumn.empty() && folderColumn.back() == base::kPathSeparator) folderColumn.remove_suffix(1);
+  const std::size_t separator = folderColumn.rfind(base::kPathSeparator);
   if (separator == std::string_view::npos) return {};
   return std::string(folderColumn.substr(separator + 1));
 }
@@ -50,7 +50,7 @@ std::string FolderName(std::string_view folderColumn) {
 // Most structures hold few of the plain tags: a tag that isn't there costs
 // a look, not a new text.
 void ReplaceTag(std::string& s, std::string_view tag, std::string_view value) {
-  if (HoldsTagNoCase(s, tag)) s = ReplaceText(s, tag, value, 1, kReplaceAll, kIgnoreCase);
+  if (HoldsTagNoCase(s, tag)) s = base::ReplaceText(s, tag, value, 1, base::kReplaceAll, kIgnoreCase);
 }
 
 }  // namespace
@@ -80,7 +80,7 @@ void ReplacePathTags(std::string& s, std::string_view folderColumn) {
 }
 
 void ReplaceNameTags(std::string& s, std::string_view pending) {
-  const std::string stem = NameOnly(pending);
+  const std::string stem = base::NameOnly(pending);
   ReplaceTag(s, "<NAME>", stem);
   RunBracketLoop(s, "<NAME_L(", 1, 1, [&](const TagArguments& args) -> std::string {
     const std::optional<double> n = NumericArgument(args[0], pending);
@@ -103,16 +103,16 @@ void ReplaceNameTags(std::string& s, std::string_view pending) {
   RunBracketLoop(s, "<NAMEPART(", 1, static_cast<std::size_t>(-1), [&](const TagArguments& args) {
     const long index = args.size() >= 2 ? WholeNumberOr(args[1], 1) : 1;
     const long trim = args.size() >= 3 ? WholeNumberOr(args[2], 1) : 1;
-    return NamePart(stem, WithoutDoubleQuotes(args[0]), index, trim);
+    return NamePart(stem, base::WithoutDoubleQuotes(args[0]), index, trim);
   });
 }
 
 void ReplaceExtensionTags(std::string& s, std::string_view pending) {
   if (!HoldsTagNoCase(s, "EXT>") && !HoldsTagNoCase(s, "<BLANK>")) return;
-  const std::string extension = ExtensionOnly(pending, true);
+  const std::string extension = base::ExtensionOnly(pending, true);
   ReplaceTag(s, "<EXT>", std::string_view(extension).substr(extension.empty() ? 0 : 1));
   ReplaceTag(s, "<.EXT>", extension);
   ReplaceTag(s, "<BLANK>", " ");
 }
 
-}  // namespace nomra
+}  // namespace nomra::structure

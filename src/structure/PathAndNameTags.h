@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-namespace nomra {
+namespace nomra::structure {
 
 // The path family: <PATH>, then every <PATH_L(, <PATH_R( and <PATH_M(. They
 // share one value, the name of the folder that holds the file, which each
@@ -16,4 +16,4 @@ void ReplaceNameTags(std::string& s, std::string_view pending);
 // <EXT>, <.EXT> and <BLANK>.
 void ReplaceExtensionTags(std::string& s, std::string_view pending);
 
-}  // namespace nomra
+}  // namespace nomra::structure

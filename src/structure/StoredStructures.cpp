@@ -3,7 +3,7 @@
 #include "formats/DelimitedText.h"
 #include "settings/SettingsKeys.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 namespace {
 
@@ -37,4 +37,4 @@ bool SaveStoredStructures(platform::FileSystem& fileSystem, const std::string& f
   return formats::SaveListToFile(fileSystem, file, kSeparator, kHeader, list);
 }
 
-}  // namespace nomra
+}  // namespace nomra::structure

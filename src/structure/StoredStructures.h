@@ -4,7 +4,7 @@
 
 #include "platform/FileSystem.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 // A named name structure as the structure editor keeps it.
 struct StoredStructure {
@@ -26,4 +26,4 @@ std::vector<StoredStructure> LoadStoredStructures(platform::FileSystem& fileSyst
 bool SaveStoredStructures(platform::FileSystem& fileSystem, const std::string& file,
                           const std::vector<StoredStructure>& structures);
 
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -4,7 +4,7 @@
 #include "structure/PathAndNameTags.h"
 #include "structure/TextSearch.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 namespace {
 
@@ -21,11 +21,11 @@ const MetadataSteps& NoMetadataReaders() {
 
 // One fixed series of textual steps, each open to what the ones before it
 // put in; the order and what each leaves behind are the language.
-std::string EvaluateStructure(FileEntry& entry, std::string_view structure, const MetadataSteps& metadata) {
-  const std::string pending = entry[kColNewName];
+std::string EvaluateStructure(core::FileEntry& entry, std::string_view structure, const MetadataSteps& metadata) {
+  const std::string pending = entry[core::kColNewName];
   std::string s(structure.empty() ? std::string_view(pending) : structure);
 
-  if (HoldsTagNoCase(s, "<PATH")) ReplacePathTags(s, entry[kColPath]);
+  if (HoldsTagNoCase(s, "<PATH")) ReplacePathTags(s, entry[core::kColPath]);
   ReplaceNameTags(s, pending);
   ReplaceExtensionTags(s, pending);
 
@@ -44,4 +44,4 @@ std::string EvaluateStructure(FileEntry& entry, std::string_view structure, cons
   return s;
 }
 
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -5,14 +5,14 @@
 #include "core/FileEntry.h"
 #include "structure/MetadataSteps.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 // The new name (stem and extension) that a name structure gives for a row,
 // by the language's fixed series of substitutions. An empty structure takes
 // the row's pending name as the structure. Nothing is written to the row
 // but, at most, its EXIF date. Throws RuntimeFault at the language's
 // run-time faults.
-std::string EvaluateStructure(FileEntry& row, std::string_view structure,
+std::string EvaluateStructure(core::FileEntry& row, std::string_view structure,
                               const MetadataSteps& metadata = NoMetadataReaders());
 
-}  // namespace nomra
+}  // namespace nomra::structure

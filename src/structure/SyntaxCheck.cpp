@@ -7,7 +7,7 @@
 #include "structure/StructureEngine.h"
 #include "structure/TextSearch.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 namespace {
 
@@ -16,7 +16,7 @@ constexpr char kLineBreaks[] = "\n\n";
 constexpr std::string_view kCheckedCaseCodes[] = {"UC", "LC"};
 
 SyntaxFailure Failure(const char* textKey, std::vector<std::string> arguments) {
-  return {Message{textKey, lang::kStructureErrorCaption, MessageStyle::OkWarning, std::move(arguments)}, 0, 0};
+  return {core::Message{textKey, lang::kStructureErrorCaption, core::MessageStyle::OkWarning, std::move(arguments)}, 0, 0};
 }
 
 std::vector<std::size_t> MarkPositions(std::string_view text, std::string_view mark) {
@@ -34,7 +34,7 @@ std::optional<SyntaxFailure> CheckBracketWalk(std::string_view structure, const 
   bool open = false;
   int position = 0;
   int failedAt = 0;
-  text::ForEachChar(structure, [&](char32_t c, std::size_t, std::size_t) {
+  base::ForEachChar(structure, [&](char32_t c, std::size_t, std::size_t) {
     ++position;
     if (failedAt != 0 || (c != U'<' && c != U'>')) return;
     if ((c == U'<') == open) {
@@ -69,7 +69,7 @@ std::optional<SyntaxFailure> CheckCaseBrackets(std::string_view text, std::strin
   return Failure(lang::kStructureError4, {opening, closing, kLineBreaks + texts.correctSyntax});
 }
 
-std::optional<SyntaxFailure> CheckStructureSyntax(FileList& list, std::string_view structure,
+std::optional<SyntaxFailure> CheckStructureSyntax(core::FileList& list, std::string_view structure,
                                                   const SyntaxTexts& texts) {
   if (auto failure = CheckBracketWalk(structure, texts)) return failure;
   for (const std::string_view code : kCheckedCaseCodes) {
@@ -81,4 +81,4 @@ std::optional<SyntaxFailure> CheckStructureSyntax(FileList& list, std::string_vi
   return Failure(lang::kStructureError3, {texts.checkInput + kLineBreaks + texts.correctSyntax});
 }
 
-}  // namespace nomra
+}  // namespace nomra::structure

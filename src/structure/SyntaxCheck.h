@@ -6,7 +6,7 @@
 #include "core/FrontEnd.h"
 #include "core/FileList.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 // The language texts a failed check puts into its message: msgCheckInput
 // and msgCorrectSyntax of section Messages.
@@ -19,7 +19,7 @@ struct SyntaxTexts {
 // msgCapErrorStructure, OK), and the characters of the structure to select,
 // from 1; a start of 0 selects nothing.
 struct SyntaxFailure {
-  Message message;
+  core::Message message;
   int selectionStart = 0;
   int selectionLength = 0;
 };
@@ -35,7 +35,7 @@ std::optional<SyntaxFailure> CheckCaseBrackets(std::string_view text, std::strin
 // brackets must pair up, and a test evaluation on row 1 must leave no "<" or
 // ">". An empty list has no row to test on, so that step is left out there.
 // A run-time fault of the test evaluation is thrown on to the caller.
-std::optional<SyntaxFailure> CheckStructureSyntax(FileList& list, std::string_view structure,
+std::optional<SyntaxFailure> CheckStructureSyntax(core::FileList& list, std::string_view structure,
                                                   const SyntaxTexts& texts);
 
-}  // namespace nomra
+}  // namespace nomra::structure

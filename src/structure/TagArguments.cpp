@@ -6,7 +6,7 @@
 #include "structure/LanguageNumber.h"
 #include "structure/TextSearch.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 namespace {
 
@@ -16,7 +16,7 @@ constexpr char kError[] = "<ERROR>";
 
 // The character position (from 1) of a byte offset.
 long CharacterPosition(std::string_view text, std::size_t byteOffset) {
-  return static_cast<long>(text::CharCount(text.substr(0, byteOffset))) + 1;
+  return static_cast<long>(base::CharCount(text.substr(0, byteOffset))) + 1;
 }
 
 // Where the walk over find('s arguments stops: on the bracket that closes
@@ -78,13 +78,13 @@ TagArguments SplitArguments(std::string_view text) {
     } else if (!inQuotes && c == ')') {
       --depth;
     } else if (!inQuotes && depth == 0 && c == ',') {
-      args.back() = std::string(TrimSpaces(args.back()));
+      args.back() = std::string(base::TrimSpaces(args.back()));
       due = true;
       continue;
     }
     args.back() += c;
   }
-  if (!args.empty() && !due) args.back() = std::string(TrimSpaces(args.back()));
+  if (!args.empty() && !due) args.back() = std::string(base::TrimSpaces(args.back()));
   return args;
 }
 
@@ -102,7 +102,7 @@ long NthPosition(std::string_view haystack, std::string_view needle, long n) {
     hit = haystack.find(needle, from);
     if (hit == std::string_view::npos) return 0;
     char32_t c;
-    from = hit + text::DecodeAt(haystack, hit, c);
+    from = hit + base::DecodeAt(haystack, hit, c);
   }
   return CharacterPosition(haystack, hit);
 }
@@ -128,16 +128,16 @@ std::string NamePart(std::string_view stem, std::string_view delimiter, long ind
     const std::size_t end = next == std::string_view::npos ? stem.size() : next;
     if (field == index) {
       const std::string_view part = stem.substr(start, end - start);
-      if (trim == 1) return std::string(TrimSpaces(part));
+      if (trim == 1) return std::string(base::TrimSpaces(part));
       if (trim == 0 || trim == -1) return std::string(part);
-      throw RuntimeFault("<NAMEPART(: the third argument must be 0, 1 or -1, not " + std::to_string(trim));
+      throw base::RuntimeFault("<NAMEPART(: the third argument must be 0, 1 or -1, not " + std::to_string(trim));
     }
     if (next == std::string_view::npos) break;
     start = next + delimiter.size();
     ++field;
   }
-  if (index < 1) throw RuntimeFault("<NAMEPART(: the part number must be 1 or more, not " + std::to_string(index));
+  if (index < 1) throw base::RuntimeFault("<NAMEPART(: the part number must be 1 or more, not " + std::to_string(index));
   return {};
 }
 
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -3,7 +3,7 @@
 #include <string_view>
 #include <vector>
 
-namespace nomra {
+namespace nomra::structure {
 
 // The arguments of a bracket tag such as <NAME_M(2,5)>, 1-based in the
 // language's sense, held here from index 0.
@@ -37,4 +37,4 @@ std::string ResolveFind(std::string_view text, std::string_view haystack);
 // 1 or -1.
 std::string NamePart(std::string_view stem, std::string_view delimiter, long index, long trim);
 
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -2,7 +2,7 @@
 
 #include "lang/LanguageKeys.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 namespace {
 
@@ -41,4 +41,4 @@ std::vector<TagChoice> FunctionChoices(const lang::MessageCatalog& catalog) {
   return ReadTagChoices(catalog, kFunctionList);
 }
 
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -5,7 +5,7 @@
 
 #include "lang/MessageCatalog.h"
 
-namespace nomra {
+namespace nomra::structure {
 
 // A tag the structure editor offers: the label a person reads and the tag
 // it puts into the structure.
@@ -28,4 +28,4 @@ std::vector<TagChoice> ElementChoices(const lang::MessageCatalog& catalog);
 // What lstFunctions offers: the list cmbFunctions.
 std::vector<TagChoice> FunctionChoices(const lang::MessageCatalog& catalog);
 
-}  // namespace nomra
+}  // namespace nomra::structure

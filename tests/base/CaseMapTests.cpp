@@ -8,7 +8,7 @@
 
 #include "base/Utf8.h"
 
-namespace nomra::text {
+namespace nomra::base {
 namespace {
 
 TEST(BaseCaseMap, AsciiLettersChangeCaseOtherAsciiStays) {
@@ -146,4 +146,4 @@ TEST(BaseCaseMap, StartsWithNoCase) {
 }
 
 }  // namespace
-}  // namespace nomra::text
+}  // namespace nomra::base

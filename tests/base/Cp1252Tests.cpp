@@ -6,7 +6,7 @@
 
 #include "base/Utf8.h"
 
-namespace nomra::text {
+namespace nomra::base {
 namespace {
 
 std::string Byte(unsigned char b) { return std::string(1, static_cast<char>(b)); }
@@ -101,4 +101,4 @@ TEST(BaseCp1252, TextFileThatIsNotUtf8IsReadAsWindows1252) {
 }
 
 }  // namespace
-}  // namespace nomra::text
+}  // namespace nomra::base

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-namespace nomra::text {
+namespace nomra::base {
 namespace {
 
 // Sets TZ for one test and puts the earlier value back afterwards.
@@ -56,4 +56,4 @@ TEST(BaseDateText, DefaultListDateHasTheListForm) {
 }
 
 }  // namespace
-}  // namespace nomra::text
+}  // namespace nomra::base

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-namespace nomra {
+namespace nomra::base {
 namespace {
 
 TEST(BaseHelpers, AddBackslashAppendsTheSeparatorWhenMissing) {
@@ -104,4 +104,4 @@ TEST(Helpers, TrimSpacesLeavesTabsAndInnerBlanks) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::base

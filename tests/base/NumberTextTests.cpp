@@ -8,7 +8,7 @@
 
 #include "support/ScopedEnvironment.h"
 
-namespace nomra::text {
+namespace nomra::base {
 
 using nomra::testing::ScopedEnvironment;
 namespace {
@@ -77,4 +77,4 @@ TEST(BaseNumberText, PaddingNeverCutsALongerNumber) {
 }
 
 }  // namespace
-}  // namespace nomra::text
+}  // namespace nomra::base

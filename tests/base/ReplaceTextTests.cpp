@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace nomra {
+namespace nomra::base {
 namespace {
 
 constexpr int kExact = 0;
@@ -71,4 +71,4 @@ TEST(ReplaceTextTest, BytesThatAreNoUtf8StayAsTheyAre) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::base

@@ -6,7 +6,7 @@
 #include <tuple>
 #include <vector>
 
-namespace nomra::text {
+namespace nomra::base {
 namespace {
 
 constexpr char32_t Raw(unsigned char b) { return kRawByteBase + b; }
@@ -132,4 +132,4 @@ TEST(BaseUtf8, EmptyTextHasNoCharacters) {
 }
 
 }  // namespace
-}  // namespace nomra::text
+}  // namespace nomra::base

@@ -6,7 +6,7 @@
 #include <ostream>
 #include <string>
 
-namespace nomra::text {
+namespace nomra::base {
 namespace {
 
 struct WildcardCase {
@@ -153,4 +153,4 @@ TEST(BaseWildcard, PathologicalPatternFinishesQuickly) {
 }
 
 }  // namespace
-}  // namespace nomra::text
+}  // namespace nomra::base

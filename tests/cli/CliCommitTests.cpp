@@ -142,7 +142,7 @@ TEST_F(CliCommit, JsonAfterASuccessfulCommitHasAnEmptyReportAndTheNewNames) {
   const JsonValue document = RunJson(EditAToB({"--commit"}));
 
   EXPECT_TRUE(document["report"].items.empty());
-  EXPECT_EQ(ColumnOfRows(document, kColOldName), Names{"b.txt"});
+  EXPECT_EQ(ColumnOfRows(document, core::kColOldName), Names{"b.txt"});
   EXPECT_EQ(document["rows"][0]["key"].text, files.Path() + "b.txt");
 }
 

@@ -250,7 +250,7 @@ TEST_F(CliHistory, FolderNamedHistoryIsLoadedAfterTheEndOfOptions) {
   const CliResult result = RunCli(launch);
 
   EXPECT_EQ(result.exitStatus, 0) << result.err;
-  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), kColOldName), (Texts{"inside.txt"}));
+  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), core::kColOldName), (Texts{"inside.txt"}));
 }
 
 }  // namespace

@@ -26,16 +26,16 @@ TEST_F(CliLoading, FolderLoadsWholeWithEveryColumnOfEveryFile) {
   ASSERT_EQ(document["rows"].items.size(), 3u);
   for (const JsonValue& row : document["rows"].items) {
     ASSERT_EQ(row["columns"].items.size(), 21u);
-    const std::string& folder = row["columns"][kColPath].text;
-    const std::string& name = row["columns"][kColOldName].text;
+    const std::string& folder = row["columns"][core::kColPath].text;
+    const std::string& name = row["columns"][core::kColOldName].text;
     EXPECT_EQ(row["key"].text, folder + name);
-    EXPECT_EQ(row["columns"][kColNewName].text, name);
+    EXPECT_EQ(row["columns"][core::kColNewName].text, name);
     EXPECT_FALSE(row["selected"].boolean);
     EXPECT_TRUE(folder == top || folder == top + "sub/") << folder;
   }
-  EXPECT_EQ(Sorted(ColumnOfRows(document, kColOldName)), (std::vector<std::string>{"a.txt", "b.txt", "c.txt"}));
-  EXPECT_EQ(RowNamed(document, "a.txt")["columns"][kColSize].text, "5");
-  EXPECT_EQ(RowNamed(document, "c.txt")["columns"][kColPath].text, top + "sub/");
+  EXPECT_EQ(Sorted(ColumnOfRows(document, core::kColOldName)), (std::vector<std::string>{"a.txt", "b.txt", "c.txt"}));
+  EXPECT_EQ(RowNamed(document, "a.txt")["columns"][core::kColSize].text, "5");
+  EXPECT_EQ(RowNamed(document, "c.txt")["columns"][core::kColPath].text, top + "sub/");
   EXPECT_EQ(document["files"].number, 3);
   EXPECT_EQ(document["folders"].number, 2);
   EXPECT_EQ(document["changed"].number, 0);
@@ -48,7 +48,7 @@ TEST_F(CliLoading, FileGivenTwiceIsListedOnce) {
 
   const JsonValue document = RunJson({file, file, files.Path()});
 
-  EXPECT_EQ(Sorted(ColumnOfRows(document, kColOldName)), (std::vector<std::string>{"a.txt", "b.txt"}));
+  EXPECT_EQ(Sorted(ColumnOfRows(document, core::kColOldName)), (std::vector<std::string>{"a.txt", "b.txt"}));
   EXPECT_EQ(document["files"].number, 2);
 }
 
@@ -75,7 +75,7 @@ TEST_F(CliLoading, MissingPathIsReportedAndTheOtherPathsStillLoad) {
   EXPECT_NE(result.err.find("nomra-cli: "), std::string::npos) << result.err;
   EXPECT_NE(result.err.find(missing), std::string::npos) << result.err;
   const JsonValue document = ParseJson(result.out);
-  EXPECT_EQ(ColumnOfRows(document, kColOldName), (std::vector<std::string>{"a.txt", "b.txt"}));
+  EXPECT_EQ(ColumnOfRows(document, core::kColOldName), (std::vector<std::string>{"a.txt", "b.txt"}));
 }
 
 TEST_F(CliLoading, WithCheckExistenceMissingPathIsSkippedSilently) {
@@ -86,13 +86,13 @@ TEST_F(CliLoading, WithCheckExistenceMissingPathIsSkippedSilently) {
 
   EXPECT_EQ(result.exitStatus, 0);
   EXPECT_TRUE(result.err.empty()) << result.err;
-  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), kColOldName), std::vector<std::string>{"a.txt"});
+  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), core::kColOldName), std::vector<std::string>{"a.txt"});
 }
 
 TEST_F(CliLoading, PathsLoadBeforeStepsThatStandBeforeThem) {
   const std::string file = files.WriteFile("a.txt");
   const JsonValue document = RunJson({"--edit", "renamed.txt", file});
-  EXPECT_EQ(ColumnOfRows(document, kColNewName), std::vector<std::string>{"renamed.txt"});
+  EXPECT_EQ(ColumnOfRows(document, core::kColNewName), std::vector<std::string>{"renamed.txt"});
   EXPECT_EQ(document["changed"].number, 1);
 }
 

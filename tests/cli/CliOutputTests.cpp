@@ -72,7 +72,7 @@ TEST_F(CliOutput, NameWithAByteThatIsNotUtf8ShowsAsEscapeAndTheRowStillWorks) {
   const JsonValue& row = RowNamed(document, "bad\xE9.txt");
   EXPECT_EQ(row["key"].text, files.Path() + "bad\xE9.txt");
   EXPECT_TRUE(row["selected"].boolean);
-  EXPECT_EQ(row["columns"][kColNewName].text, "good.txt");
+  EXPECT_EQ(row["columns"][core::kColNewName].text, "good.txt");
   EXPECT_EQ(document["changed"].number, 1);
 }
 
@@ -96,7 +96,7 @@ TEST_F(CliOutput, JsonEscapesQuoteBackslashAndControlCharacters) {
   EXPECT_NE(result.out.find("\"line\\nbreak\\u0001.txt\""), std::string::npos) << result.out;
   const JsonValue document = ParseJson(result.out);
   EXPECT_EQ(RowNamed(document, "a\"b.txt")["key"].text, files.Path() + "a\"b.txt");
-  EXPECT_EQ(RowNamed(document, "line\nbreak\x01.txt")["columns"][kColNewName].text, "line\nbreak\x01.txt");
+  EXPECT_EQ(RowNamed(document, "line\nbreak\x01.txt")["columns"][core::kColNewName].text, "line\nbreak\x01.txt");
 }
 
 TEST_F(CliOutput, JsonPassesNonAsciiTextAsItIs) {

@@ -18,13 +18,13 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-const std::string kMark(kTemporaryMark);
+const std::string kMark(commit::kTemporaryMark);
 
 class CliRecovery : public CliTest {
  protected:
   std::string JournalPath() const { return data.Path() + "commit.journal"; }
   void WriteJournal(const std::string& records) const {
-    data.WriteFile("commit.journal", std::string(kJournalHeader) + records);
+    data.WriteFile("commit.journal", std::string(commit::kJournalHeader) + records);
   }
   Names KeptJournals() const {
     Names kept;
@@ -38,20 +38,20 @@ class CliRecovery : public CliTest {
 
 TEST_F(CliRecovery, TemporaryNameLeftByACrashIsFinishedBeforeThePathsLoad) {
   files.WriteFile("b" + kMark, "alpha");
-  WriteJournal(JournalTemporaryRecord(files.Path() + "a", files.Path() + "b" + kMark, files.Path() + "b"));
+  WriteJournal(commit::JournalTemporaryRecord(files.Path() + "a", files.Path() + "b" + kMark, files.Path() + "b"));
 
   const CliResult result = Run({"--json", files.Path()});
 
   EXPECT_EQ(result.exitStatus, 0) << result.err;
   EXPECT_EQ(result.err, "nomra-cli: interrupted commit: finished \"" + files.Path() + "b" + kMark + "\" -> \"" +
                             files.Path() + "b\"\n");
-  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), kColOldName), Names{"b"});
+  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), core::kColOldName), Names{"b"});
   EXPECT_EQ(ReadWholeFile(files.Path() + "b"), "alpha");
   EXPECT_FALSE(Exists(JournalPath()));
 }
 
 TEST_F(CliRecovery, WhatCantBeSetRightIsPrintedFailsTheRunAndTheJournalIsKept) {
-  WriteJournal(JournalPlanRecord(files.Path() + "gone", files.Path() + "never"));
+  WriteJournal(commit::JournalPlanRecord(files.Path() + "gone", files.Path() + "never"));
 
   const CliResult result = Run({files.Path()});
 

@@ -27,8 +27,8 @@ TEST_F(CliScript, ScriptFileGivesThePendingNamesOfItsSteps) {
 
   const JsonValue document = RunJson({"--script", script, files.Path() + "pics"});
 
-  EXPECT_EQ(RowNamed(document, "beach.jpg")["columns"].items[kColNewName].text, "Rome 2009 beach_x.jpg");
-  EXPECT_EQ(RowNamed(document, "notes")["columns"].items[kColNewName].text, "Rome 2009 notes_x");
+  EXPECT_EQ(RowNamed(document, "beach.jpg")["columns"].items[core::kColNewName].text, "Rome 2009 beach_x.jpg");
+  EXPECT_EQ(RowNamed(document, "notes")["columns"].items[core::kColNewName].text, "Rome 2009 notes_x");
 }
 
 TEST_F(CliScript, BareNameIsLookedForInTheScriptsFolder) {
@@ -37,7 +37,7 @@ TEST_F(CliScript, BareNameIsLookedForInTheScriptsFolder) {
 
   const JsonValue document = RunJson({"--script", "20261115023303.nrs", files.Path() + "a.txt"});
 
-  EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[kColNewName].text, "Rome 2009 a_x.txt");
+  EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[core::kColNewName].text, "Rome 2009 a_x.txt");
 }
 
 TEST_F(CliScript, QuotesAroundTheNameAreDropped) {
@@ -46,7 +46,7 @@ TEST_F(CliScript, QuotesAroundTheNameAreDropped) {
 
   const JsonValue document = RunJson({"--script", "\"20261115023303.nrs\"", files.Path() + "a.txt"});
 
-  EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[kColNewName].text, "Rome 2009 a_x.txt");
+  EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[core::kColNewName].text, "Rome 2009 a_x.txt");
 }
 
 TEST_F(CliScript, MissingScriptIsAFaultOfItsStepAndTheOthersRun) {
@@ -57,7 +57,7 @@ TEST_F(CliScript, MissingScriptIsAFaultOfItsStepAndTheOthersRun) {
 
   EXPECT_EQ(result.exitStatus, 1);
   EXPECT_NE(result.err.find("--script: no script 'gone.nrs'"), std::string::npos) << result.err;
-  EXPECT_EQ(RowNamed(ParseJson(result.out), "a.txt")["columns"][kColNewName].text, "b.txt");
+  EXPECT_EQ(RowNamed(ParseJson(result.out), "a.txt")["columns"][core::kColNewName].text, "b.txt");
 }
 
 TEST_F(CliScript, StepsOfUnknownTypesArePassedOver) {
@@ -67,7 +67,7 @@ TEST_F(CliScript, StepsOfUnknownTypesArePassedOver) {
 
   const JsonValue document = RunJson({"--script", script, files.Path() + "a.txt"});
 
-  EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[kColNewName].text, "yes_a.txt");
+  EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[core::kColNewName].text, "yes_a.txt");
 }
 
 TEST_F(CliScript, ScriptWithoutStepsChangesNothing) {
@@ -77,7 +77,7 @@ TEST_F(CliScript, ScriptWithoutStepsChangesNothing) {
   const CliResult result = Run({"--script", script, "--json", files.Path() + "a.txt"});
 
   EXPECT_EQ(result.exitStatus, 0) << result.err;
-  EXPECT_EQ(RowNamed(ParseJson(result.out), "a.txt")["columns"][kColNewName].text, "a.txt");
+  EXPECT_EQ(RowNamed(ParseJson(result.out), "a.txt")["columns"][core::kColNewName].text, "a.txt");
 }
 
 TEST_F(CliScript, ScriptThatIsNotUtf8IsReadAsWindows1252) {
@@ -87,7 +87,7 @@ TEST_F(CliScript, ScriptThatIsNotUtf8IsReadAsWindows1252) {
 
   const JsonValue document = RunJson({"--script", script, files.Path() + "a.txt"});
 
-  EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[kColNewName].text, "\xC3\xA9t\xC3\xA9 a.txt");
+  EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[core::kColNewName].text, "\xC3\xA9t\xC3\xA9 a.txt");
 }
 
 TEST_F(CliScript, ScriptsPlayInOrderWithTheOtherSteps) {
@@ -97,7 +97,7 @@ TEST_F(CliScript, ScriptsPlayInOrderWithTheOtherSteps) {
   const JsonValue document =
       RunJson({"--structure", "base.txt", "--script", prefix, "--script", prefix, files.Path() + "a.txt"});
 
-  EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[kColNewName].text, "p_p_base.txt");
+  EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[core::kColNewName].text, "p_p_base.txt");
 }
 
 TEST_F(CliScript, ScriptActsOnTheScopeOnly) {
@@ -109,14 +109,14 @@ TEST_F(CliScript, ScriptActsOnTheScopeOnly) {
       RunJson({"--select", "b.txt", "--scope", "selected", "--script", prefix, files.Path() + "a.txt",
                files.Path() + "b.txt"});
 
-  EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[kColNewName].text, "a.txt");
-  EXPECT_EQ(RowNamed(document, "b.txt")["columns"].items[kColNewName].text, "p_b.txt");
+  EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[core::kColNewName].text, "a.txt");
+  EXPECT_EQ(RowNamed(document, "b.txt")["columns"].items[core::kColNewName].text, "p_b.txt");
 }
 
 TEST_F(CliScript, StructureWithoutTagsBecomesTheNameAsItStands) {
   files.WriteFile("a.txt");
   const JsonValue document = RunJson({"--structure", "Report 2024.txt", files.Path() + "a.txt"});
-  EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[kColNewName].text, "Report 2024.txt");
+  EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[core::kColNewName].text, "Report 2024.txt");
 }
 
 TEST_F(CliScript, StructureFaultSaysWhichRowStoppedAndWhy) {
@@ -126,7 +126,7 @@ TEST_F(CliScript, StructureFaultSaysWhichRowStoppedAndWhy) {
   EXPECT_NE(result.err.find("--structure: Row 1 of 1, a.txt: the case mark </UC> stands before its <UC>"),
             std::string::npos)
       << result.err;
-  EXPECT_EQ(RowNamed(ParseJson(result.out), "a.txt")["columns"][kColNewName].text, "a.txt");
+  EXPECT_EQ(RowNamed(ParseJson(result.out), "a.txt")["columns"][core::kColNewName].text, "a.txt");
 }
 
 TEST_F(CliScript, EvalPrintsEachResultAloneAndChangesNothing) {

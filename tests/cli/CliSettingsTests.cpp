@@ -47,7 +47,7 @@ TEST_F(CliSettings, SettingThatIsNotANumberIsReportedAndTheRunGoesOn) {
   const CliResult result = Run({"--json", file});
   EXPECT_EQ(result.exitStatus, 1);
   EXPECT_NE(result.err.find("nomra-cli: "), std::string::npos) << result.err;
-  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), kColOldName), Names{"a.txt"});
+  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), core::kColOldName), Names{"a.txt"});
 }
 
 TEST_F(CliSettings, UndoQuestionIsNotedAndItsDefaultYesLetsTheUndoHappen) {
@@ -58,7 +58,7 @@ TEST_F(CliSettings, UndoQuestionIsNotedAndItsDefaultYesLetsTheUndoHappen) {
 
   EXPECT_EQ(result.exitStatus, 0);
   EXPECT_EQ(result.err, "question MsgText07: answered Yes\n");
-  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), kColNewName), Names{"a.txt"});
+  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), core::kColNewName), Names{"a.txt"});
 }
 
 TEST_F(CliSettings, RejectQuestionDefaultsToNoSoNothingIsRejected) {
@@ -69,7 +69,7 @@ TEST_F(CliSettings, RejectQuestionDefaultsToNoSoNothingIsRejected) {
 
   EXPECT_EQ(result.exitStatus, 0);
   EXPECT_EQ(result.err, "question MsgText04: answered No\n");
-  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), kColNewName), Names{"b.txt"});
+  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), core::kColNewName), Names{"b.txt"});
 }
 
 TEST_F(CliSettings, YesAnswersTheRejectQuestionSoTheChangesGo) {
@@ -80,7 +80,7 @@ TEST_F(CliSettings, YesAnswersTheRejectQuestionSoTheChangesGo) {
 
   EXPECT_EQ(result.exitStatus, 0);
   EXPECT_EQ(result.err, "question MsgText04: answered Yes\n");
-  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), kColNewName), Names{"a.txt"});
+  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), core::kColNewName), Names{"a.txt"});
 }
 
 TEST_F(CliSettings, WithoutSecurityQuestionsNothingIsAsked) {

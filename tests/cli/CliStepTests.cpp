@@ -42,7 +42,7 @@ TEST_F(CliSteps, SelectIgnoresCase) {
 
 TEST_F(CliSteps, EditWithoutScopeRenamesEveryRow) {
   const JsonValue document = RunOn({"a.txt", "b.txt"}, {"--edit", "same.txt"});
-  EXPECT_EQ(ColumnOfRows(document, kColNewName), (Names{"same.txt", "same.txt"}));
+  EXPECT_EQ(ColumnOfRows(document, core::kColNewName), (Names{"same.txt", "same.txt"}));
   EXPECT_EQ(document["changed"].number, 2);
 }
 
@@ -50,25 +50,25 @@ TEST_F(CliSteps, SelectAndEditTwiceGiveTwoRowsTwoNames) {
   const JsonValue document = RunOn({"a.txt", "b.txt", "c.txt"}, {"--scope", "selected",  //
                                                                  "--select", "a.txt", "--edit", "first.txt",
                                                                  "--select", "b.txt", "--edit", "second.txt"});
-  EXPECT_EQ(ColumnOfRows(document, kColNewName), (Names{"first.txt", "second.txt", "c.txt"}));
+  EXPECT_EQ(ColumnOfRows(document, core::kColNewName), (Names{"first.txt", "second.txt", "c.txt"}));
   EXPECT_EQ(document["changed"].number, 2);
 }
 
 TEST_F(CliSteps, ScopeUnselectedEditsOnlyTheRowsNotSelected) {
   const JsonValue document =
       RunOn({"a.txt", "b.txt", "c.txt"}, {"--select", "b.txt", "--scope", "unselected", "--edit", "other.txt"});
-  EXPECT_EQ(ColumnOfRows(document, kColNewName), (Names{"other.txt", "b.txt", "other.txt"}));
+  EXPECT_EQ(ColumnOfRows(document, core::kColNewName), (Names{"other.txt", "b.txt", "other.txt"}));
 }
 
 TEST_F(CliSteps, ScopeAllAfterSelectedActsOnEveryRowAgain) {
   const JsonValue document = RunOn({"a.txt", "b.txt"}, {"--select", "a.txt", "--scope", "selected", "--edit",
                                                         "x.txt", "--scope", "all", "--edit", "y.txt"});
-  EXPECT_EQ(ColumnOfRows(document, kColNewName), (Names{"y.txt", "y.txt"}));
+  EXPECT_EQ(ColumnOfRows(document, core::kColNewName), (Names{"y.txt", "y.txt"}));
 }
 
 TEST_F(CliSteps, EditDropsTheCharactersANameCannotHold) {
   const JsonValue document = RunOn({"a.txt"}, {"--edit", "x\\y/z:w?v*u<t>s|r\"q.txt"});
-  EXPECT_EQ(ColumnOfRows(document, kColNewName), Names{"xyzwvutsrq.txt"});
+  EXPECT_EQ(ColumnOfRows(document, core::kColNewName), Names{"xyzwvutsrq.txt"});
 }
 
 TEST_F(CliSteps, EditOfOnlyBlanksIsIgnoredWithANote) {
@@ -76,24 +76,24 @@ TEST_F(CliSteps, EditOfOnlyBlanksIsIgnoredWithANote) {
   const CliResult result = Run({"--json", "--edit", "   ", paths[0]});
   EXPECT_EQ(result.exitStatus, 0);
   EXPECT_NE(result.err.find("only blanks"), std::string::npos) << result.err;
-  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), kColNewName), Names{"a.txt"});
+  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), core::kColNewName), Names{"a.txt"});
 }
 
 TEST_F(CliSteps, EditOfOnlyForbiddenCharactersIsIgnored) {
   const JsonValue document = RunOn({"a.txt"}, {"--edit", "**??"});
-  EXPECT_EQ(ColumnOfRows(document, kColNewName), Names{"a.txt"});
+  EXPECT_EQ(ColumnOfRows(document, core::kColNewName), Names{"a.txt"});
   EXPECT_EQ(document["changed"].number, 0);
 }
 
 TEST_F(CliSteps, UndoAfterTwoEditsGivesTheFirstEditsNames) {
   const JsonValue document = RunOn({"a.txt", "b.txt"}, {"--edit", "first.txt", "--edit", "second.txt", "--undo"});
-  EXPECT_EQ(ColumnOfRows(document, kColNewName), (Names{"first.txt", "first.txt"}));
+  EXPECT_EQ(ColumnOfRows(document, core::kColNewName), (Names{"first.txt", "first.txt"}));
 }
 
 TEST_F(CliSteps, TwoUndosAfterTwoEditsGiveTheOldNames) {
   const JsonValue document =
       RunOn({"a.txt", "b.txt"}, {"--edit", "first.txt", "--edit", "second.txt", "--undo", "--undo"});
-  EXPECT_EQ(ColumnOfRows(document, kColNewName), (Names{"a.txt", "b.txt"}));
+  EXPECT_EQ(ColumnOfRows(document, core::kColNewName), (Names{"a.txt", "b.txt"}));
   EXPECT_EQ(document["changed"].number, 0);
 }
 
@@ -101,7 +101,7 @@ TEST_F(CliSteps, RejectBringsEveryNameBack) {
   const JsonValue document = RunOn({"a.txt", "b.txt"}, {"--select", "a.txt", "--scope", "selected", "--edit",
                                                         "x.txt", "--scope", "unselected", "--edit", "y.txt",
                                                         "--reject"});
-  EXPECT_EQ(ColumnOfRows(document, kColNewName), (Names{"a.txt", "b.txt"}));
+  EXPECT_EQ(ColumnOfRows(document, core::kColNewName), (Names{"a.txt", "b.txt"}));
   EXPECT_EQ(document["changed"].number, 0);
 }
 
@@ -125,38 +125,38 @@ TEST_F(CliSteps, StepsTakeEffectInCommandLineOrder) {
   const CliResult result = Run({"--json", "--reject", "--edit", "new.txt", paths[0]});
   EXPECT_EQ(result.exitStatus, 0);
   EXPECT_NE(result.err.find("no pending changes"), std::string::npos) << result.err;
-  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), kColNewName), Names{"new.txt"});
+  EXPECT_EQ(ColumnOfRows(ParseJson(result.out), core::kColNewName), Names{"new.txt"});
 }
 
 TEST_F(CliSteps, SortByNewNameOrdersNumbersByValue) {
   const JsonValue ascending = RunOn({"f10.txt", "f2.txt"}, {"--sort", "new"});
-  EXPECT_EQ(ColumnOfRows(ascending, kColNewName), (Names{"f2.txt", "f10.txt"}));
+  EXPECT_EQ(ColumnOfRows(ascending, core::kColNewName), (Names{"f2.txt", "f10.txt"}));
 }
 
 TEST_F(CliSteps, SortDescendingReversesTheOrder) {
   const JsonValue descending = RunOn({"f2.txt", "f10.txt"}, {"--sort", "new:desc"});
-  EXPECT_EQ(ColumnOfRows(descending, kColNewName), (Names{"f10.txt", "f2.txt"}));
+  EXPECT_EQ(ColumnOfRows(descending, core::kColNewName), (Names{"f10.txt", "f2.txt"}));
 }
 
 TEST_F(CliSteps, SortByNewNameFollowsThePendingNames) {
   const JsonValue document = RunOn({"a.txt", "b.txt"}, {"--select", "a.txt", "--scope", "selected", "--edit",
                                                         "z.txt", "--sort", "new"});
-  EXPECT_EQ(ColumnOfRows(document, kColOldName), (Names{"b.txt", "a.txt"}));
+  EXPECT_EQ(ColumnOfRows(document, core::kColOldName), (Names{"b.txt", "a.txt"}));
 }
 
 TEST_F(CliSteps, SortByHeadNumberMatchesSortByName) {
   const JsonValue byNumber = RunOn({"b.txt", "a.txt", "c.txt"}, {"--sort", "3:desc"});
-  EXPECT_EQ(ColumnOfRows(byNumber, kColOldName), (Names{"c.txt", "b.txt", "a.txt"}));
+  EXPECT_EQ(ColumnOfRows(byNumber, core::kColOldName), (Names{"c.txt", "b.txt", "a.txt"}));
 }
 
 TEST_F(CliSteps, UnsortedKeepsTheLoadOrder) {
   const JsonValue document = RunOn({"z.txt", "a.txt", "m.txt"}, {"--sort", "21"});
-  EXPECT_EQ(ColumnOfRows(document, kColOldName), (Names{"z.txt", "a.txt", "m.txt"}));
+  EXPECT_EQ(ColumnOfRows(document, core::kColOldName), (Names{"z.txt", "a.txt", "m.txt"}));
 }
 
 TEST_F(CliSteps, UnsortedAfterASortKeepsTheSortedOrder) {
   const JsonValue document = RunOn({"z.txt", "a.txt", "m.txt"}, {"--sort", "old", "--sort", "unsorted"});
-  EXPECT_EQ(ColumnOfRows(document, kColOldName), (Names{"a.txt", "m.txt", "z.txt"}));
+  EXPECT_EQ(ColumnOfRows(document, core::kColOldName), (Names{"a.txt", "m.txt", "z.txt"}));
 }
 
 }  // namespace

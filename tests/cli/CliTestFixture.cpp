@@ -66,14 +66,14 @@ std::vector<std::string> ColumnOfRows(const JsonValue& document, int column) {
 std::vector<std::string> SelectedNames(const JsonValue& document) {
   std::vector<std::string> names;
   for (const JsonValue& row : document["rows"].items) {
-    if (row["selected"].boolean) names.push_back(row["columns"][kColOldName].text);
+    if (row["selected"].boolean) names.push_back(row["columns"][core::kColOldName].text);
   }
   return names;
 }
 
 const JsonValue& RowNamed(const JsonValue& document, const std::string& oldName) {
   for (const JsonValue& row : document["rows"].items) {
-    if (row["columns"][kColOldName].text == oldName) return row;
+    if (row["columns"][core::kColOldName].text == oldName) return row;
   }
   throw std::runtime_error("no row named " + oldName);
 }

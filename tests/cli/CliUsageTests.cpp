@@ -115,7 +115,7 @@ TEST_F(CliUsage, FlagOptionGivenAValueIsBadUsage) {
 TEST_F(CliUsage, ValueMayFollowAnEqualsSign) {
   files.WriteFile("a.txt");
   const JsonValue document = RunJson({"--edit=b.txt", files.Path()});
-  EXPECT_EQ(ColumnOfRows(document, kColNewName), std::vector<std::string>{"b.txt"});
+  EXPECT_EQ(ColumnOfRows(document, core::kColNewName), std::vector<std::string>{"b.txt"});
 }
 
 TEST_F(CliUsage, DoubleDashMakesTheRestPaths) {

@@ -148,7 +148,7 @@ class Reader {
       if (low < 0xDC00 || low > 0xDFFF) Fail("high surrogate without its low half");
       return 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00);
     }
-    if (unit >= 0xDC00 && unit <= 0xDFFF && !text::IsRawByte(unit)) Fail("lone surrogate");
+    if (unit >= 0xDC00 && unit <= 0xDFFF && !base::IsRawByte(unit)) Fail("lone surrogate");
     return unit;
   }
 
@@ -188,7 +188,7 @@ class Reader {
           out += '\t';
           break;
         case 'u':
-          text::AppendChar(out, UnicodeEscape());
+          base::AppendChar(out, UnicodeEscape());
           break;
         default:
           Fail("unknown escape");
@@ -222,7 +222,7 @@ bool JsonValue::Has(std::string_view name) const {
 }
 
 JsonValue ParseJson(std::string_view document) {
-  if (!text::IsValidUtf8(document)) throw std::runtime_error("JSON: the document is not valid UTF-8");
+  if (!base::IsValidUtf8(document)) throw std::runtime_error("JSON: the document is not valid UTF-8");
   return Reader(document).Document();
 }
 

@@ -61,7 +61,7 @@ platform::RenameResult CommitFileSystem::RenameNoReplace(const std::string& from
 int CommitFileSystem::TemporaryRenames() const {
   int count = 0;
   for (const auto& [from, to] : renames) {
-    if (to.ends_with(kTemporaryMark)) ++count;
+    if (to.ends_with(commit::kTemporaryMark)) ++count;
   }
   return count;
 }
@@ -70,10 +70,10 @@ std::optional<std::string> CommitFileSystem::FindAnySpelling(const std::string& 
   struct stat exact {};
   if (lstat(path.c_str(), &exact) == 0) return path;
   const auto [folder, leaf] = SplitPath(path);
-  const std::string folded = text::ToLower(leaf);
+  const std::string folded = base::ToLower(leaf);
   std::optional<std::string> found;
   real.ListFolder(folder, [&](std::string_view name, platform::EntryKind) {
-    if (!found && text::ToLower(name) == folded) found = folder + std::string(name);
+    if (!found && base::ToLower(name) == folded) found = folder + std::string(name);
   });
   return found;
 }

@@ -27,11 +27,11 @@ CommitTest::CommitTest() {
   fileSystem.ownFolder = data.Path();
 }
 
-FileEntry& CommitTest::AddRow(const std::string& name, const std::string& content) {
+core::FileEntry& CommitTest::AddRow(const std::string& name, const std::string& content) {
   std::string path = files.WriteFile(name, content.empty() ? "content of " + name : content);
-  AddFile(load, path);
+  core::AddFile(load, path);
   preview.Refresh();
-  FileEntry* row = state.list.Find(path);
+  core::FileEntry* row = state.list.Find(path);
   if (row == nullptr) throw std::runtime_error("no row for " + path);
   return *row;
 }
@@ -40,27 +40,27 @@ void CommitTest::AddForeignFile(const std::string& name, const std::string& cont
   files.WriteFile(name, content.empty() ? "content of " + name : content);
 }
 
-FileEntry& CommitTest::Row(const std::string& oldName) {
+core::FileEntry& CommitTest::Row(const std::string& oldName) {
   for (int position = 1; position <= state.list.Count(); ++position) {
-    FileEntry& row = state.list.Item(position);
-    if (row[kColOldName] == oldName) return row;
+    core::FileEntry& row = state.list.Item(position);
+    if (row[core::kColOldName] == oldName) return row;
   }
   throw std::runtime_error("no row named " + oldName);
 }
 
 void CommitTest::Rename(const std::string& oldName, const std::string& newName) {
-  Row(oldName)[kColNewName] = newName;
+  Row(oldName)[core::kColNewName] = newName;
   preview.Refresh();
 }
 
-CommitResult CommitTest::CommitAll() {
-  CommitResult result = mdlRenameFiles(Commit(), kWholeList, FixedLocalTime);
+commit::CommitResult CommitTest::CommitAll() {
+  commit::CommitResult result = commit::mdlRenameFiles(Commit(), commit::kWholeList, FixedLocalTime);
   preview.Refresh();
   return result;
 }
 
-CommitResult CommitTest::CommitRow(int position) {
-  CommitResult result = mdlRenameFiles(Commit(), position, FixedLocalTime);
+commit::CommitResult CommitTest::CommitRow(int position) {
+  commit::CommitResult result = commit::mdlRenameFiles(Commit(), position, FixedLocalTime);
   preview.Refresh();
   return result;
 }
@@ -82,14 +82,14 @@ std::multiset<std::string> CommitTest::Contents() const {
 
 std::vector<std::string> CommitTest::Keys() {
   std::vector<std::string> keys;
-  state.list.ForEach([&](const FileEntry& row) { keys.push_back(row.key); });
+  state.list.ForEach([&](const core::FileEntry& row) { keys.push_back(row.key); });
   std::sort(keys.begin(), keys.end());
   return keys;
 }
 
-std::vector<std::string> CommitTest::TextKeys(const CommitResult& result) {
+std::vector<std::string> CommitTest::TextKeys(const commit::CommitResult& result) {
   std::vector<std::string> keys;
-  for (const ReportRow& row : result.notRenamed) keys.push_back(row.textKey);
+  for (const commit::ReportRow& row : result.notRenamed) keys.push_back(row.textKey);
   return keys;
 }
 

@@ -25,17 +25,17 @@ class CommitTest : public ListTestOver<CommitFileSystem> {
 
   // Creates the file (content: "content of NAME" unless given) and loads it
   // as the next row.
-  FileEntry& AddRow(const std::string& name, const std::string& content = "");
+  core::FileEntry& AddRow(const std::string& name, const std::string& content = "");
   // Creates a file the list doesn't hold.
   void AddForeignFile(const std::string& name, const std::string& content = "");
   // The row whose name on disk is `oldName`.
-  FileEntry& Row(const std::string& oldName);
+  core::FileEntry& Row(const std::string& oldName);
   // Sets the pending name of the row named `oldName` and refreshes, as an edit does.
   void Rename(const std::string& oldName, const std::string& newName);
 
   // The whole list, then the refresh the caller runs.
-  CommitResult CommitAll();
-  CommitResult CommitRow(int position);
+  commit::CommitResult CommitAll();
+  commit::CommitResult CommitRow(int position);
 
   std::string PathOf(const std::string& name) const { return files.Path() + name; }
   // The names in the folder of the files, sorted.
@@ -47,7 +47,7 @@ class CommitTest : public ListTestOver<CommitFileSystem> {
   // What the files of the folder hold, whatever their names.
   std::multiset<std::string> Contents() const;
 
-  static std::vector<std::string> TextKeys(const CommitResult& result);
+  static std::vector<std::string> TextKeys(const commit::CommitResult& result);
 
   TempFolder files;
   TempFolder data;

@@ -17,17 +17,17 @@ namespace nomra::testing {
 namespace {
 
 using Names = std::vector<std::string>;
-const std::string kMark(kTemporaryMark);
+const std::string kMark(commit::kTemporaryMark);
 
-std::optional<JournalContent> JournalAt(const std::string& path) {
+std::optional<commit::JournalContent> JournalAt(const std::string& path) {
   if (!Exists(path)) return std::nullopt;
-  return ParseJournal(ReadWholeFile(path));
+  return commit::ParseJournal(ReadWholeFile(path));
 }
 
 class CommitJournaling : public CommitTest {
  protected:
   // What the journal holds at the moment the first rename is made.
-  void KeepJournalAtFirstRename(std::optional<JournalContent>& kept) {
+  void KeepJournalAtFirstRename(std::optional<commit::JournalContent>& kept) {
     fileSystem.beforeRename = [&](const std::string&, const std::string&) {
       if (fileSystem.renames.size() == 1) kept = JournalAt(JournalPath());
     };
@@ -43,9 +43,9 @@ Names NamesIn(const std::string& folder) {
   return names;
 }
 
-Names Finals(const JournalContent& content) {
+Names Finals(const commit::JournalContent& content) {
   Names finals;
-  for (const JournalPlanEntry& entry : content.plan) finals.push_back(entry.final);
+  for (const commit::JournalPlanEntry& entry : content.plan) finals.push_back(entry.final);
   return finals;
 }
 
@@ -55,10 +55,10 @@ TEST_F(CommitJournaling, PlanIsOnDiskAtTheFirstRenameAndGoneAfterTheBatch) {
   AddRow("c");
   Rename("a", "x");
   Rename("c", "z");
-  std::optional<JournalContent> atFirstRename;
+  std::optional<commit::JournalContent> atFirstRename;
   KeepJournalAtFirstRename(atFirstRename);
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_TRUE(result.notRenamed.empty());
   ASSERT_TRUE(atFirstRename.has_value()) << "no journal when the first rename began";
@@ -80,7 +80,7 @@ TEST_F(CommitJournaling, BlockedRowsAreNotInThePlan) {
   AddRow("b");
   Rename("a", "taken");
   Rename("b", "y");
-  std::optional<JournalContent> atFirstRename;
+  std::optional<commit::JournalContent> atFirstRename;
   KeepJournalAtFirstRename(atFirstRename);
 
   CommitAll();
@@ -94,7 +94,7 @@ TEST_F(CommitJournaling, MoveToATemporaryNameIsJournaledBeforeItHappens) {
   AddRow("b", "beta");
   Rename("a", "b");
   Rename("b", "a");
-  std::vector<std::optional<JournalContent>> atEachRename;
+  std::vector<std::optional<commit::JournalContent>> atEachRename;
   fileSystem.beforeRename = [&](const std::string&, const std::string&) {
     atEachRename.push_back(JournalAt(JournalPath()));
   };
@@ -125,7 +125,7 @@ TEST_F(CommitJournaling, ForeignFileUnderTheTemporaryNameIsNotJournaled) {
   AddForeignFile("b" + kMark, "foreign");
   Rename("a", "b");
   Rename("b", "a");
-  std::vector<std::optional<JournalContent>> atEachRename;
+  std::vector<std::optional<commit::JournalContent>> atEachRename;
   fileSystem.beforeRename = [&](const std::string&, const std::string&) {
     atEachRename.push_back(JournalAt(JournalPath()));
   };
@@ -133,7 +133,7 @@ TEST_F(CommitJournaling, ForeignFileUnderTheTemporaryNameIsNotJournaled) {
   CommitAll();
 
   ASSERT_FALSE(atEachRename.empty());
-  for (const std::optional<JournalContent>& journal : atEachRename) {
+  for (const std::optional<commit::JournalContent>& journal : atEachRename) {
     ASSERT_TRUE(journal.has_value());
     ASSERT_EQ(journal->temporaries.size(), 1u);
     EXPECT_EQ(journal->temporaries[0].temporary, PathOf("a") + kMark);
@@ -157,12 +157,12 @@ TEST_F(CommitJournaling, TemporaryNamesOfASwapAreInTheJournalBeforeTheFirstRenam
     textAtEachRename.push_back(Exists(JournalPath()) ? ReadWholeFile(JournalPath()) : "");
   };
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_TRUE(result.notRenamed.empty());
   ASSERT_FALSE(textAtEachRename.empty());
   EXPECT_EQ(fileSystem.renames[0], std::make_pair(PathOf("c"), PathOf("x"))) << "a plain rename comes first";
-  const JournalContent atFirstRename = ParseJournal(textAtEachRename[0]);
+  const commit::JournalContent atFirstRename = commit::ParseJournal(textAtEachRename[0]);
   ASSERT_EQ(atFirstRename.temporaries.size(), 3u);
   const std::vector<std::pair<std::string, std::string>> expected{{"a", "b"}, {"d", "e"}, {"e", "f"}};
   for (std::size_t at = 0; at < expected.size(); ++at) {
@@ -183,7 +183,7 @@ TEST_F(CommitJournaling, ChangeOfCaseAloneIsForeseenWhereCaseDoesntCount) {
   AddRow("a");
   Rename("c", "x");
   Rename("a", "A");
-  std::optional<JournalContent> atFirstRename;
+  std::optional<commit::JournalContent> atFirstRename;
   KeepJournalAtFirstRename(atFirstRename);
 
   CommitAll();
@@ -203,13 +203,13 @@ TEST_F(CommitJournaling, AnUnforeseenTemporaryNameIsJournaledAtItsRename) {
   AddRow("a", "alpha");
   Rename("c", "x");
   Rename("a", "b");
-  std::vector<std::optional<JournalContent>> atEachRename;
+  std::vector<std::optional<commit::JournalContent>> atEachRename;
   fileSystem.beforeRename = [&](const std::string&, const std::string&) {
     if (fileSystem.renames.size() == 1) files.WriteFile("b", "came after the plan");
     atEachRename.push_back(JournalAt(JournalPath()));
   };
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   ASSERT_GE(fileSystem.renames.size(), 3u);
   EXPECT_EQ(fileSystem.renames[2], std::make_pair(PathOf("a"), PathOf("b") + kMark));
@@ -230,10 +230,10 @@ TEST_F(CommitJournaling, AnUnforeseenTemporaryNameIsJournaledAtItsRename) {
 TEST_F(CommitJournaling, SingleRowIsJournaledToo) {
   AddRow("a");
   Rename("a", "x");
-  std::optional<JournalContent> atRename;
+  std::optional<commit::JournalContent> atRename;
   fileSystem.beforeRename = [&](const std::string&, const std::string&) { atRename = JournalAt(JournalPath()); };
 
-  const CommitResult result = CommitRow(1);
+  const commit::CommitResult result = CommitRow(1);
 
   EXPECT_TRUE(result.notRenamed.empty());
   ASSERT_TRUE(atRename.has_value());
@@ -244,7 +244,7 @@ TEST_F(CommitJournaling, SingleRowIsJournaledToo) {
 TEST_F(CommitJournaling, NothingToRenameWritesNoJournal) {
   AddRow("a");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_TRUE(result.notRenamed.empty());
   EXPECT_TRUE(fileSystem.renames.empty());
@@ -255,12 +255,12 @@ TEST_F(CommitJournaling, NothingToRenameWritesNoJournal) {
 // A journal a crash left is the next start's to read; this batch doesn't
 // replace it, says so in one row and renames all the same.
 TEST_F(CommitJournaling, JournalAlreadyThereIsOneReportRowKeptWholeAndTheRenamesStillHappen) {
-  const std::string left = std::string(kJournalHeader) + JournalPlanRecord("/old/a", "/old/b");
+  const std::string left = std::string(commit::kJournalHeader) + commit::JournalPlanRecord("/old/a", "/old/b");
   data.WriteFile("commit.journal", left);
   AddRow("a");
   Rename("a", "x");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   ASSERT_EQ(TextKeys(result), Names{"MsgText06"});
   EXPECT_EQ(result.notRenamed[0].about, "the commit journal");
@@ -286,7 +286,7 @@ TEST_F(CommitJournaling, BatchCutShortByAnExceptionLeavesItsJournal) {
 
   EXPECT_THROW(CommitAll(), SimulatedCrash);
 
-  const std::optional<JournalContent> left = JournalAt(JournalPath());
+  const std::optional<commit::JournalContent> left = JournalAt(JournalPath());
   ASSERT_TRUE(left.has_value());
   EXPECT_EQ(left->temporaries.size(), 1u);
   EXPECT_EQ(NamesOnDisk(), (Names{"b", "b" + kMark}));

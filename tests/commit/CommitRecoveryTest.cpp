@@ -24,7 +24,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-const std::string kMark(kTemporaryMark);
+const std::string kMark(commit::kTemporaryMark);
 
 struct SimulatedCrash : std::runtime_error {
   SimulatedCrash() : std::runtime_error("simulated crash") {}
@@ -43,9 +43,9 @@ class CommitRecovery : public CommitTest {
   }
 
   // The next start, with a fresh log of renames.
-  InterruptedCommit Recover() {
+  commit::InterruptedCommit Recover() {
     fileSystem.renames.clear();
-    return RecoverInterruptedCommit(fileSystem, data.Path());
+    return commit::RecoverInterruptedCommit(fileSystem, data.Path());
   }
 
   Names KeptJournals() const {
@@ -57,7 +57,7 @@ class CommitRecovery : public CommitTest {
     return kept;
   }
 
-  static bool MentionsAll(const InterruptedCommit& commit, const Names& parts) {
+  static bool MentionsAll(const commit::InterruptedCommit& commit, const Names& parts) {
     return std::any_of(commit.unresolved.begin(), commit.unresolved.end(), [&](const std::string& line) {
       return std::all_of(parts.begin(), parts.end(),
                          [&](const std::string& part) { return line.find(part) != std::string::npos; });
@@ -73,11 +73,11 @@ TEST_F(CommitRecovery, SwapCutShortBeforeTheTemporaryNameWasGivenUpIsFinished) {
   CommitCrashingAt(3);
   ASSERT_EQ(NamesOnDisk(), (Names{"a", "b" + kMark}));
 
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
 
   EXPECT_TRUE(commit.found);
   EXPECT_EQ(commit.unresolved, Names{});
-  EXPECT_EQ(commit.finished, Names{Quoted(PathOf("b" + kMark)) + " -> " + Quoted(PathOf("b"))});
+  EXPECT_EQ(commit.finished, Names{base::Quoted(PathOf("b" + kMark)) + " -> " + base::Quoted(PathOf("b"))});
   EXPECT_EQ(ContentOf("a"), "beta");
   EXPECT_EQ(ContentOf("b"), "alpha");
   EXPECT_FALSE(Exists(JournalPath()));
@@ -87,7 +87,7 @@ TEST_F(CommitRecovery, SwapCutShortBeforeTheTemporaryNameWasGivenUpIsFinished) {
 TEST_F(CommitRecovery, WithoutAJournalNothingIsFoundAndNothingRenamed) {
   AddRow("x" + kMark);
 
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
 
   EXPECT_FALSE(commit.found);
   EXPECT_TRUE(fileSystem.renames.empty());
@@ -108,7 +108,7 @@ TEST_P(CrashPoint, EveryFileEndsUnderItsOldOrItsFinalNameWithItsContent) {
   const std::multiset<std::string> before = Contents();
 
   CommitCrashingAt(static_cast<std::size_t>(GetParam()));
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
 
   EXPECT_EQ(commit.unresolved, Names{});
   EXPECT_EQ(Contents(), before);
@@ -136,11 +136,11 @@ TEST_F(CommitRecovery, TemporaryFileWhoseFinalNameIsTakenGoesBackToItsOldName) {
   Rename("b", "a");
   CommitCrashingAt(2);
 
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
 
   EXPECT_EQ(commit.unresolved, Names{});
   ASSERT_EQ(commit.finished.size(), 1u);
-  EXPECT_EQ(commit.finished[0], Quoted(PathOf("b" + kMark)) + " -> " + Quoted(PathOf("a")) +
+  EXPECT_EQ(commit.finished[0], base::Quoted(PathOf("b" + kMark)) + " -> " + base::Quoted(PathOf("a")) +
                                     " (back to its old name: the final name is taken)");
   EXPECT_EQ(NamesOnDisk(), (Names{"a", "b"}));
   EXPECT_EQ(ContentOf("a"), "alpha");
@@ -156,11 +156,11 @@ TEST_F(CommitRecovery, TemporaryFileWhoseFinalAndOldNamesAreTakenStaysAndIsRepor
   CommitCrashingAt(2);
   files.WriteFile("a", "came in between");
 
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
 
   EXPECT_TRUE(fileSystem.renames.empty());
   EXPECT_EQ(commit.finished, Names{});
-  EXPECT_TRUE(MentionsAll(commit, {Quoted(PathOf("b" + kMark)), "are both taken"}));
+  EXPECT_TRUE(MentionsAll(commit, {base::Quoted(PathOf("b" + kMark)), "are both taken"}));
   EXPECT_EQ(ContentOf("b" + kMark), "alpha");
   EXPECT_EQ(ContentOf("b"), "beta");
   EXPECT_EQ(ContentOf("a"), "came in between");
@@ -173,12 +173,12 @@ TEST_F(CommitRecovery, TemporaryFileWhoseFinalAndOldNamesAreTakenStaysAndIsRepor
 TEST_F(CommitRecovery, TornLastRecordIsIgnoredAndTheWholeOnesAreDone) {
   files.WriteFile("b" + kMark, "alpha");
   files.WriteFile("d" + kMark, "gamma");
-  const std::string torn = JournalTemporaryRecord(PathOf("c"), PathOf("d" + kMark), PathOf("d"));
-  data.WriteFile("commit.journal", std::string(kJournalHeader) + JournalPlanRecord(PathOf("a"), PathOf("b")) +
-                                       JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b")) +
+  const std::string torn = commit::JournalTemporaryRecord(PathOf("c"), PathOf("d" + kMark), PathOf("d"));
+  data.WriteFile("commit.journal", std::string(commit::kJournalHeader) + commit::JournalPlanRecord(PathOf("a"), PathOf("b")) +
+                                       commit::JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b")) +
                                        torn.substr(0, torn.size() - 3));
 
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
 
   EXPECT_EQ(commit.unresolved, Names{});
   EXPECT_EQ(commit.finished.size(), 1u);
@@ -188,14 +188,14 @@ TEST_F(CommitRecovery, TornLastRecordIsIgnoredAndTheWholeOnesAreDone) {
 }
 
 TEST_F(CommitRecovery, JournalNamingFilesThatDontExistRenamesNothingAndReports) {
-  data.WriteFile("commit.journal", std::string(kJournalHeader) + JournalPlanRecord(PathOf("p"), PathOf("q")) +
-                                       JournalTemporaryRecord(PathOf("x"), PathOf("y" + kMark), PathOf("y")));
+  data.WriteFile("commit.journal", std::string(commit::kJournalHeader) + commit::JournalPlanRecord(PathOf("p"), PathOf("q")) +
+                                       commit::JournalTemporaryRecord(PathOf("x"), PathOf("y" + kMark), PathOf("y")));
 
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
 
   EXPECT_TRUE(fileSystem.renames.empty());
-  EXPECT_TRUE(MentionsAll(commit, {Quoted(PathOf("p")), Quoted(PathOf("q")), "under neither name"}));
-  EXPECT_TRUE(MentionsAll(commit, {Quoted(PathOf("y" + kMark)), "under none of these names"}));
+  EXPECT_TRUE(MentionsAll(commit, {base::Quoted(PathOf("p")), base::Quoted(PathOf("q")), "under neither name"}));
+  EXPECT_TRUE(MentionsAll(commit, {base::Quoted(PathOf("y" + kMark)), "under none of these names"}));
   EXPECT_EQ(KeptJournals().size(), 1u);
   EXPECT_EQ(NamesOnDisk(), Names{});
 }
@@ -210,9 +210,9 @@ TEST_F(CommitRecovery, APredictedTemporaryNameThatNeverCameIntoBeingIsPassedOver
   Rename("a", "b");
   Rename("b", "a");
   CommitCrashingAt(1);
-  ASSERT_EQ(ParseJournal(ReadWholeFile(JournalPath())).temporaries.size(), 1u);
+  ASSERT_EQ(commit::ParseJournal(ReadWholeFile(JournalPath())).temporaries.size(), 1u);
 
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
 
   EXPECT_TRUE(commit.found);
   EXPECT_EQ(commit.unresolved, Names{});
@@ -227,14 +227,14 @@ TEST_F(CommitRecovery, APredictedTemporaryNameThatNeverCameIntoBeingIsPassedOver
 // A planned file under none of its names is told once, by its plan record,
 // not again by the record of a move that may never have happened.
 TEST_F(CommitRecovery, PlannedFileUnderNoNameIsToldOnceThoughAMoveWasForeseen) {
-  data.WriteFile("commit.journal", std::string(kJournalHeader) + JournalPlanRecord(PathOf("a"), PathOf("b")) +
-                                       JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b")));
+  data.WriteFile("commit.journal", std::string(commit::kJournalHeader) + commit::JournalPlanRecord(PathOf("a"), PathOf("b")) +
+                                       commit::JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b")));
 
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
 
   EXPECT_TRUE(fileSystem.renames.empty());
   ASSERT_EQ(commit.unresolved.size(), 2u) << ::testing::PrintToString(commit.unresolved);
-  EXPECT_TRUE(MentionsAll(commit, {Quoted(PathOf("a")), Quoted(PathOf("b")), "under neither name"}));
+  EXPECT_TRUE(MentionsAll(commit, {base::Quoted(PathOf("a")), base::Quoted(PathOf("b")), "under neither name"}));
   EXPECT_TRUE(MentionsAll(commit, {"will not be read again"}));
 }
 
@@ -245,13 +245,13 @@ TEST_F(CommitRecovery, MovesAreUndoneInTheBatchsOrderNotTheJournals) {
   files.WriteFile("b" + kMark, "alpha");
   files.WriteFile("c" + kMark, "beta");
   files.WriteFile("c", "gamma");
-  data.WriteFile("commit.journal", std::string(kJournalHeader) + JournalPlanRecord(PathOf("a"), PathOf("b")) +
-                                       JournalPlanRecord(PathOf("b"), PathOf("c")) +
-                                       JournalPlanRecord(PathOf("c"), PathOf("a")) +
-                                       JournalTemporaryRecord(PathOf("b"), PathOf("c" + kMark), PathOf("c")) +
-                                       JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b")));
+  data.WriteFile("commit.journal", std::string(commit::kJournalHeader) + commit::JournalPlanRecord(PathOf("a"), PathOf("b")) +
+                                       commit::JournalPlanRecord(PathOf("b"), PathOf("c")) +
+                                       commit::JournalPlanRecord(PathOf("c"), PathOf("a")) +
+                                       commit::JournalTemporaryRecord(PathOf("b"), PathOf("c" + kMark), PathOf("c")) +
+                                       commit::JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b")));
 
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
 
   EXPECT_EQ(commit.unresolved, Names{});
   EXPECT_EQ(ContentOf("a"), "alpha");
@@ -263,12 +263,12 @@ TEST_F(CommitRecovery, MovesAreUndoneInTheBatchsOrderNotTheJournals) {
 TEST_F(CommitRecovery, DamagedJournalIsDoneUpToTheDamageOnlyAndKept) {
   files.WriteFile("b" + kMark, "alpha");
   files.WriteFile("d" + kMark, "gamma");
-  const std::string whole = std::string(kJournalHeader) +
-                            JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b"));
+  const std::string whole = std::string(commit::kJournalHeader) +
+                            commit::JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b"));
   data.WriteFile("commit.journal", whole + "?garbage\n" +
-                                       JournalTemporaryRecord(PathOf("c"), PathOf("d" + kMark), PathOf("d")));
+                                       commit::JournalTemporaryRecord(PathOf("c"), PathOf("d" + kMark), PathOf("d")));
 
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
 
   EXPECT_EQ(fileSystem.renames.size(), 1u);
   EXPECT_EQ(ContentOf("b"), "alpha");
@@ -280,9 +280,9 @@ TEST_F(CommitRecovery, DamagedJournalIsDoneUpToTheDamageOnlyAndKept) {
 TEST_F(CommitRecovery, ForeignHeaderRenamesNothingAndIsKept) {
   files.WriteFile("b" + kMark, "alpha");
   data.WriteFile("commit.journal",
-                 "something else\n" + JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b")));
+                 "something else\n" + commit::JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b")));
 
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
 
   EXPECT_TRUE(fileSystem.renames.empty());
   EXPECT_TRUE(MentionsAll(commit, {"unreadable from byte 0"}));
@@ -291,25 +291,25 @@ TEST_F(CommitRecovery, ForeignHeaderRenamesNothingAndIsKept) {
 
 TEST_F(CommitRecovery, EntryWhoseTemporaryNameIsNotOfItsFinalNameIsNotMoved) {
   files.WriteFile("other", "alpha");
-  data.WriteFile("commit.journal", std::string(kJournalHeader) +
-                                       JournalTemporaryRecord(PathOf("a"), PathOf("other"), PathOf("b")));
+  data.WriteFile("commit.journal", std::string(commit::kJournalHeader) +
+                                       commit::JournalTemporaryRecord(PathOf("a"), PathOf("other"), PathOf("b")));
 
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
 
   EXPECT_TRUE(fileSystem.renames.empty());
-  EXPECT_TRUE(MentionsAll(commit, {Quoted(PathOf("other")), "not a temporary name"}));
+  EXPECT_TRUE(MentionsAll(commit, {base::Quoted(PathOf("other")), "not a temporary name"}));
   EXPECT_EQ(NamesOnDisk(), Names{"other"});
 }
 
 TEST_F(CommitRecovery, MoveThatFailsIsReportedWithTheSystemsWords) {
   files.WriteFile("b" + kMark, "alpha");
-  data.WriteFile("commit.journal", std::string(kJournalHeader) +
-                                       JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b")));
+  data.WriteFile("commit.journal", std::string(commit::kJournalHeader) +
+                                       commit::JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b")));
   fileSystem.refuseWith[1] = EIO;
 
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
 
-  EXPECT_TRUE(MentionsAll(commit, {Quoted(PathOf("b")), std::strerror(EIO)}));
+  EXPECT_TRUE(MentionsAll(commit, {base::Quoted(PathOf("b")), std::strerror(EIO)}));
   EXPECT_EQ(NamesOnDisk(), Names{"b" + kMark});
   EXPECT_EQ(KeptJournals().size(), 1u);
 }
@@ -319,13 +319,13 @@ TEST_F(CommitRecovery, MoveThatFailsIsReportedWithTheSystemsWords) {
 TEST_F(CommitRecovery, JournalLockedByARunningCommitIsLeftAlone) {
   files.WriteFile("b" + kMark, "alpha");
   const std::string text =
-      std::string(kJournalHeader) + JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b"));
+      std::string(commit::kJournalHeader) + commit::JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b"));
   data.WriteFile("commit.journal", text);
   const int held = open(JournalPath().c_str(), O_RDONLY | O_CLOEXEC);
   ASSERT_GE(held, 0);
   ASSERT_EQ(flock(held, LOCK_EX | LOCK_NB), 0);
 
-  const InterruptedCommit commit = Recover();
+  const commit::InterruptedCommit commit = Recover();
   close(held);
 
   EXPECT_FALSE(commit.found);
@@ -334,10 +334,10 @@ TEST_F(CommitRecovery, JournalLockedByARunningCommitIsLeftAlone) {
 }
 
 TEST_F(CommitRecovery, UnresolvedLinesAreShownAsFaults) {
-  InterruptedCommit commit;
+  commit::InterruptedCommit commit;
   commit.unresolved = {"one", "two"};
 
-  ShowUnresolved(frontEnd, commit);
+  commit::ShowUnresolved(frontEnd, commit);
 
   EXPECT_EQ(frontEnd.faults, (Names{"interrupted commit: one", "interrupted commit: two"}));
 }

@@ -22,32 +22,32 @@ class CountingCaseRules final : public ForwardingFileSystem {
 class CommitSets : public ::testing::Test {
  protected:
   CountingCaseRules rules;
-  PathKeys keys{rules};
+  commit::PathKeys keys{rules};
 };
 
 TEST_F(CommitSets, PathsInAFolderWithoutCaseMatchInAnyCase) {
-  PathMap map(keys);
+  commit::PathMap map(keys);
   map.Set("/media/fat/Photo.JPG", "row");
   ASSERT_NE(map.Find("/media/fat/photo.jpg"), nullptr);
   EXPECT_EQ(*map.Find("/media/fat/PHOTO.jpg"), "row");
 }
 
 TEST_F(CommitSets, PathsInACaseSensitiveFolderMatchOnlyExactly) {
-  PathMap map(keys);
+  commit::PathMap map(keys);
   map.Set("/home/u/Photo.JPG", "row");
   EXPECT_TRUE(map.Contains("/home/u/Photo.JPG"));
   EXPECT_FALSE(map.Contains("/home/u/photo.jpg"));
 }
 
 TEST_F(CommitSets, SettingAPathThatIsThereReplacesItsValue) {
-  PathMap map(keys);
+  commit::PathMap map(keys);
   map.Set("/media/fat/a", "first");
   map.Set("/media/fat/A", "second");
   EXPECT_EQ(*map.Find("/media/fat/a"), "second");
 }
 
 TEST_F(CommitSets, EachFolderIsAskedOnce) {
-  PathMap map(keys);
+  commit::PathMap map(keys);
   for (int i = 0; i < 5; ++i) map.Set("/media/fat/" + std::to_string(i), "x");
   map.Contains("/home/u/a");
   map.Contains("/home/u/b");
@@ -56,7 +56,7 @@ TEST_F(CommitSets, EachFolderIsAskedOnce) {
 }
 
 TEST_F(CommitSets, OrderedMapKeepsTheOrderOfFirstInsertion) {
-  OrderedPathMap map(keys);
+  commit::OrderedPathMap map(keys);
   map.Set("/home/u/c", "c");
   map.Set("/home/u/a", "a");
   map.Set("/home/u/b", "b");
@@ -69,7 +69,7 @@ TEST_F(CommitSets, OrderedMapKeepsTheOrderOfFirstInsertion) {
 }
 
 TEST_F(CommitSets, OrderedMapErasesByAnySpellingWhereCaseIsIgnored) {
-  OrderedPathMap map(keys);
+  commit::OrderedPathMap map(keys);
   map.Set("/media/fat/One", "/media/fat/One");
   map.Set("/media/fat/Two", "/media/fat/Two");
   EXPECT_TRUE(map.Erase("/media/fat/TWO"));

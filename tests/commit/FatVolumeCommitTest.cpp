@@ -73,20 +73,20 @@ class FatVolumeCommit : public ListTestOver<CommitFileSystem> {
   }
 
   // Loads the file at `path` as the next row and gives it a pending name.
-  FileEntry& AddRow(std::string path, const std::string& newName) {
-    AddFile(load, path);
+  core::FileEntry& AddRow(std::string path, const std::string& newName) {
+    core::AddFile(load, path);
     preview.Refresh();
-    FileEntry* row = state.list.Find(path);
+    core::FileEntry* row = state.list.Find(path);
     if (row == nullptr) throw std::runtime_error("no row for " + path);
-    (*row)[kColNewName] = newName;
+    (*row)[core::kColNewName] = newName;
     preview.Refresh();
     return *row;
   }
 
   // The old paths of the renames the report names, as the report quotes them.
-  static std::set<std::string> ReportedPaths(const CommitResult& result) {
+  static std::set<std::string> ReportedPaths(const commit::CommitResult& result) {
     std::set<std::string> paths;
-    for (const ReportRow& row : result.notRenamed) {
+    for (const commit::ReportRow& row : result.notRenamed) {
       if (!row.arguments.empty()) paths.insert(row.arguments[0]);
     }
     return paths;
@@ -94,7 +94,7 @@ class FatVolumeCommit : public ListTestOver<CommitFileSystem> {
 
   // Whether the driver takes a file whose name ends in the temporary mark.
   static bool AcceptsTemporaryNames(const std::string& folder) {
-    const std::string probe = folder + "probe" + std::string(kTemporaryMark);
+    const std::string probe = folder + "probe" + std::string(commit::kTemporaryMark);
     const int fd = open(probe.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
     if (fd < 0) return false;
     close(fd);
@@ -109,7 +109,7 @@ class FatVolumeCommit : public ListTestOver<CommitFileSystem> {
   static bool RefusedRenameKeepsTheFile(const std::string& folder) {
     const std::string probe = folder + "probe";
     std::ofstream(probe, std::ios::binary) << "probe";
-    const std::string temporary = probe + std::string(kTemporaryMark);
+    const std::string temporary = probe + std::string(commit::kTemporaryMark);
     if (std::rename(probe.c_str(), temporary.c_str()) == 0) {
       std::remove(temporary.c_str());
       return true;
@@ -176,16 +176,16 @@ TEST_F(FatVolumeCommit, AChangeOfCaseAloneLeavesTheNewSpellingOnDisk) {
   // so the change goes through a temporary name.
   if (!RefusedRenameKeepsTheFile(folder)) GTEST_SKIP() << kDriverLosesFiles;
   WriteFileAt(folder + "n1", "content of n1");
-  FileEntry& row = AddRow(folder + "n1", "N1");
+  core::FileEntry& row = AddRow(folder + "n1", "N1");
 
-  const CommitResult result = mdlRenameFiles(Commit(), kWholeList, FixedLocalTime);
+  const commit::CommitResult result = commit::mdlRenameFiles(Commit(), commit::kWholeList, FixedLocalTime);
   preview.Refresh();
 
   EXPECT_EQ(Listing(folder), std::vector<std::string>{"N1"});
   EXPECT_EQ(ReadWholeFile(folder + "N1"), "content of n1");
   EXPECT_TRUE(result.notRenamed.empty()) << result.notRenamed.front().Describe();
   EXPECT_EQ(row.key, folder + "N1");
-  EXPECT_EQ(row[kColOldName], "N1");
+  EXPECT_EQ(row[core::kColOldName], "N1");
   EXPECT_FALSE(row.HasPendingChange());
 }
 
@@ -196,10 +196,10 @@ TEST_F(FatVolumeCommit, ASwapEndsAsTheDriverAllowsTemporaryNames) {
   std::cout << "[ driver   ] " << (acceptsTemporary ? "takes" : "refuses") << " a name ending in the temporary mark\n";
   WriteFileAt(folder + "a", "content of a");
   WriteFileAt(folder + "b", "content of b");
-  FileEntry& first = AddRow(folder + "a", "b");
-  FileEntry& second = AddRow(folder + "b", "a");
+  core::FileEntry& first = AddRow(folder + "a", "b");
+  core::FileEntry& second = AddRow(folder + "b", "a");
 
-  const CommitResult result = mdlRenameFiles(Commit(), kWholeList, FixedLocalTime);
+  const commit::CommitResult result = commit::mdlRenameFiles(Commit(), commit::kWholeList, FixedLocalTime);
   preview.Refresh();
 
   EXPECT_EQ(Listing(folder), (std::vector<std::string>{"a", "b"}));
@@ -217,8 +217,8 @@ TEST_F(FatVolumeCommit, ASwapEndsAsTheDriverAllowsTemporaryNames) {
     EXPECT_EQ(ReportedPaths(result), (std::set<std::string>{"\"" + folder + "a\"", "\"" + folder + "b\""}));
     EXPECT_EQ(first.key, folder + "a");
     EXPECT_EQ(second.key, folder + "b");
-    EXPECT_EQ(first[kColNewName], "b");
-    EXPECT_EQ(second[kColNewName], "a");
+    EXPECT_EQ(first[core::kColNewName], "b");
+    EXPECT_EQ(second[core::kColNewName], "a");
   }
 }
 

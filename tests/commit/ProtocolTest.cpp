@@ -15,7 +15,7 @@ using Names = std::vector<std::string>;
 using RenameProtocol = CommitTest;
 
 TEST(ProtocolRecordText, FieldsAreJoinedByQuotesAndEndInCrLf) {
-  EXPECT_EQ(ProtocolRecord(FixedLocalTime(), "/home/u/Fotos/", "img1.jpg", "Urlaub 01.jpg"),
+  EXPECT_EQ(commit::ProtocolRecord(FixedLocalTime(), "/home/u/Fotos/", "img1.jpg", "Urlaub 01.jpg"),
             "20040315142305\"/home/u/Fotos/\"img1.jpg\"Urlaub 01.jpg\r\n");
 }
 
@@ -27,11 +27,11 @@ TEST(ProtocolRecordText, TimeIsFourteenDigitsWithLeadingZeros) {
   when.tm_hour = 3;
   when.tm_min = 4;
   when.tm_sec = 5;
-  EXPECT_EQ(text::FormatTimeStamp(when), "19990102030405");
+  EXPECT_EQ(base::FormatTimeStamp(when), "19990102030405");
 }
 
 TEST(ProtocolRecordText, NamesAreNeitherQuotedNorEscapedAndKeepTheirBytes) {
-  EXPECT_EQ(ProtocolRecord(FixedLocalTime(), "/d/", "a\"b", "caf\xE9 \xC3\xBF"),
+  EXPECT_EQ(commit::ProtocolRecord(FixedLocalTime(), "/d/", "a\"b", "caf\xE9 \xC3\xBF"),
             "20040315142305\"/d/\"a\"b\"caf\xE9 \xC3\xBF\r\n");
 }
 
@@ -43,7 +43,7 @@ TEST_F(RenameProtocol, EachRenameOfABatchIsOneLineWithTheFinalName) {
   Rename("A", "B");  // goes through "Bÿ"
   Rename("B", "C");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   ASSERT_TRUE(result.notRenamed.empty());
   const std::string folder = files.Path();
@@ -71,7 +71,7 @@ TEST_F(RenameProtocol, WithoutLoggingTheFileIsOpenedButNothingWritten) {
   Rename("a", "x");
   ASSERT_FALSE(Exists(ProtocolPath()));
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_TRUE(result.notRenamed.empty());
   EXPECT_TRUE(Exists(ProtocolPath()));
@@ -86,7 +86,7 @@ TEST_F(RenameProtocol, ProtocolThatCannotBeOpenedIsOneReportRowAndTheRenamesStil
   AddRow("a");
   Rename("a", "x");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   ASSERT_EQ(TextKeys(result), (Names{"MsgText11", "MsgText06"}));
   EXPECT_EQ(result.notRenamed[0].rowKey, "");
@@ -102,7 +102,7 @@ TEST_F(RenameProtocol, ListWithoutADataFolderReportsTheProtocolAndTheJournalAndW
   AddRow("a");
   Rename("a", "x");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_EQ(TextKeys(result), (Names{"MsgText11", "MsgText06"}));
   EXPECT_FALSE(Exists("renamed.nrp"));
@@ -113,9 +113,9 @@ TEST_F(RenameProtocol, ListWithoutADataFolderReportsTheProtocolAndTheJournalAndW
 TEST_F(RenameProtocol, StartUpReadsWhetherToLogAndWhereTheDataFolderIs) {
   data.WriteFile("settings.nrp", "[Settings]\r\nprotren=1\r\n");
   options.dataFolder.clear();
-  const StartupPaths paths = PrepareStartup(RealFiles(), RealLocations(), data.Path());
+  const shell::StartupPaths paths = shell::PrepareStartup(RealFiles(), RealLocations(), data.Path());
 
-  LoadStartupSettings(paths, {fileSystem, frontEnd, options, script});
+  shell::LoadStartupSettings(paths, {fileSystem, frontEnd, options, script});
 
   EXPECT_TRUE(options.protocolRenames);
   EXPECT_EQ(options.dataFolder, data.Path());
@@ -123,7 +123,7 @@ TEST_F(RenameProtocol, StartUpReadsWhetherToLogAndWhereTheDataFolderIs) {
 
 TEST_F(RenameProtocol, StartUpWithoutTheSettingDoesNotLog) {
   options.protocolRenames = true;
-  LoadStartupSettings(PrepareStartup(RealFiles(), RealLocations(), data.Path()), {fileSystem, frontEnd, options, script});
+  shell::LoadStartupSettings(shell::PrepareStartup(RealFiles(), RealLocations(), data.Path()), {fileSystem, frontEnd, options, script});
   EXPECT_FALSE(options.protocolRenames);
 }
 

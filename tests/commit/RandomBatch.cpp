@@ -50,9 +50,9 @@ std::vector<std::string> SortedContents(const std::map<std::string, std::string>
   return contents;
 }
 
-bool Reported(const CommitResult& result, const std::string& path) {
+bool Reported(const commit::CommitResult& result, const std::string& path) {
   const std::string quoted = "\"" + path + "\"";
-  return std::any_of(result.notRenamed.begin(), result.notRenamed.end(), [&](const ReportRow& row) {
+  return std::any_of(result.notRenamed.begin(), result.notRenamed.end(), [&](const commit::ReportRow& row) {
     return !row.arguments.empty() && row.arguments[0] == quoted;
   });
 }
@@ -75,7 +75,7 @@ std::string BatchPlan::Describe() const {
 }
 
 std::string BatchGenerator::Fold(const std::string& name) const {
-  return caseSensitive_ ? name : text::ToLower(name);
+  return caseSensitive_ ? name : base::ToLower(name);
 }
 
 BatchPlan BatchGenerator::Next() {
@@ -175,28 +175,28 @@ void RunBatch(const BatchVolume& volume, const BatchGenerator& generator, const 
   list.texts.renamed = "Renamed";
   list.options.dataFolder = volume.dataFolder;
   fileSystem.ownFolder = volume.dataFolder;
-  std::vector<FileEntry*> rows;
+  std::vector<core::FileEntry*> rows;
   for (std::size_t i = 0; i < rowCount; ++i) {
     std::string path = folder + plan.names[i];
-    AddFile(list.load, path);
+    core::AddFile(list.load, path);
     rows.push_back(list.state.list.Find(path));
     ASSERT_NE(rows.back(), nullptr) << path;
   }
   list.preview.Refresh();
-  for (std::size_t i = 0; i < rowCount; ++i) (*rows[i])[kColNewName] = plan.targets[i];
+  for (std::size_t i = 0; i < rowCount; ++i) (*rows[i])[core::kColNewName] = plan.targets[i];
   list.preview.Refresh();
   for (std::size_t i = 0; i < rowCount; ++i) {
     if (plan.vanished[i]) std::remove((folder + plan.names[i]).c_str());
   }
 
-  const CommitResult result = mdlRenameFiles(list.Commit(), kWholeList, FixedLocalTime);
+  const commit::CommitResult result = commit::mdlRenameFiles(list.Commit(), commit::kWholeList, FixedLocalTime);
   list.preview.Refresh();
 
   const std::map<std::string, std::string> filesAfter = FilesIn(folder);
   EXPECT_EQ(SortedContents(filesAfter), contentsBefore) << "a file's content was lost or doubled";
   std::set<std::string> expectedNames(plan.foreign.begin(), plan.foreign.end());
   for (std::size_t i = 0; i < rowCount; ++i) {
-    const FileEntry& row = *rows[i];
+    const core::FileEntry& row = *rows[i];
     const std::string original = folder + plan.names[i];
     SCOPED_TRACE("row " + plan.names[i] + " -> " + plan.targets[i]);
     if (plan.vanished[i]) {
@@ -206,19 +206,19 @@ void RunBatch(const BatchVolume& volume, const BatchGenerator& generator, const 
       }
       continue;
     }
-    if (!row.HasPendingChange() && row[kColOldName] == plan.targets[i]) {
+    if (!row.HasPendingChange() && row[core::kColOldName] == plan.targets[i]) {
       EXPECT_EQ(row.key, folder + plan.targets[i]);
     } else {
-      EXPECT_EQ(row[kColOldName], plan.names[i]);
-      EXPECT_EQ(row[kColNewName], plan.targets[i]);
+      EXPECT_EQ(row[core::kColOldName], plan.names[i]);
+      EXPECT_EQ(row[core::kColNewName], plan.targets[i]);
       EXPECT_EQ(row.key, original);
       EXPECT_TRUE(Reported(result, original)) << "a row left pending must be in the report";
     }
-    EXPECT_EQ(row.key, folder + row[kColOldName]);
-    const auto onDisk = filesAfter.find(row[kColOldName]);
+    EXPECT_EQ(row.key, folder + row[core::kColOldName]);
+    const auto onDisk = filesAfter.find(row[core::kColOldName]);
     ASSERT_NE(onDisk, filesAfter.end()) << "the row's file must be on disk under its name";
     EXPECT_EQ(onDisk->second, contents[i]) << "the row's key must name its own file";
-    EXPECT_TRUE(expectedNames.insert(row[kColOldName]).second) << "two rows hold one name";
+    EXPECT_TRUE(expectedNames.insert(row[core::kColOldName]).second) << "two rows hold one name";
   }
   std::set<std::string> namesAfter;
   for (const auto& [name, content] : filesAfter) namesAfter.insert(name);

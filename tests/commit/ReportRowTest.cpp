@@ -7,32 +7,32 @@
 #include "commit/RenameFailure.h"
 #include "commit/ReportRow.h"
 
-namespace nomra {
+namespace nomra::commit {
 namespace {
 
 TEST(FailureOfError, TakenNamesAreTargetExists) {
-  EXPECT_EQ(FailureOfError(EEXIST).kind, FailureKind::TargetExists);
-  EXPECT_EQ(FailureOfError(ENOTEMPTY).kind, FailureKind::TargetExists);
+  EXPECT_EQ(FailureOfError(EEXIST).kind, base::FailureKind::TargetExists);
+  EXPECT_EQ(FailureOfError(ENOTEMPTY).kind, base::FailureKind::TargetExists);
 }
 
 TEST(FailureOfError, AccessAndPathErrorsArePathNotUsable) {
   for (int error : {EACCES, EPERM, EROFS, ENOENT, ENOTDIR, ENAMETOOLONG, EINVAL}) {
-    EXPECT_EQ(FailureOfError(error).kind, FailureKind::PathNotUsable) << std::strerror(error);
+    EXPECT_EQ(FailureOfError(error).kind, base::FailureKind::PathNotUsable) << std::strerror(error);
     EXPECT_TRUE(FailureOfError(error).systemText.empty());
   }
 }
 
 TEST(FailureOfError, AnythingElseCarriesTheSystemText) {
-  const Failure failure = FailureOfError(EIO);
-  EXPECT_EQ(failure.kind, FailureKind::Other);
+  const base::Failure failure = FailureOfError(EIO);
+  EXPECT_EQ(failure.kind, base::FailureKind::Other);
   EXPECT_EQ(failure.systemText, std::strerror(EIO));
 }
 
 TEST(RefuseName, EachForbiddenCharacterIsAPathFailure) {
   for (char forbidden : std::string("\\/:?*<>|\"")) {
-    const std::optional<Failure> failure = RefuseName(std::string("a") + forbidden + "b");
+    const std::optional<base::Failure> failure = RefuseName(std::string("a") + forbidden + "b");
     ASSERT_TRUE(failure.has_value()) << forbidden;
-    EXPECT_EQ(failure->kind, FailureKind::PathNotUsable);
+    EXPECT_EQ(failure->kind, base::FailureKind::PathNotUsable);
   }
 }
 
@@ -72,4 +72,4 @@ TEST(ReportRowDescribe, RowWithoutNamesNamesItsKeyOrTheProtocol) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::commit

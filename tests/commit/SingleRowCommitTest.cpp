@@ -15,14 +15,14 @@ TEST_F(SingleRowCommit, RenamesThatRowOnlyAndListsNothingAsRenamed) {
   Rename("a", "x");
   Rename("b", "y");
 
-  const CommitResult result = CommitRow(Row("a").position);
+  const commit::CommitResult result = CommitRow(Row("a").position);
 
   EXPECT_TRUE(result.notRenamed.empty());
   EXPECT_TRUE(result.renamed.empty());
   EXPECT_EQ(NamesOnDisk(), (Names{"b", "x"}));
   EXPECT_EQ(ContentOf("x"), "content of a");
   EXPECT_EQ(Row("x").key, PathOf("x"));
-  EXPECT_EQ(Row("b")[kColNewName], "y") << "the other row keeps its pending name";
+  EXPECT_EQ(Row("b")[core::kColNewName], "y") << "the other row keeps its pending name";
   EXPECT_EQ(state.changedCount, 1);
 }
 
@@ -30,16 +30,16 @@ TEST_F(SingleRowCommit, HistoryColumnsThatHoldANameTakeTheNewOneAndEmptyOnesStay
   AddRow("a");
   Rename("a", "first");
   Rename("a", "second");
-  FileEntry& row = Row("a");
-  ASSERT_FALSE(row[kColHistoryFirst].empty());
-  ASSERT_TRUE(row[kColHistoryLast].empty());
+  core::FileEntry& row = Row("a");
+  ASSERT_FALSE(row[core::kColHistoryFirst].empty());
+  ASSERT_TRUE(row[core::kColHistoryLast].empty());
 
   CommitRow(row.position);
 
-  const FileEntry& renamed = Row("second");
-  EXPECT_EQ(renamed[kColHistory0], "second");
-  EXPECT_EQ(renamed[kColHistoryFirst], "second");
-  EXPECT_TRUE(renamed[kColHistoryLast].empty());
+  const core::FileEntry& renamed = Row("second");
+  EXPECT_EQ(renamed[core::kColHistory0], "second");
+  EXPECT_EQ(renamed[core::kColHistoryFirst], "second");
+  EXPECT_TRUE(renamed[core::kColHistoryLast].empty());
   EXPECT_EQ(NamesOnDisk(), Names{"second"});
 }
 
@@ -49,30 +49,30 @@ TEST_F(SingleRowCommit, TakenNameIsReportedWithoutATemporaryName) {
   Rename("a", "b");
   Rename("b", "c");
 
-  const CommitResult result = CommitRow(Row("a").position);
+  const commit::CommitResult result = CommitRow(Row("a").position);
 
   ASSERT_EQ(TextKeys(result), Names{"MsgText05"});
-  EXPECT_EQ(result.notRenamed[0].arguments, (Names{Quoted(PathOf("a")), Quoted(PathOf("b"))}));
+  EXPECT_EQ(result.notRenamed[0].arguments, (Names{base::Quoted(PathOf("a")), base::Quoted(PathOf("b"))}));
   EXPECT_EQ(result.notRenamed[0].rowKey, PathOf("a"));
   EXPECT_EQ(fileSystem.TemporaryRenames(), 0);
   EXPECT_EQ(NamesOnDisk(), (Names{"a", "b"}));
   EXPECT_EQ(ContentOf("b"), "content of b");
-  EXPECT_EQ(Row("a")[kColNewName], "b");
-  EXPECT_FALSE(Row("a")[kColHistoryFirst].empty()) << "a failed rename leaves the history alone";
+  EXPECT_EQ(Row("a")[core::kColNewName], "b");
+  EXPECT_FALSE(Row("a")[core::kColHistoryFirst].empty()) << "a failed rename leaves the history alone";
 }
 
 TEST_F(SingleRowCommit, RowWithoutPendingChangeTouchesNoFileButItsHistoryTakesItsName) {
   AddRow("a");
   Rename("a", "x");
   Rename("a", "a");
-  FileEntry& row = Row("a");
-  ASSERT_EQ(row[kColHistory0], "x");
+  core::FileEntry& row = Row("a");
+  ASSERT_EQ(row[core::kColHistory0], "x");
 
-  const CommitResult result = CommitRow(row.position);
+  const commit::CommitResult result = CommitRow(row.position);
 
   EXPECT_TRUE(result.notRenamed.empty());
   EXPECT_TRUE(fileSystem.renames.empty());
-  EXPECT_EQ(Row("a")[kColHistory0], "a");
+  EXPECT_EQ(Row("a")[core::kColHistory0], "a");
 }
 
 TEST_F(SingleRowCommit, RenameIsWrittenToTheProtocolWhenRenamesAreLogged) {
@@ -89,7 +89,7 @@ TEST_F(SingleRowCommit, ForbiddenNameIsRefusedBeforeTheDisk) {
   AddRow("a");
   Rename("a", "a|b");
 
-  const CommitResult result = CommitRow(1);
+  const commit::CommitResult result = CommitRow(1);
 
   EXPECT_EQ(TextKeys(result), Names{"MsgText11"});
   EXPECT_TRUE(fileSystem.renames.empty());

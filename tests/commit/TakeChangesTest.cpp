@@ -15,14 +15,14 @@ using Names = std::vector<std::string>;
 class TakeChanges : public CommitTest {
  protected:
   TakeChanges() { services.clock = FixedLocalTime; }
-  CommitServices services;
+  commit::CommitServices services;
 };
 
 TEST_F(TakeChanges, WithoutTheSecurityQuestionNothingIsAskedAndTheFilesAreRenamed) {
   AddRow("a");
   Rename("a", "x");
 
-  const std::optional<CommitResult> result = takeChanges(Commit(), preview, "TakeChanges1", services);
+  const std::optional<commit::CommitResult> result = commit::takeChanges(Commit(), preview, "TakeChanges1", services);
 
   ASSERT_TRUE(result.has_value());
   EXPECT_TRUE(frontEnd.asked.empty());
@@ -32,27 +32,27 @@ TEST_F(TakeChanges, WithoutTheSecurityQuestionNothingIsAskedAndTheFilesAreRename
 
 TEST_F(TakeChanges, WithTheSecurityQuestionAYesRenames) {
   options.securityQuestions[1] = true;
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
   AddRow("a");
   Rename("a", "x");
 
-  const std::optional<CommitResult> result = takeChanges(Commit(), preview, "", services);
+  const std::optional<commit::CommitResult> result = commit::takeChanges(Commit(), preview, "", services);
 
   ASSERT_EQ(frontEnd.asked.size(), 1u);
   EXPECT_EQ(frontEnd.asked[0].textKey, "MsgText03");
   EXPECT_EQ(frontEnd.asked[0].captionKey, "MsgCap03");
-  EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::YesNo);
+  EXPECT_EQ(frontEnd.asked[0].style, core::MessageStyle::YesNo);
   EXPECT_TRUE(result.has_value());
   EXPECT_EQ(NamesOnDisk(), Names{"x"});
 }
 
 TEST_F(TakeChanges, WithTheSecurityQuestionANoChangesNothing) {
   options.securityQuestions[1] = true;
-  frontEnd.answers = {Answer::No};
+  frontEnd.answers = {core::Answer::No};
   AddRow("a");
   Rename("a", "x");
 
-  const std::optional<CommitResult> result = takeChanges(Commit(), preview, "TakeChanges1", services);
+  const std::optional<commit::CommitResult> result = commit::takeChanges(Commit(), preview, "TakeChanges1", services);
 
   EXPECT_FALSE(result.has_value());
   EXPECT_EQ(frontEnd.asked.size(), 1u);
@@ -66,7 +66,7 @@ TEST_F(TakeChanges, OtherSecurityQuestionsAskNothing) {
   AddRow("a");
   Rename("a", "x");
 
-  takeChanges(Commit(), preview, "TakeChanges1", services);
+  commit::takeChanges(Commit(), preview, "TakeChanges1", services);
 
   EXPECT_TRUE(frontEnd.asked.empty());
   EXPECT_EQ(NamesOnDisk(), Names{"x"});
@@ -76,7 +76,7 @@ TEST_F(TakeChanges, TheDialogVariantIsNotBuiltAndDoesNothing) {
   AddRow("a");
   Rename("a", "x");
 
-  const std::optional<CommitResult> result = takeChanges(Commit(), preview, "TakeChanges2", services);
+  const std::optional<commit::CommitResult> result = commit::takeChanges(Commit(), preview, "TakeChanges2", services);
 
   EXPECT_FALSE(result.has_value());
   EXPECT_EQ(NamesOnDisk(), Names{"a"});
@@ -89,13 +89,13 @@ TEST_F(TakeChanges, ReportIsShownAndRemovingRenamedRowsLeavesTheFailedOnes) {
   Rename("a", "taken");
   Rename("b", "c");
   int shown = 0;
-  services.showNotRenamed = [&](const CommitResult& result) {
+  services.showNotRenamed = [&](const commit::CommitResult& result) {
     ++shown;
     EXPECT_EQ(TextKeys(result), Names{"MsgText05"});
-    return NotRenamedChoice::RemoveRenamed;
+    return commit::NotRenamedChoice::RemoveRenamed;
   };
 
-  takeChanges(Commit(), preview, "TakeChanges1", services);
+  commit::takeChanges(Commit(), preview, "TakeChanges1", services);
 
   EXPECT_EQ(shown, 1);
   EXPECT_EQ(Keys(), Names{PathOf("a")});
@@ -108,27 +108,27 @@ TEST_F(TakeChanges, ReportIsNotShownWhenEverythingWasRenamed) {
   AddRow("a");
   Rename("a", "x");
   int shown = 0;
-  services.showNotRenamed = [&](const CommitResult&) {
+  services.showNotRenamed = [&](const commit::CommitResult&) {
     ++shown;
-    return NotRenamedChoice::RemoveRenamed;
+    return commit::NotRenamedChoice::RemoveRenamed;
   };
 
-  takeChanges(Commit(), preview, "TakeChanges1", services);
+  commit::takeChanges(Commit(), preview, "TakeChanges1", services);
 
   EXPECT_EQ(shown, 0);
   EXPECT_EQ(state.list.Count(), 1);
 }
 
 TEST_F(TakeChanges, RemovingAllRowsWithYesTakesTheirChangesFirst) {
-  DiskCommitter committer(Commit(), services);
+  commit::DiskCommitter committer(Commit(), services);
   rowCommitter = &committer;
   AddRow("a");
   AddRow("b");
   Rename("a", "b");
   Rename("b", "a");
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
 
-  EXPECT_TRUE(deleteFromList(List(), rowCommitter, window.delListTag));
+  EXPECT_TRUE(core::deleteFromList(List(), rowCommitter, window.delListTag));
 
   EXPECT_TRUE(state.list.Empty());
   EXPECT_EQ(ContentOf("b"), "content of a");
@@ -137,22 +137,22 @@ TEST_F(TakeChanges, RemovingAllRowsWithYesTakesTheirChangesFirst) {
 }
 
 TEST_F(TakeChanges, RemovingOneRowWithYesRenamesThatRowAlone) {
-  DiskCommitter committer(Commit(), services);
+  commit::DiskCommitter committer(Commit(), services);
   rowCommitter = &committer;
   AddRow("a");
   AddRow("b");
   Rename("a", "x");
   Rename("b", "y");
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
 
-  EXPECT_TRUE(btnBarLeftDel1File(List(), rowCommitter, Row("a").position));
+  EXPECT_TRUE(core::btnBarLeftDel1File(List(), rowCommitter, Row("a").position));
 
   EXPECT_EQ(NamesOnDisk(), (Names{"b", "x"}));
   EXPECT_EQ(Keys(), Names{PathOf("b")});
 }
 
 TEST_F(TakeChanges, RemovingRowsWithPendingChangesRenamesEachOneAlone) {
-  DiskCommitter committer(Commit(), services);
+  commit::DiskCommitter committer(Commit(), services);
   rowCommitter = &committer;
   AddRow("a");
   AddRow("b");
@@ -160,9 +160,9 @@ TEST_F(TakeChanges, RemovingRowsWithPendingChangesRenamesEachOneAlone) {
   Rename("a", "x");
   Rename("c", "b");  // b stays and keeps its name
   window.delListTag = "DelList4";
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
 
-  EXPECT_TRUE(deleteFromList(List(), rowCommitter, window.delListTag));
+  EXPECT_TRUE(core::deleteFromList(List(), rowCommitter, window.delListTag));
 
   EXPECT_EQ(NamesOnDisk(), (Names{"b", "c", "x"}));
   EXPECT_EQ(Keys(), Names{PathOf("b")});

@@ -22,16 +22,16 @@ TEST_F(WholeListCommit, ChainWithItsFirstRowFirstGoesThroughATemporaryName) {
   Rename("A", "B");
   Rename("B", "C");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_TRUE(result.notRenamed.empty());
   EXPECT_EQ(NamesOnDisk(), (Names{"B", "C"}));
   EXPECT_EQ(ContentOf("B"), "content of A");
   EXPECT_EQ(ContentOf("C"), "content of B");
   ASSERT_FALSE(fileSystem.renames.empty());
-  EXPECT_EQ(fileSystem.renames[0].second, PathOf("B") + std::string(kTemporaryMark));
+  EXPECT_EQ(fileSystem.renames[0].second, PathOf("B") + std::string(commit::kTemporaryMark));
   EXPECT_EQ(Keys(), (Names{PathOf("B"), PathOf("C")}));
-  EXPECT_EQ(Column(kColOldName), (Names{"B", "C"}));
+  EXPECT_EQ(Column(core::kColOldName), (Names{"B", "C"}));
   EXPECT_EQ(state.changedCount, 0);
 }
 
@@ -41,7 +41,7 @@ TEST_F(WholeListCommit, ChainWithItsLastRowFirstNeedsNoTemporaryName) {
   Rename("A", "B");
   Rename("B", "C");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_TRUE(result.notRenamed.empty());
   EXPECT_EQ(NamesOnDisk(), (Names{"B", "C"}));
@@ -57,14 +57,14 @@ TEST_F(WholeListCommit, SwapGivesEachFileTheOthersName) {
   Rename("A", "B");
   Rename("B", "A");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_TRUE(result.notRenamed.empty());
   EXPECT_EQ(NamesOnDisk(), (Names{"A", "B"}));
   EXPECT_EQ(ContentOf("B"), "content of A");
   EXPECT_EQ(ContentOf("A"), "content of B");
   EXPECT_EQ(Keys(), (Names{PathOf("A"), PathOf("B")}));
-  EXPECT_EQ(state.list.Item(1)[kColOldName], "B");
+  EXPECT_EQ(state.list.Item(1)[core::kColOldName], "B");
   EXPECT_EQ(state.list.Find(PathOf("B"))->position, 1) << "the first row now holds B";
 }
 
@@ -75,7 +75,7 @@ TEST_F(WholeListCommit, CycleOfFourGoesRound) {
   Rename("3", "4");
   Rename("4", "1");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_TRUE(result.notRenamed.empty());
   EXPECT_EQ(ContentOf("2"), "content of 1");
@@ -89,7 +89,7 @@ TEST_F(WholeListCommit, CaseOnlyChangeEndsUnderTheNewSpelling) {
   AddRow("A.TXT");
   Rename("A.TXT", "a.txt");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_TRUE(result.notRenamed.empty());
   EXPECT_EQ(NamesOnDisk(), Names{"a.txt"});
@@ -102,13 +102,13 @@ TEST_F(WholeListCommit, CaseOnlyChangeUnderCaseInsensitiveRulesEndsUnderTheNewSp
   AddRow("A.TXT");
   Rename("A.TXT", "a.txt");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_TRUE(result.notRenamed.empty());
   EXPECT_EQ(NamesOnDisk(), Names{"a.txt"});
   EXPECT_EQ(ContentOf("a.txt"), "content of A.TXT");
   EXPECT_EQ(Keys(), Names{PathOf("a.txt")});
-  EXPECT_EQ(Column(kColOldName), Names{"a.txt"});
+  EXPECT_EQ(Column(core::kColOldName), Names{"a.txt"});
 }
 
 TEST_F(WholeListCommit, CaseOnlyChangeOnAVolumeWithoutCaseGoesThroughATemporaryName) {
@@ -116,7 +116,7 @@ TEST_F(WholeListCommit, CaseOnlyChangeOnAVolumeWithoutCaseGoesThroughATemporaryN
   AddRow("A.TXT");
   Rename("A.TXT", "a.txt");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_TRUE(result.notRenamed.empty());
   EXPECT_EQ(NamesOnDisk(), Names{"a.txt"});
@@ -132,19 +132,19 @@ TEST_F(WholeListCommit, ChainEndingOnAFileOutsideTheListRenamesNothing) {
   Rename("A", "B");
   Rename("B", "C");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   ASSERT_EQ(TextKeys(result), (Names{"MsgText05", "MsgText05"}));
   // Found from the end of the chain back: B first, then A, which waits on B.
-  EXPECT_EQ(result.notRenamed[0].arguments, (Names{Quoted(PathOf("B")), Quoted(PathOf("C"))}));
-  EXPECT_EQ(result.notRenamed[1].arguments, (Names{Quoted(PathOf("A")), Quoted(PathOf("B"))}));
+  EXPECT_EQ(result.notRenamed[0].arguments, (Names{base::Quoted(PathOf("B")), base::Quoted(PathOf("C"))}));
+  EXPECT_EQ(result.notRenamed[1].arguments, (Names{base::Quoted(PathOf("A")), base::Quoted(PathOf("B"))}));
   EXPECT_EQ(result.notRenamed[0].number, 1);
   EXPECT_EQ(result.notRenamed[1].number, 2);
   EXPECT_TRUE(fileSystem.renames.empty());
   EXPECT_EQ(NamesOnDisk(), (Names{"A", "B", "C"}));
   EXPECT_EQ(ContentOf("A"), "content of A");
   EXPECT_EQ(ContentOf("C"), "content of C");
-  EXPECT_EQ(Column(kColOldName), (Names{"A", "B"}));
+  EXPECT_EQ(Column(core::kColOldName), (Names{"A", "B"}));
   EXPECT_EQ(state.changedCount, 2);
 }
 
@@ -155,7 +155,7 @@ TEST_F(WholeListCommit, BlockedRowsReportTheKeyOfTheRowAtTheirRunningNumber) {
   Rename("A", "B");
   Rename("B", "C");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   ASSERT_EQ(result.notRenamed.size(), 2u);
   // The first blocked row found is B's, yet its report row carries row 1's key.
@@ -171,16 +171,16 @@ TEST_F(WholeListCommit, SecondRowToATakenNameIsBlockedAndAThirdRowGetsTheFreedNa
   Rename("B", "X");
   Rename("C", "A");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   ASSERT_EQ(TextKeys(result), Names{"MsgText05"});
-  EXPECT_EQ(result.notRenamed[0].arguments, (Names{Quoted(PathOf("B")), Quoted(PathOf("X"))}));
+  EXPECT_EQ(result.notRenamed[0].arguments, (Names{base::Quoted(PathOf("B")), base::Quoted(PathOf("X"))}));
   EXPECT_EQ(NamesOnDisk(), (Names{"A", "B", "X"}));
   EXPECT_EQ(ContentOf("X"), "content of A");
   EXPECT_EQ(ContentOf("A"), "content of C");
   EXPECT_EQ(ContentOf("B"), "content of B");
   EXPECT_EQ(Keys(), (Names{PathOf("A"), PathOf("B"), PathOf("X")}));
-  EXPECT_EQ(Row("B")[kColNewName], "X") << "the blocked row keeps its pending name";
+  EXPECT_EQ(Row("B")[core::kColNewName], "X") << "the blocked row keeps its pending name";
 }
 
 TEST_F(WholeListCommit, RowToTheNameOfARowThatStaysIsBlocked) {
@@ -188,7 +188,7 @@ TEST_F(WholeListCommit, RowToTheNameOfARowThatStaysIsBlocked) {
   AddRow("B");
   Rename("A", "B");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_EQ(TextKeys(result), Names{"MsgText05"});
   EXPECT_EQ(NamesOnDisk(), (Names{"A", "B"}));
@@ -206,17 +206,17 @@ TEST_F(WholeListCommit, RemovingRenamedRowsKeepsTheFailedOnesAndTheOneThroughATe
   Rename("D", "E");
   Rename("F", "G");  // blocked by the foreign file
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
   ASSERT_EQ(TextKeys(result), Names{"MsgText05"});
   EXPECT_EQ(result.renamed,
-            (Names{PathOf("B") + std::string(kTemporaryMark), PathOf("C"), PathOf("E")}));
+            (Names{PathOf("B") + std::string(commit::kTemporaryMark), PathOf("C"), PathOf("E")}));
 
-  ApplyNotRenamedChoice(Commit(), result, true);
+  commit::ApplyNotRenamedChoice(Commit(), result, true);
   preview.Refresh();
 
   EXPECT_EQ(Keys(), (Names{PathOf("B"), PathOf("F")}));
-  EXPECT_EQ(Row("B")[kColNewName], "B");
-  EXPECT_EQ(Row("F")[kColNewName], "G");
+  EXPECT_EQ(Row("B")[core::kColNewName], "B");
+  EXPECT_EQ(Row("F")[core::kColNewName], "G");
 }
 
 TEST_F(WholeListCommit, NoActionKeepsEveryRow) {
@@ -226,8 +226,8 @@ TEST_F(WholeListCommit, NoActionKeepsEveryRow) {
   Rename("A", "B");
   Rename("F", "G");
 
-  const CommitResult result = CommitAll();
-  ApplyNotRenamedChoice(Commit(), result, false);
+  const commit::CommitResult result = CommitAll();
+  commit::ApplyNotRenamedChoice(Commit(), result, false);
 
   EXPECT_EQ(state.list.Count(), 2);
 }
@@ -238,7 +238,7 @@ TEST_F(WholeListCommit, BatchWithoutPendingChangesTouchesNothing) {
   AddRow("A");
   AddRow("B");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_TRUE(result.notRenamed.empty());
   EXPECT_TRUE(result.renamed.empty());
@@ -255,15 +255,15 @@ TEST_F(WholeListCommit, SuccessfulBatchClearsTheHistorySoUndoIsOff) {
   Rename("B", "other");
   ASSERT_GT(state.undoLevels, 0);
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   ASSERT_TRUE(result.notRenamed.empty());
   EXPECT_EQ(state.undoLevels, 0);
   EXPECT_FALSE(window.commands.IsEnabled("mnuUndo"));
   for (int position = 1; position <= 2; ++position) {
-    const FileEntry& row = state.list.Item(position);
-    EXPECT_EQ(row[kColHistory0], row[kColNewName]);
-    for (int column = kColHistoryFirst; column <= kColHistoryLast; ++column) EXPECT_TRUE(row[column].empty());
+    const core::FileEntry& row = state.list.Item(position);
+    EXPECT_EQ(row[core::kColHistory0], row[core::kColNewName]);
+    for (int column = core::kColHistoryFirst; column <= core::kColHistoryLast; ++column) EXPECT_TRUE(row[column].empty());
   }
   EXPECT_EQ(NamesOnDisk(), (Names{"other", "second"}));
 }
@@ -278,11 +278,11 @@ TEST_F(WholeListCommit, UndoLevelsFollowTheFirstRowWhenItWasNotRenamed) {
   const int levelsBefore = state.undoLevels;
   ASSERT_GT(levelsBefore, 0);
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   ASSERT_EQ(TextKeys(result), Names{"MsgText05"});
   EXPECT_EQ(state.undoLevels, levelsBefore);
-  EXPECT_TRUE(state.list.Item(2)[kColHistoryFirst].empty()) << "the renamed row lost its history";
+  EXPECT_TRUE(state.list.Item(2)[core::kColHistoryFirst].empty()) << "the renamed row lost its history";
 }
 
 TEST_F(WholeListCommit, ForbiddenCharactersAndAnEmptyNameAreReportedAndTheBatchGoesOn) {
@@ -295,14 +295,14 @@ TEST_F(WholeListCommit, ForbiddenCharactersAndAnEmptyNameAreReportedAndTheBatchG
   Rename("c", "x:y");
   Rename("d", "fine");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   ASSERT_EQ(TextKeys(result), (Names{"MsgText11", "MsgText11", "MsgText11"}));
-  EXPECT_EQ(result.notRenamed[0].arguments, (Names{Quoted(PathOf("a")), Quoted(PathOf("<ERROR>"))}));
-  EXPECT_EQ(result.notRenamed[1].arguments, (Names{Quoted(PathOf("b")), Quoted(PathOf(""))}));
+  EXPECT_EQ(result.notRenamed[0].arguments, (Names{base::Quoted(PathOf("a")), base::Quoted(PathOf("<ERROR>"))}));
+  EXPECT_EQ(result.notRenamed[1].arguments, (Names{base::Quoted(PathOf("b")), base::Quoted(PathOf(""))}));
   EXPECT_EQ(NamesOnDisk(), (Names{"a", "b", "c", "fine"}));
   EXPECT_EQ(fileSystem.renames.size(), 1u) << "only the good name reached the disk";
-  EXPECT_EQ(Row("a")[kColNewName], "<ERROR>");
+  EXPECT_EQ(Row("a")[core::kColNewName], "<ERROR>");
 }
 
 TEST_F(WholeListCommit, VanishedFileIsReportedWithoutNamesAndAgainAtItsRename) {
@@ -312,16 +312,16 @@ TEST_F(WholeListCommit, VanishedFileIsReportedWithoutNamesAndAgainAtItsRename) {
   Rename("b", "y");
   std::remove(PathOf("a").c_str());
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   ASSERT_EQ(TextKeys(result), (Names{"MsgText06", "MsgText11"}));
-  const ReportRow& vanished = result.notRenamed[0];
+  const commit::ReportRow& vanished = result.notRenamed[0];
   EXPECT_EQ(vanished.arguments, (Names{"\"\"", "\"\""}));
   EXPECT_EQ(vanished.rowKey, PathOf("a"));
   EXPECT_EQ(vanished.systemText, std::strerror(ENOENT));
-  EXPECT_EQ(result.notRenamed[1].arguments, (Names{Quoted(PathOf("a")), Quoted(PathOf("x"))}));
+  EXPECT_EQ(result.notRenamed[1].arguments, (Names{base::Quoted(PathOf("a")), base::Quoted(PathOf("x"))}));
   EXPECT_EQ(NamesOnDisk(), Names{"y"});
-  EXPECT_EQ(Row("a")[kColNewName], "x");
+  EXPECT_EQ(Row("a")[core::kColNewName], "x");
   EXPECT_EQ(Row("a").key, PathOf("a"));
 }
 
@@ -332,7 +332,7 @@ TEST_F(WholeListCommit, NameOfARowWhoseFileVanishedIsNotTakenByAnother) {
   Rename("A", "B");
   std::remove(PathOf("B").c_str());
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   // Were A to take the name B, the row of B would take A's file along to Q.
   EXPECT_EQ(TextKeys(result), (Names{"MsgText06", "MsgText11", "MsgText05"}));
@@ -346,7 +346,7 @@ TEST_F(WholeListCommit, FolderHoldingTheNewNameIsATakenTarget) {
   files.MakeFolder("sub");
   Rename("a", "sub");
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_EQ(TextKeys(result), Names{"MsgText05"});
   EXPECT_EQ(fileSystem.TemporaryRenames(), 0);
@@ -358,10 +358,10 @@ TEST_F(WholeListCommit, RowsOfTwoFoldersSwapWithinEach) {
   AddRow("one/b");
   AddRow("two/a");
   AddRow("two/b");
-  state.list.ForEach([](FileEntry& row) { row[kColNewName] = row[kColOldName] == "a" ? "b" : "a"; });
+  state.list.ForEach([](core::FileEntry& row) { row[core::kColNewName] = row[core::kColOldName] == "a" ? "b" : "a"; });
   preview.Refresh();
 
-  const CommitResult result = CommitAll();
+  const commit::CommitResult result = CommitAll();
 
   EXPECT_TRUE(result.notRenamed.empty());
   EXPECT_EQ(ContentOf("one/b"), "content of one/a");

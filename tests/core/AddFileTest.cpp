@@ -13,7 +13,7 @@
 #include "base/Fault.h"
 #include "support/ListFixture.h"
 
-namespace nomra {
+namespace nomra::core {
 namespace {
 
 class AddFileTest : public testing::ListTest {};
@@ -55,7 +55,7 @@ TEST_F(AddFileTest, AddedFileFillsItsColumns) {
   EXPECT_EQ(row[kColNewName], "photo.txt");
   EXPECT_EQ(row[kColSize], "1,234");
   EXPECT_EQ(row.sizeTag, "000000001234");
-  EXPECT_EQ(row[kColModified], text::FormatListDate(1700000000));
+  EXPECT_EQ(row[kColModified], base::FormatListDate(1700000000));
   EXPECT_EQ(row[kColExifDate], "");
   EXPECT_EQ(row[kColHistory0], "photo.txt");
   EXPECT_EQ(row[kColHistoryFirst], "");
@@ -105,7 +105,7 @@ TEST_F(AddFileTest, MissingPathIsAFaultForTheCallerWhenExistenceIsNotChecked) {
   try {
     AddFile(load, path);
     FAIL() << "a missing path must reach the caller";
-  } catch (const RuntimeFault& fault) {
+  } catch (const base::RuntimeFault& fault) {
     EXPECT_NE(std::string(fault.what()).find("nothing-here.txt"), std::string::npos);
   }
   EXPECT_EQ(state.list.Count(), 0);
@@ -235,4 +235,4 @@ TEST_F(AddFileExif, NoExifDateIsReadWhenDisabled) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::core

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace nomra {
+namespace nomra::core {
 namespace {
 
 TEST(CharacterSets, EmptySettingGivesTheDefaultLetters) {
@@ -37,4 +37,4 @@ TEST(CharacterSets, DigitSetsAreFixed) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::core

@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-namespace nomra {
+namespace nomra::core {
 namespace {
 
 TEST(FileEntry, PushMovesEveryLevelOnAndDropsTheOldest) {
@@ -44,4 +44,4 @@ TEST(FileEntry, ColumnOutsideTheRowThrows) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::core

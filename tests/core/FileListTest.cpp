@@ -6,7 +6,7 @@
 #include "support/ForwardingFileSystem.h"
 #include "support/ListFixture.h"
 
-namespace nomra {
+namespace nomra::core {
 namespace {
 
 using testing::CaseInsensitiveFileSystem;
@@ -56,8 +56,8 @@ TEST(FileList, ItemOutsideTheListIsAFault) {
   platform::PosixFileSystem fs;
   FileList list(fs);
   list.Add("/x/a");
-  EXPECT_THROW(list.Item(0), RuntimeFault);
-  EXPECT_THROW(list.Item(2), RuntimeFault);
+  EXPECT_THROW(list.Item(0), base::RuntimeFault);
+  EXPECT_THROW(list.Item(2), base::RuntimeFault);
 }
 
 TEST(FileList, RemoveRenumbersAndFreesTheKey) {
@@ -137,8 +137,8 @@ TEST(FileList, ReorderRefusesAnOrderThatIsNoPermutation) {
   platform::PosixFileSystem fs;
   FileList list(fs);
   for (const char* key : {"/A", "/B"}) list.Add(key);
-  EXPECT_THROW(list.Reorder({0, 0}), RuntimeFault);
-  EXPECT_THROW(list.Reorder({0}), RuntimeFault);
+  EXPECT_THROW(list.Reorder({0, 0}), base::RuntimeFault);
+  EXPECT_THROW(list.Reorder({0}), base::RuntimeFault);
   EXPECT_EQ(Keys(list), (std::vector<std::string>{"/A", "/B"}));
   list.Reorder({1, 0});
   EXPECT_EQ(Keys(list), (std::vector<std::string>{"/B", "/A"}));
@@ -146,4 +146,4 @@ TEST(FileList, ReorderRefusesAnOrderThatIsNoPermutation) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::core

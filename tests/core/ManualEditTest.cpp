@@ -5,7 +5,7 @@
 #include "base/FileNames.h"
 #include "support/ListFixture.h"
 
-namespace nomra {
+namespace nomra::core {
 namespace {
 
 class ManualEditTest : public testing::ListTest {};
@@ -26,10 +26,10 @@ TEST_F(ManualEditTest, NameOfOnlyBlanksIsIgnored) {
 
 TEST_F(ManualEditTest, ForbiddenCharactersAreDiscardedWhileTyping) {
   for (char32_t c : {U'\\', U'/', U':', U'?', U'*', U'<', U'>', U'|', U'"'}) {
-    EXPECT_TRUE(IsForbiddenNameCharacter(c)) << static_cast<int>(c);
+    EXPECT_TRUE(base::IsForbiddenNameCharacter(c)) << static_cast<int>(c);
   }
   for (char32_t c : {U'a', U' ', U'.', U'-', U'ä', U'€'}) {
-    EXPECT_FALSE(IsForbiddenNameCharacter(c)) << static_cast<int>(c);
+    EXPECT_FALSE(base::IsForbiddenNameCharacter(c)) << static_cast<int>(c);
   }
 }
 
@@ -40,4 +40,4 @@ TEST_F(ManualEditTest, InPlaceEditRemovesForbiddenCharacters) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::core

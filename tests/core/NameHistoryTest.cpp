@@ -4,7 +4,7 @@
 
 #include "support/ListFixture.h"
 
-namespace nomra {
+namespace nomra::core {
 namespace {
 
 class HistoryTest : public testing::ListTest {
@@ -89,4 +89,4 @@ TEST_F(HistoryTest, RejectAsksWithNoAsTheDefaultWhenTheQuestionIsOn) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::core

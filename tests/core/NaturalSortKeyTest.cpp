@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace nomra {
+namespace nomra::core {
 namespace {
 
 TEST(NaturalSortKey, PadsEachRunOfDigitsToFifteen) {
@@ -27,4 +27,4 @@ TEST(NaturalSortKey, LeadingZerosDoNotChangeTheValue) { EXPECT_EQ(NaturalSortKey
 TEST(NaturalSortKey, EmptyTextGivesEmptyKey) { EXPECT_EQ(NaturalSortKey(""), ""); }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::core

@@ -5,7 +5,7 @@
 #include "base/Fault.h"
 #include "support/ListFixture.h"
 
-namespace nomra {
+namespace nomra::core {
 namespace {
 
 class RemoveTest : public testing::ListTest {
@@ -171,9 +171,9 @@ TEST_F(RemoveTest, WithoutACommitterYesIsAFaultAndNothingIsLost) {
   rowCommitter = nullptr;
   window.delListTag = "DelList4";
   frontEnd.answers = {Answer::Yes};
-  EXPECT_THROW(deleteFromList(List(), rowCommitter, window.delListTag), RuntimeFault);
+  EXPECT_THROW(deleteFromList(List(), rowCommitter, window.delListTag), base::RuntimeFault);
   EXPECT_EQ(state.list.Count(), 4);
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::core

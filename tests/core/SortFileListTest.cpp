@@ -4,7 +4,7 @@
 
 #include "support/ListFixture.h"
 
-namespace nomra {
+namespace nomra::core {
 namespace {
 
 class SortTest : public testing::ListTest {};
@@ -124,4 +124,4 @@ TEST_F(SortTest, EqualTextsKeepTheirOrder) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::core

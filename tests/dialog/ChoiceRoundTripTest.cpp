@@ -2,7 +2,7 @@
 
 #include "dialog/DialogStateFixture.h"
 
-namespace nomra {
+namespace nomra::dialog {
 namespace {
 
 using dialog::DialogModel;
@@ -82,4 +82,4 @@ TEST_F(ChoiceRoundTripTest, StoringASectionKeepsTheRestOfTheSettingsFile) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::dialog

@@ -51,7 +51,7 @@ class DialogStateTest : public ::testing::Test {
   void WriteRecording(const std::string& text) const { data.WriteFile(settings::kScriptTempFileName, text); }
 
   TempFolder data;
-  ScriptSession session;
+  dialog::ScriptSession session;
   ScriptedFrontEnd frontEnd;
 };
 

@@ -4,7 +4,7 @@
 
 #include "dialog/DialogStateFixture.h"
 
-namespace nomra {
+namespace nomra::dialog {
 namespace {
 
 using dialog::DialogModel;
@@ -86,4 +86,4 @@ TEST_F(ListRoundTripTest, MultiSelectionWithNothingChosenHasNoKeyAndShowsNoMessa
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::dialog

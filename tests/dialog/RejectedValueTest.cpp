@@ -4,7 +4,7 @@
 
 #include "dialog/DialogStateFixture.h"
 
-namespace nomra {
+namespace nomra::dialog {
 namespace {
 
 using dialog::DialogModel;
@@ -80,4 +80,4 @@ TEST_F(RejectedValueTest, MissingSectionOrFileLeavesEveryInputAsItWas) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::dialog

@@ -6,7 +6,7 @@
 
 using nomra::testing::Ini;
 
-namespace nomra {
+namespace nomra::dialog {
 namespace {
 
 using dialog::DialogModel;
@@ -55,7 +55,7 @@ TEST_F(ScriptStepStoreTest, MissingStepCounterOpensStepZero) {
 TEST_F(ScriptStepStoreTest, StepCounterAt32767IsAnOverflowAndWritesNothing) {
   const std::string full = "[Main]\r\nSteps=32767\r\n";
   WriteRecording(full);
-  EXPECT_THROW(RecordStep(Dialog("x"), "5"), RuntimeFault);
+  EXPECT_THROW(RecordStep(Dialog("x"), "5"), base::RuntimeFault);
   EXPECT_EQ(RecordingText(), full);
 }
 
@@ -69,7 +69,7 @@ TEST_F(ScriptStepStoreTest, StepCounterReaches32767) {
 TEST_F(ScriptStepStoreTest, StepCounterThatIsNoNumberIsARuntimeFault) {
   const std::string broken = "[Main]\r\nSteps=many\r\n";
   WriteRecording(broken);
-  EXPECT_THROW(RecordStep(Dialog("x"), "5"), RuntimeFault);
+  EXPECT_THROW(RecordStep(Dialog("x"), "5"), base::RuntimeFault);
   EXPECT_EQ(RecordingText(), broken);
 }
 
@@ -91,4 +91,4 @@ TEST_F(ScriptStepStoreTest, RestoringReadsTheStepOfThePlayedScriptByItsNumber) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::dialog

@@ -5,7 +5,7 @@
 
 using nomra::testing::Ini;
 
-namespace nomra {
+namespace nomra::dialog {
 namespace {
 
 using dialog::DialogModel;
@@ -74,4 +74,4 @@ TEST_F(TextRoundTripTest, MultibyteTextComesBackWhole) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::dialog

@@ -34,7 +34,7 @@ TEST_F(CollisionTest, WithoutAnyAnswerNothingIsReplaced) {
 
 TEST_F(CollisionTest, YesReplacesTheFileThere) {
   Pair("a.txt", true);
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
 
   EXPECT_EQ(Copy(), 0);
 
@@ -46,13 +46,13 @@ TEST_F(CollisionTest, YesReplacesTheFileThere) {
 TEST_F(CollisionTest, QuestionNamesTheFileAndBothSizes) {
   Pair("a.txt", true);
   temp.WriteFile("target/a.txt", "older and longer");
-  frontEnd.answers = {Answer::No, Answer::No};
+  frontEnd.answers = {core::Answer::No, core::Answer::No};
 
   Copy();
 
   ASSERT_FALSE(frontEnd.asked.empty());
-  const Message& question = frontEnd.asked.front();
-  EXPECT_EQ(question.style, MessageStyle::YesNoCancelDefaultNo);
+  const core::Message& question = frontEnd.asked.front();
+  EXPECT_EQ(question.style, core::MessageStyle::YesNoCancelDefaultNo);
   EXPECT_EQ(question.arguments.at(0), "a.txt");
   EXPECT_EQ(question.arguments.at(1), temp.Path() + "target/");
   EXPECT_EQ(question.arguments.at(2), temp.Path() + "source/");
@@ -62,7 +62,7 @@ TEST_F(CollisionTest, QuestionNamesTheFileAndBothSizes) {
 
 TEST_F(CollisionTest, NoThenNoSkipsTheFile) {
   Pair("a.txt", true);
-  frontEnd.answers = {Answer::No, Answer::No};
+  frontEnd.answers = {core::Answer::No, core::Answer::No};
 
   EXPECT_EQ(Copy(), 0);
 
@@ -75,7 +75,7 @@ TEST_F(CollisionTest, NoThenNoSkipsTheFile) {
 TEST_F(CollisionTest, NoThenYesKeepsBothUnderANumberedName) {
   Pair("a.txt", true);
   temp.WriteFile("target/a (2).txt", "another");
-  frontEnd.answers = {Answer::No, Answer::Yes};
+  frontEnd.answers = {core::Answer::No, core::Answer::Yes};
 
   Copy();
 
@@ -89,7 +89,7 @@ TEST_F(CollisionTest, CancelStopsTheWholeCopy) {
   Pair("a.txt", false);
   Pair("b.txt", true);
   Pair("c.txt", false);
-  frontEnd.answers = {Answer::Cancel};
+  frontEnd.answers = {core::Answer::Cancel};
 
   Copy();
 
@@ -102,7 +102,7 @@ TEST_F(CollisionTest, SameForAllAnswersTheLaterCollisions) {
   Pair("a.txt", true);
   Pair("b.txt", true);
   Pair("c.txt", true);
-  frontEnd.answers = {Answer::Yes, Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes, core::Answer::Yes};
 
   Copy();
 
@@ -115,7 +115,7 @@ TEST_F(CollisionTest, SameForAllAnswersTheLaterCollisions) {
 TEST_F(CollisionTest, NotTheSameForAllAsksAgain) {
   Pair("a.txt", true);
   Pair("b.txt", true);
-  frontEnd.answers = {Answer::Yes, Answer::No, Answer::No, Answer::No};
+  frontEnd.answers = {core::Answer::Yes, core::Answer::No, core::Answer::No, core::Answer::No};
 
   Copy();
 
@@ -127,7 +127,7 @@ TEST_F(CollisionTest, NotTheSameForAllAsksAgain) {
 TEST_F(CollisionTest, SameForAllIsNotAskedWhenNoCollisionFollows) {
   Pair("a.txt", true);
   Pair("b.txt", false);
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
 
   Copy();
 
@@ -139,7 +139,7 @@ TEST_F(CollisionTest, FolderInTheWayIsNeverOfferedForReplacing) {
   sources.push_back(temp.WriteFile("source/a.txt", "new"));
   targets.push_back(temp.MakeFolder("target/a.txt"));
   targets.back().pop_back();
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
 
   Copy();
 
@@ -164,7 +164,7 @@ TEST_F(CollisionTest, RenameOnCollisionKeepsBothUnaskedAndReportsTheNames) {
 
 TEST_F(CollisionTest, KeepBothNameOfAFileWithoutExtension) {
   Pair("README", true);
-  frontEnd.answers = {Answer::No, Answer::Yes};
+  frontEnd.answers = {core::Answer::No, core::Answer::Yes};
 
   Copy();
 

@@ -89,10 +89,10 @@ TEST_F(CopyFilesTest, StopWhileALargeFileIsCopiedLeavesNoPartOfIt) {
   progress.stopAtFile = 0;
   int reports = 0;
   // The first report is the one before the file; the next comes from inside its copy.
-  struct StopInside final : Progress {
+  struct StopInside final : core::Progress {
     int& reports;
     explicit StopInside(int& r) : reports(r) {}
-    bool Tick(const ProgressStep&) override { return ++reports < 2; }
+    bool Tick(const core::ProgressStep&) override { return ++reports < 2; }
   } stopInside(reports);
   platform::FreedesktopTrash stoppingTrash{os, nomra::testing::RealLocations()};
   OperationServices stopping{os, stoppingTrash, frontEnd, stopInside, services.clock};
@@ -165,7 +165,7 @@ TEST_F(CopyFilesTest, NoWorkFileIsLeftBehind) {
 TEST_F(CopyFilesTest, MissingSourceIsToldAndTheOthersGoOn) {
   MakeFiles(3);
   std::remove(sources[1].c_str());
-  frontEnd.answers = {Answer::Ok, Answer::Yes};
+  frontEnd.answers = {core::Answer::Ok, core::Answer::Yes};
 
   EXPECT_EQ(Copy(), ENOENT);
 

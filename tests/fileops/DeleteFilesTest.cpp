@@ -28,12 +28,12 @@ TEST_F(DeleteFilesTest, AtOnceWithoutQuestionRemovesEveryFile) {
 
 TEST_F(DeleteFilesTest, AtOnceAsksWithAWarningAndNoKeepsTheFiles) {
   const std::string a = temp.WriteFile("a.txt");
-  frontEnd.answers = {Answer::No};
+  frontEnd.answers = {core::Answer::No};
 
   DeleteFileList(JoinPathList({a}), false, true, services);
 
   EXPECT_EQ(AskedKeys(), std::vector<std::string>{lang::kDeleteOne});
-  EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::YesNoWarningDefaultNo);
+  EXPECT_EQ(frontEnd.asked[0].style, core::MessageStyle::YesNoWarningDefaultNo);
   EXPECT_TRUE(Exists(a));
 }
 
@@ -59,7 +59,7 @@ TEST_F(DeleteFilesTest, FailureIsToldAndTheOthersGoOnWhenAsked) {
   const std::string a = temp.WriteFile("a.txt");
   const std::string folder = temp.MakeFolder("folder");
   const std::string c = temp.WriteFile("c.txt");
-  frontEnd.answers = {Answer::Ok, Answer::Yes};
+  frontEnd.answers = {core::Answer::Ok, core::Answer::Yes};
 
   EXPECT_NE(DeleteFileList(JoinPathList({a, folder, c}), false, false, services), 0);
 
@@ -87,7 +87,7 @@ class DeleteListFilesTest : public ListOperationsTest {
 TEST_F(DeleteListFilesTest, WithoutExpertModeNothingHappens) {
   AddFiles({"a.txt"});
   options.expertMode = false;
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
 
   EXPECT_FALSE(DeleteListFiles(List(), options.expertMode, false, services));
 
@@ -97,7 +97,7 @@ TEST_F(DeleteListFilesTest, WithoutExpertModeNothingHappens) {
 
 TEST_F(DeleteListFilesTest, DeletedFilesLeaveTheListAfterTheQuestion) {
   AddFiles({"a.txt", "b.txt"});
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
 
   EXPECT_TRUE(DeleteListFiles(List(), options.expertMode, true, services));
 
@@ -111,7 +111,7 @@ TEST_F(DeleteListFilesTest, DeletedFilesLeaveTheListAfterTheQuestion) {
 
 TEST_F(DeleteListFilesTest, NoToTheQuestionKeepsFilesAndRows) {
   AddFiles({"a.txt", "b.txt"});
-  frontEnd.answers = {Answer::No};
+  frontEnd.answers = {core::Answer::No};
 
   DeleteListFiles(List(), options.expertMode, false, services);
 
@@ -123,11 +123,11 @@ TEST_F(DeleteListFilesTest, OnlyTheRowsOfTheApplyScopeAreDeleted) {
   AddFiles({"a.txt", "b.txt", "c.txt"});
   state.list.Item(2).selected = true;
   state.applyScope = 1;
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
 
   DeleteListFiles(List(), options.expertMode, false, services);
 
-  EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"a.txt", "c.txt"}));
+  EXPECT_EQ(Column(core::kColOldName), (std::vector<std::string>{"a.txt", "c.txt"}));
   EXPECT_FALSE(Exists(temp.Path() + "b.txt"));
 }
 
@@ -150,11 +150,11 @@ TEST_F(DeleteListFilesTest, RowOfAFileThatCouldNotBeDeletedStays) {
   } refusing;
   platform::FreedesktopTrash withTrash{refusing, nomra::testing::RealLocations()};
   OperationServices with{refusing, withTrash, frontEnd, progress};
-  frontEnd.answers = {Answer::Yes, Answer::Ok, Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes, core::Answer::Ok, core::Answer::Yes};
 
   DeleteListFiles(List(), options.expertMode, false, with);
 
-  EXPECT_EQ(Column(kColOldName), std::vector<std::string>{"b.txt"});
+  EXPECT_EQ(Column(core::kColOldName), std::vector<std::string>{"b.txt"});
 }
 
 }  // namespace

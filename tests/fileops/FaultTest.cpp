@@ -60,13 +60,13 @@ TEST_F(FaultTest, AccessDeniedOnTheThirdFileIsToldAndTheRestGoOnWhenAsked) {
   FailingCopySystem failing;
   failing.failAt = 3;
   failing.error = EACCES;
-  frontEnd.answers = {Answer::Ok, Answer::Yes};
+  frontEnd.answers = {core::Answer::Ok, core::Answer::Yes};
 
   EXPECT_EQ(Run(failing), EACCES);
 
   EXPECT_EQ(AskedKeys(), (std::vector<std::string>{lang::kAccessDenied, lang::kGoOn}));
   EXPECT_EQ(frontEnd.asked[0].arguments, (std::vector<std::string>{sources[2], temp.Path() + "target/"}));
-  EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::OkStop);
+  EXPECT_EQ(frontEnd.asked[0].style, core::MessageStyle::OkStop);
   EXPECT_EQ(frontEnd.asked[1].arguments, std::vector<std::string>{"2"});
   EXPECT_EQ(Targets(), (std::vector<std::string>{"f1.txt", "f2.txt", "f4.txt", "f5.txt"}));
   EXPECT_EQ(aborted, 0);
@@ -77,7 +77,7 @@ TEST_F(FaultTest, NoToGoingOnStopsAfterTheFailure) {
   FailingCopySystem failing;
   failing.failAt = 3;
   failing.error = EACCES;
-  frontEnd.answers = {Answer::Ok, Answer::No};
+  frontEnd.answers = {core::Answer::Ok, core::Answer::No};
 
   Run(failing);
 

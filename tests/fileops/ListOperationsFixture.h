@@ -12,12 +12,12 @@ class ListOperationsTest : public nomra::testing::ListTest {
  protected:
   std::vector<std::string> AskedKeys() const {
     std::vector<std::string> keys;
-    for (const Message& message : frontEnd.asked) keys.push_back(message.textKey);
+    for (const core::Message& message : frontEnd.asked) keys.push_back(message.textKey);
     return keys;
   }
   std::vector<std::string> Keys() {
     std::vector<std::string> keys;
-    state.list.ForEach([&](const FileEntry& row) { keys.push_back(row.key); });
+    state.list.ForEach([&](const core::FileEntry& row) { keys.push_back(row.key); });
     return keys;
   }
 

@@ -130,7 +130,7 @@ TEST_F(MoveFilesTest, MoveOntoItselfChangesNothing) {
 TEST_F(MoveFilesTest, ReplacingOnAMoveTakesTheFileThereAway) {
   sources.push_back(temp.WriteFile("source/a.txt", "new"));
   targets.push_back(temp.WriteFile("target/a.txt", "old"));
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
 
   EXPECT_EQ(Move(services), 0);
 
@@ -141,7 +141,7 @@ TEST_F(MoveFilesTest, ReplacingOnAMoveTakesTheFileThereAway) {
 TEST_F(MoveFilesTest, SkippedMoveLeavesBothFiles) {
   sources.push_back(temp.WriteFile("source/a.txt", "new"));
   targets.push_back(temp.WriteFile("target/a.txt", "old"));
-  frontEnd.answers = {Answer::No, Answer::No};
+  frontEnd.answers = {core::Answer::No, core::Answer::No};
 
   Move(services);
 

@@ -53,17 +53,17 @@ inline std::vector<std::string> NamesIn(const std::string& folder) {
 }
 
 // Remembers every step it was told of, and says stop at the step asked for.
-class ScriptedProgress final : public Progress {
+class ScriptedProgress final : public core::Progress {
  public:
-  void Begin(const ProgressStep& task) override { begun.push_back(task); }
-  bool Tick(const ProgressStep& step) override {
+  void Begin(const core::ProgressStep& task) override { begun.push_back(task); }
+  bool Tick(const core::ProgressStep& step) override {
     steps.push_back(step);
     return stopAtFile == 0 || step.index < stopAtFile;
   }
   void End() override { ++ended; }
 
-  std::vector<ProgressStep> begun;
-  std::vector<ProgressStep> steps;
+  std::vector<core::ProgressStep> begun;
+  std::vector<core::ProgressStep> steps;
   int ended = 0;
   int stopAtFile = 0;  // the file before which the user stops; 0 never
 };
@@ -74,11 +74,11 @@ class OperationsTest : public ::testing::Test {
   // The keys of the messages asked, in order.
   std::vector<std::string> AskedKeys() const {
     std::vector<std::string> keys;
-    for (const Message& message : frontEnd.asked) keys.push_back(message.textKey);
+    for (const core::Message& message : frontEnd.asked) keys.push_back(message.textKey);
     return keys;
   }
   bool WasAsked(const std::string& key) const {
-    for (const Message& message : frontEnd.asked)
+    for (const core::Message& message : frontEnd.asked)
       if (message.textKey == key) return true;
     return false;
   }

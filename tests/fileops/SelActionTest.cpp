@@ -27,7 +27,7 @@ class SelActionTest : public ListOperationsTest {
   // A file holding its own relative path, added as a row.
   void Add(const std::string& relative) {
     std::string path = temp.WriteFile(relative, relative);
-    AddFile(load, path);
+    core::AddFile(load, path);
   }
   FrmSelAction Opened(const std::string& tag) {
     FrmSelAction dialog(tag);
@@ -38,7 +38,7 @@ class SelActionTest : public ListOperationsTest {
   void Choose(FrmSelAction& dialog, const char* option) { dialog.Model().SetOption(option, true); }
 
   TempFolder settingsFolder;
-  DiskCommitter committer{Commit()};
+  commit::DiskCommitter committer{Commit()};
   std::string target;
 };
 
@@ -157,13 +157,13 @@ TEST_F(SelActionTest, CopyWithUpdateShowsTheCopiesInTheList) {
 
   // The refresh puts the rows in folder order.
   EXPECT_EQ(Keys(), (std::vector<std::string>{temp.Path() + "b.txt", target + "a.txt"}));
-  EXPECT_EQ(state.list.Item(2)[kColPath], target);
+  EXPECT_EQ(state.list.Item(2)[core::kColPath], target);
 }
 
 TEST_F(SelActionTest, MovedFilesAreFollowedByTheirRows) {
   Add("a.txt");
   Add("sub/b.txt");
-  state.list.ForEach([](FileEntry& row) { row.selected = true; });
+  state.list.ForEach([](core::FileEntry& row) { row.selected = true; });
   FrmSelAction dialog = Opened(kMoveFilesTag);
 
   EXPECT_TRUE(dialog.cmdOK(Actions(), rowCommitter, services));
@@ -177,13 +177,13 @@ TEST_F(SelActionTest, MovedFileKeptBesideAnotherIsFollowedUnderItsNewName) {
   Add("a.txt");
   temp.WriteFile("target/a.txt", "other");
   state.list.Item(1).selected = true;
-  frontEnd.answers = {Answer::No, Answer::Yes};
+  frontEnd.answers = {core::Answer::No, core::Answer::Yes};
   FrmSelAction dialog = Opened(kMoveFilesTag);
 
   dialog.cmdOK(Actions(), rowCommitter, services);
 
   EXPECT_EQ(Keys(), std::vector<std::string>{target + "a (2).txt"});
-  EXPECT_EQ(state.list.Item(1)[kColNewName], "a (2).txt");
+  EXPECT_EQ(state.list.Item(1)[core::kColNewName], "a (2).txt");
   EXPECT_EQ(ReadWholeFile(target + "a.txt"), "other");
 }
 
@@ -191,7 +191,7 @@ TEST_F(SelActionTest, SkippedMoveLeavesTheRowWithItsFile) {
   Add("a.txt");
   temp.WriteFile("target/a.txt", "other");
   state.list.Item(1).selected = true;
-  frontEnd.answers = {Answer::No, Answer::No};
+  frontEnd.answers = {core::Answer::No, core::Answer::No};
   FrmSelAction dialog = Opened(kMoveFilesTag);
 
   dialog.cmdOK(Actions(), rowCommitter, services);
@@ -209,7 +209,7 @@ TEST_F(SelActionTest, SelectedRowWithTheNameOfALaterRowStopsWithTheDialogOpen) {
 
   EXPECT_EQ(AskedKeys(), std::vector<std::string>{"MsgText26"});
   EXPECT_EQ(frontEnd.asked[0].captionKey, "msgCapAttention");
-  EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::OkStop);
+  EXPECT_EQ(frontEnd.asked[0].style, core::MessageStyle::OkStop);
   EXPECT_FALSE(Exists(target + "a.txt"));
   EXPECT_EQ(frontEnd.busyDepth, 0);
 }
@@ -247,10 +247,10 @@ TEST_F(TakeChangesCopyTest, CopiesGetTheNewNamesAndTheListShowsThemUnchanged) {
   EXPECT_EQ(ReadWholeFile(target + "A.txt"), "a.txt");
   EXPECT_EQ(ReadWholeFile(target + "B.txt"), "b.txt");
   EXPECT_EQ(Keys(), (std::vector<std::string>{target + "A.txt", target + "B.txt"}));
-  EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"A.txt", "B.txt"}));
-  EXPECT_EQ(Column(kColNewName), (std::vector<std::string>{"A.txt", "B.txt"}));
+  EXPECT_EQ(Column(core::kColOldName), (std::vector<std::string>{"A.txt", "B.txt"}));
+  EXPECT_EQ(Column(core::kColNewName), (std::vector<std::string>{"A.txt", "B.txt"}));
   EXPECT_EQ(state.changedCount, 0);
-  EXPECT_EQ(state.list.Item(1)[kColHistory0], "");
+  EXPECT_EQ(state.list.Item(1)[core::kColHistory0], "");
   EXPECT_EQ(state.undoLevels, 0);
 }
 
@@ -288,8 +288,8 @@ TEST_F(TakeChangesCopyTest, OriginalThatCouldNotBeRenamedLosesItsPendingName) {
   dialog.cmdOK(Actions(), rowCommitter, services);
 
   EXPECT_EQ(ReadWholeFile(temp.Path() + "b.txt"), "b.txt");
-  EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"A.txt", "b.txt"}));
-  EXPECT_EQ(Column(kColNewName), (std::vector<std::string>{"A.txt", "b.txt"}));
+  EXPECT_EQ(Column(core::kColOldName), (std::vector<std::string>{"A.txt", "b.txt"}));
+  EXPECT_EQ(Column(core::kColNewName), (std::vector<std::string>{"A.txt", "b.txt"}));
   ASSERT_EQ(committer.LastResult().notRenamed.size(), 1u);
   EXPECT_EQ(committer.LastResult().notRenamed[0].textKey, "MsgText05");
 }

@@ -71,7 +71,7 @@ TEST_F(TrashTest, SecondFileOfTheSameNameGetsANumberedName) {
 
 TEST_F(TrashTest, ConfirmationNamesTheOneFileAndNoKeepsIt) {
   const std::string file = temp.WriteFile("files/a.txt");
-  frontEnd.answers = {Answer::No};
+  frontEnd.answers = {core::Answer::No};
 
   Delete({file}, true);
 
@@ -83,7 +83,7 @@ TEST_F(TrashTest, ConfirmationNamesTheOneFileAndNoKeepsIt) {
 TEST_F(TrashTest, ConfirmationCountsSeveralFiles) {
   const std::string a = temp.WriteFile("files/a.txt");
   const std::string b = temp.WriteFile("files/b.txt");
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
 
   Delete({a, b}, true);
 
@@ -197,12 +197,12 @@ TEST_F(TrashTest, FileTheTrashRefusesIsDeletedAtOnceOnlyOnYes) {
   OperationServices with{refusing, withTrash, frontEnd, progress, services.clock};
   const std::string kept = temp.WriteFile("files/kept.txt");
   const std::string gone = temp.WriteFile("files/gone.txt");
-  frontEnd.answers = {Answer::No, Answer::Yes};
+  frontEnd.answers = {core::Answer::No, core::Answer::Yes};
 
   EXPECT_EQ(DeleteFileList(JoinPathList({kept, gone}), true, false, with), EACCES);
 
   EXPECT_EQ(AskedKeys(), (std::vector<std::string>{lang::kTrashFailed, lang::kTrashFailed}));
-  EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::YesNoCancelDefaultNo);
+  EXPECT_EQ(frontEnd.asked[0].style, core::MessageStyle::YesNoCancelDefaultNo);
   EXPECT_TRUE(Exists(kept));
   EXPECT_FALSE(Exists(gone));
 }
@@ -213,7 +213,7 @@ TEST_F(TrashTest, CancelWhenTheTrashRefusesStopsTheRest) {
   OperationServices with{refusing, withTrash, frontEnd, progress, services.clock};
   const std::string a = temp.WriteFile("files/a.txt");
   const std::string b = temp.WriteFile("files/b.txt");
-  frontEnd.answers = {Answer::Cancel};
+  frontEnd.answers = {core::Answer::Cancel};
 
   DeleteFileList(JoinPathList({a, b}), true, false, with);
 

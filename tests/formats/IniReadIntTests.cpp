@@ -63,7 +63,7 @@ TEST(SettingsReadInt, NonNumericValueThrowsRuntimeFaultNamingTheSetting) {
   try {
     Ini(file).ReadInt("Main", "Width");
     FAIL() << "no fault for a value that is not a number";
-  } catch (const RuntimeFault& fault) {
+  } catch (const base::RuntimeFault& fault) {
     const std::string message = fault.what();
     EXPECT_NE(message.find("Width"), std::string::npos) << message;
     EXPECT_NE(message.find("Main"), std::string::npos) << message;
@@ -77,7 +77,7 @@ TEST(SettingsReadInt, MalformedNumbersThrow) {
   const auto file = temp.WriteFile(
       "s.nrp", "[Main]\r\nA=12abc\r\nB=1 2\r\nC=-\r\nD=&H\r\nE=&HXYZ\r\nF=1.5\r\nG=--1\r\n");
   for (const char* key : {"A", "B", "C", "D", "E", "F", "G"}) {
-    EXPECT_THROW(Ini(file).ReadInt("Main", key), RuntimeFault) << key;
+    EXPECT_THROW(Ini(file).ReadInt("Main", key), base::RuntimeFault) << key;
   }
 }
 
@@ -86,7 +86,7 @@ TEST(SettingsReadInt, NumbersBeyond32BitsThrow) {
   const auto file = temp.WriteFile(
       "s.nrp", "[Main]\r\nHigh=2147483648\r\nLow=-2147483649\r\nHuge=99999999999999999999\r\nHex=&H100000000\r\n");
   for (const char* key : {"High", "Low", "Huge", "Hex"}) {
-    EXPECT_THROW(Ini(file).ReadInt("Main", key), RuntimeFault) << key;
+    EXPECT_THROW(Ini(file).ReadInt("Main", key), base::RuntimeFault) << key;
   }
 }
 

@@ -39,7 +39,7 @@ std::vector<bool> HistoryTest::Black() const {
 }
 
 history::UndoOutcome HistoryTest::UndoWithYes() {
-  frontEnd.answers.push_back(Answer::Yes);
+  frontEnd.answers.push_back(core::Answer::Yes);
   return history::UndoRenamings(list, services);
 }
 

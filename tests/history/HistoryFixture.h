@@ -52,9 +52,9 @@ class HistoryTest : public ::testing::Test {
   TempFolder files;
   BendableFileSystem fileSystem;
   ScriptedFrontEnd frontEnd;
-  std::vector<ReportRow> shownFailures;
+  std::vector<commit::ReportRow> shownFailures;
   history::HistoryServices services{fileSystem, frontEnd, data.Path(),
-                                    [this](const ReportRow& row) { shownFailures.push_back(row); }};
+                                    [this](const commit::ReportRow& row) { shownFailures.push_back(row); }};
   history::HistoryList list;
 };
 

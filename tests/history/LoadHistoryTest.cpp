@@ -83,7 +83,7 @@ TEST_F(LoadHistory, MissingDataFolderShowsAnEmptyList) {
 TEST_F(LoadHistory, ProtocolThatCantBeReadIsAFaultAndLeavesTheListEmpty) {
   data.MakeFolder("renamed.nrp");
   list.rows.push_back({});
-  EXPECT_THROW(Load(), RuntimeFault);
+  EXPECT_THROW(Load(), base::RuntimeFault);
   EXPECT_TRUE(list.rows.empty());
 }
 

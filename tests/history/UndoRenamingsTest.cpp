@@ -29,7 +29,7 @@ TEST_F(UndoRenamings, AsksFirstWithBothParagraphsUnderAttention) {
   ASSERT_EQ(frontEnd.asked.size(), 1u);
   EXPECT_EQ(frontEnd.asked[0].textKey, "MsgText18");
   EXPECT_EQ(frontEnd.asked[0].captionKey, "msgCapAttention");
-  EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::YesNoWarningDefaultNo);
+  EXPECT_EQ(frontEnd.asked[0].style, core::MessageStyle::YesNoWarningDefaultNo);
   EXPECT_EQ(frontEnd.asked[0].arguments, (Texts{"\n\n"}));
 }
 
@@ -40,7 +40,7 @@ TEST_F(UndoRenamings, AnyAnswerButYesChangesNothing) {
   Load();
   SelectAll();
 
-  frontEnd.answers.push_back(Answer::No);
+  frontEnd.answers.push_back(core::Answer::No);
   const auto outcome = history::UndoRenamings(list, services);
 
   EXPECT_FALSE(outcome.confirmed);
@@ -115,7 +115,7 @@ TEST_F(UndoRenamings, FailureIsShownAtOnceBeforeTheNextRename) {
   Load();
   SelectAll();
   std::size_t renamesWhenShown = 0;
-  services.showFailure = [&](const ReportRow&) { renamesWhenShown = fileSystem.renamedFrom.size(); };
+  services.showFailure = [&](const commit::ReportRow&) { renamesWhenShown = fileSystem.renamedFrom.size(); };
 
   UndoWithYes();
 
@@ -163,7 +163,7 @@ TEST_F(UndoRenamings, RenameThatReportsSuccessButChangesNothingFails) {
   UndoWithYes();
 
   ASSERT_EQ(shownFailures.size(), 1u);
-  EXPECT_EQ(shownFailures[0].systemText, kRenameDidNothingText);
+  EXPECT_EQ(shownFailures[0].systemText, commit::kRenameDidNothingText);
   EXPECT_EQ(list.rows.size(), 1u);
 }
 
@@ -194,7 +194,7 @@ TEST_F(UndoRenamings, WithoutItsOwnWayAFailureIsShownByTheFrontEndByItsKeys) {
 
   ASSERT_EQ(frontEnd.asked.size(), 2u);
   EXPECT_EQ(frontEnd.asked[1].textKey, "MsgText05");
-  EXPECT_EQ(frontEnd.asked[1].style, MessageStyle::OkWarning);
+  EXPECT_EQ(frontEnd.asked[1].style, core::MessageStyle::OkWarning);
   EXPECT_EQ(frontEnd.asked[1].arguments.size(), 2u);
 }
 
@@ -293,7 +293,7 @@ TEST_F(UndoRenamings, ProtocolThatCantBeWrittenIsAFaultAfterTheRenames) {
   SelectAll();
   data.MakeFolder("renamed.tmp");
 
-  EXPECT_THROW(UndoWithYes(), RuntimeFault);
+  EXPECT_THROW(UndoWithYes(), base::RuntimeFault);
 
   EXPECT_EQ(NamesOnDisk(), (Names{"a"}));
   EXPECT_EQ(Protocol(), before);

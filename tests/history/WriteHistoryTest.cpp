@@ -63,14 +63,14 @@ TEST_F(WriteHistory, FailedRewriteLeavesTheOldProtocolWhole) {
   list.rows.pop_back();
   data.MakeFolder("renamed.tmp");
 
-  EXPECT_THROW(history::writeHistoryData(list, data.Path(), fileSystem), RuntimeFault);
+  EXPECT_THROW(history::writeHistoryData(list, data.Path(), fileSystem), base::RuntimeFault);
 
   EXPECT_EQ(Protocol(), before);
 }
 
 TEST_F(WriteHistory, MissingDataFolderIsAFault) {
-  EXPECT_THROW(history::writeHistoryData(list, data.Path() + "no/such/", fileSystem), RuntimeFault);
-  EXPECT_THROW(history::writeHistoryData(list, "", fileSystem), RuntimeFault);
+  EXPECT_THROW(history::writeHistoryData(list, data.Path() + "no/such/", fileSystem), base::RuntimeFault);
+  EXPECT_THROW(history::writeHistoryData(list, "", fileSystem), base::RuntimeFault);
 }
 
 TEST_F(WriteHistory, MissingProtocolIsCreated) {
@@ -118,7 +118,7 @@ TEST_F(WriteHistory, PermissionsOfTheProtocolAreKept) {
 TEST_F(DeleteHistory, YesEmptiesListAndProtocol) {
   WriteProtocol({Record("a", "b"), Record("c", "d")});
   Load();
-  frontEnd.answers.push_back(Answer::Yes);
+  frontEnd.answers.push_back(core::Answer::Yes);
 
   EXPECT_TRUE(history::cmdDeleteHistory(list, services));
 
@@ -129,7 +129,7 @@ TEST_F(DeleteHistory, YesEmptiesListAndProtocol) {
   ASSERT_EQ(frontEnd.asked.size(), 1u);
   EXPECT_EQ(frontEnd.asked[0].textKey, "MsgText19");
   EXPECT_EQ(frontEnd.asked[0].captionKey, "msgCapAttention");
-  EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::YesNoWarningDefaultNo);
+  EXPECT_EQ(frontEnd.asked[0].style, core::MessageStyle::YesNoWarningDefaultNo);
   EXPECT_EQ(frontEnd.asked[0].arguments, std::vector<std::string>{"\n\n"});
 }
 
@@ -137,7 +137,7 @@ TEST_F(DeleteHistory, AnyAnswerButYesKeepsEverything) {
   WriteProtocol({Record("a", "b")});
   const std::string before = Protocol();
   Load();
-  frontEnd.answers.push_back(Answer::Cancel);
+  frontEnd.answers.push_back(core::Answer::Cancel);
 
   EXPECT_FALSE(history::cmdDeleteHistory(list, services));
 
@@ -149,7 +149,7 @@ TEST_F(DeleteHistory, RenamedFilesKeepTheirNames) {
   CreateFiles({"b"});
   WriteProtocol({Record("a", "b")});
   Load();
-  frontEnd.answers.push_back(Answer::Yes);
+  frontEnd.answers.push_back(core::Answer::Yes);
 
   history::cmdDeleteHistory(list, services);
 

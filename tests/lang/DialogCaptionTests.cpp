@@ -62,7 +62,7 @@ TEST_F(DialogCaption, ScopedDialogsShowTheirMenuCaptionAndTheApplyScope) {
   };
   const auto catalog = Catalog({"[Main]", "lngname=Deutsch"});
   for (const auto& [dialog, menu] : rows) {
-    FakeForm form(text::ToUpper(dialog));  // dialog names compare without case
+    FakeForm form(base::ToUpper(dialog));  // dialog names compare without case
     LocaliseForm(form, {}, catalog, MainMenu());
     EXPECT_EQ(form.caption, menu + " Menü (Alle Dateien)") << dialog;
   }
@@ -76,7 +76,7 @@ TEST_F(DialogCaption, PlainMenuDialogsShowTheirMenuCaptionWithoutAmpersand) {
   };
   const auto catalog = Catalog({"[Main]", "lngname=Deutsch"});
   for (const auto& [dialog, menu] : rows) {
-    FakeForm form(text::ToLower(dialog));
+    FakeForm form(base::ToLower(dialog));
     LocaliseForm(form, {}, catalog, MainMenu());
     EXPECT_EQ(form.caption, menu + " Menü") << dialog;
   }

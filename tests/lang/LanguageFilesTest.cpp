@@ -246,7 +246,7 @@ TEST(LanguageFiles, AreValidUtf8WithoutByteOrderMark) {
     SCOPED_TRACE(file.name);
     ASSERT_FALSE(file.bytes.empty()) << "missing or empty in " << kLanguageFolder;
     EXPECT_NE(file.bytes.rfind("\xEF\xBB\xBF", 0), 0u) << "starts with a byte order mark";
-    EXPECT_TRUE(nomra::text::IsValidUtf8(file.bytes));
+    EXPECT_TRUE(nomra::base::IsValidUtf8(file.bytes));
   }
 }
 

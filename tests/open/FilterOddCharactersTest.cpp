@@ -99,7 +99,7 @@ TEST(FilterOddCharactersTest, RandomPatternsNeverCrashAndKeepTheRule) {
     }
 
     ASSERT_TRUE(PassesFilter(name, "*")) << name;
-    const std::size_t characters = text::ToChars(name).size();
+    const std::size_t characters = base::ToChars(name).size();
     ASSERT_TRUE(PassesFilter(name, std::string(characters, '?'))) << name;
     ASSERT_FALSE(PassesFilter(name, std::string(characters + 1, '?'))) << name;
   }

@@ -56,7 +56,7 @@ class LargeFolderCancelTest : public testing::OpenTest {
   // Every row is one of the folder's files.
   bool RowsComeFromTheFolder() const {
     bool all = true;
-    state.list.ForEach([&](const FileEntry& row) { all = all && row.key.starts_with(Folder()); });
+    state.list.ForEach([&](const core::FileEntry& row) { all = all && row.key.starts_with(Folder()); });
     return all;
   }
 

@@ -101,7 +101,7 @@ TEST_F(OpenCommandTest, ChosenPathThatNamesNothingEndsTheCommandWithAFault) {
   const std::string a = temp.WriteFile("a.mp3");
   OpenChoice choice;
   choice.paths = {a, temp.Path() + "gone.mp3", temp.WriteFile("c.mp3")};
-  EXPECT_THROW(Run(choice), RuntimeFault);
+  EXPECT_THROW(Run(choice), base::RuntimeFault);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{a}));
   EXPECT_TRUE(Refreshed());
   EXPECT_EQ(Setting("lastpath"), "");
@@ -169,7 +169,7 @@ TEST_F(OpenCommandTest, DroppedFolderTakesTheHiddenFilesTheDialogLeavesOut) {
   EXPECT_FALSE(RowKeys().contains(hidden));
 
   std::string dropped = temp.Path() + "music";
-  AddFile(load, dropped);
+  core::AddFile(load, dropped);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{shown, hidden}));
 }
 

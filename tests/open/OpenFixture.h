@@ -63,7 +63,7 @@ class OpenTest : public ListTestOver<RecordingFileSystem> {
 
   std::set<std::string> RowKeys() const {
     std::set<std::string> keys;
-    state.list.ForEach([&](const FileEntry& row) { keys.insert(row.key); });
+    state.list.ForEach([&](const core::FileEntry& row) { keys.insert(row.key); });
     return keys;
   }
 

@@ -180,7 +180,7 @@ TEST_F(StagedFilesTest, StagedPathThatNamesNothingEndsTheLoadWithAFault) {
   options.checkExistence = false;
   const std::string a = temp.WriteFile("a.mp3");
   Paths staged{a, temp.Path() + "gone.mp3", temp.WriteFile("c.mp3")};
-  EXPECT_THROW(LoadStagedFiles(load, preview, staged), RuntimeFault);
+  EXPECT_THROW(LoadStagedFiles(load, preview, staged), base::RuntimeFault);
   EXPECT_EQ(RowKeys(), (std::set<std::string>{a}));
   EXPECT_TRUE(Refreshed());
   EXPECT_TRUE(staged.empty());

@@ -17,7 +17,7 @@ class ActionTest : public ListTest {
     script.tempPath = data.Path() + settings::kScriptTempFileName;
   }
 
-  std::vector<std::string> PendingNames() { return Column(kColNewName); }
+  std::vector<std::string> PendingNames() { return Column(core::kColNewName); }
 
   std::string SettingsText() const { return ReadWholeFile(script.settingsPath); }
   std::string RecordingText() const { return ReadWholeFile(script.tempPath); }

@@ -9,7 +9,7 @@
 #include "rename/actions/BuiltInActions.h"
 #include "rename/actions/PrefixSuffix.h"
 
-namespace nomra {
+namespace nomra::rename {
 namespace {
 
 // An action dialog with traits of the test's choosing: it appends txtValue
@@ -21,12 +21,12 @@ class TestActionDialog final : public ActionDialog {
   }
   const ActionTraits& Traits() const override { return traits_; }
   bool CheckInputs(const ActionContext& context) override {
-    if (refuse) context.User().Ask({"MsgText99", "MsgCap99", MessageStyle::OkWarning, {}});
+    if (refuse) context.User().Ask({"MsgText99", "MsgCap99", core::MessageStyle::OkWarning, {}});
     return !refuse;
   }
   void Run(const ActionContext& context) override {
     const std::string value = Model().Text("txtValue");
-    RewritePendingNames(context, [&](int, const FileEntry& entry) { return entry[kColNewName] + value; });
+    RewritePendingNames(context, [&](int, const core::FileEntry& entry) { return entry[core::kColNewName] + value; });
   }
   bool refuse = false;
 
@@ -254,4 +254,4 @@ TEST(BuiltInActionsTest, EveryKnownTypeOpensADialogOfThatType) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::rename

@@ -8,7 +8,7 @@
 #include "rename/ActionFixture.h"
 #include "structure/ApplyStructure.h"
 
-namespace nomra {
+namespace nomra::rename {
 namespace {
 
 class ActionScopeTest : public testing::ActionTest {
@@ -17,7 +17,7 @@ class ActionScopeTest : public testing::ActionTest {
 
   // Appends "!" to every pending name in scope.
   void MarkNamesInScope() {
-    RewritePendingNames(Actions(), [](int, const FileEntry& entry) { return entry[kColNewName] + "!"; });
+    RewritePendingNames(Actions(), [](int, const core::FileEntry& entry) { return entry[core::kColNewName] + "!"; });
   }
 };
 
@@ -28,7 +28,7 @@ TEST_F(ActionScopeTest, ScopeZeroTakesEveryRowOneTheSelectedAndTwoTheOthers) {
   const std::vector<std::pair<bool, bool>> expected{{true, true}, {true, false}, {false, true}};
   for (int scope = 0; scope < 3; ++scope) {
     state.applyScope = scope;
-    EXPECT_EQ(std::make_pair(InScope(state, 1), InScope(state, 2)), expected[scope]) << scope;
+    EXPECT_EQ(std::make_pair(core::InScope(state, 1), core::InScope(state, 2)), expected[scope]) << scope;
   }
 }
 
@@ -57,16 +57,16 @@ TEST_F(ActionScopeTest, ScopeOneWithNothingSelectedChangesNoRowYetCountsAllAndRe
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a", "renamed", "c"}));
   EXPECT_EQ(frontEnd.statusTexts,
             (std::vector<std::string>{"File 1 of 3", "File 2 of 3", "File 3 of 3", "3 files in 1 folders, 1 changed"}));
-  EXPECT_EQ(state.list.Item(2).colour, RowColour::DarkRed);
+  EXPECT_EQ(state.list.Item(2).colour, core::RowColour::DarkRed);
 }
 
 TEST_F(ActionScopeTest, StatusTextOfARowIsSetBeforeItsNewNameUnderTheBusyPointer) {
   AddFiles({"a", "b"});
   std::vector<std::string> seen;
-  RewritePendingNames(Actions(), [&](int row, const FileEntry& entry) {
-    seen.push_back(std::to_string(row) + " " + entry[kColNewName] + " " + frontEnd.statusTexts.back() + " busy " +
+  RewritePendingNames(Actions(), [&](int row, const core::FileEntry& entry) {
+    seen.push_back(std::to_string(row) + " " + entry[core::kColNewName] + " " + frontEnd.statusTexts.back() + " busy " +
                    std::to_string(frontEnd.busyDepth));
-    return entry[kColNewName];
+    return entry[core::kColNewName];
   });
   EXPECT_EQ(seen, (std::vector<std::string>{"1 a File 1 of 2 busy 1", "2 b File 2 of 2 busy 1"}));
   EXPECT_EQ(frontEnd.busyDepth, 0);
@@ -75,7 +75,7 @@ TEST_F(ActionScopeTest, StatusTextOfARowIsSetBeforeItsNewNameUnderTheBusyPointer
 TEST_F(ActionScopeTest, EmptyListTouchesNoRowReturnsThePointerAndRefreshes) {
   window.selectedScriptLabel = "before";
   int calls = 0;
-  RewritePendingNames(Actions(), [&](int, const FileEntry&) {
+  RewritePendingNames(Actions(), [&](int, const core::FileEntry&) {
     ++calls;
     return std::string();
   });
@@ -89,25 +89,25 @@ TEST_F(ActionScopeTest, FaultEndsTheWalkAtItsRowAndTheRowsBeforeKeepTheirNames) 
   AddFiles({"a", "b", "c"});
   frontEnd.statusTexts.clear();
   EXPECT_THROW(RewritePendingNames(Actions(),
-                                   [](int row, const FileEntry& entry) {
-                                     if (row == 2) throw RuntimeFault("stopped at row 2");
-                                     return entry[kColNewName] + "!";
+                                   [](int row, const core::FileEntry& entry) {
+                                     if (row == 2) throw base::RuntimeFault("stopped at row 2");
+                                     return entry[core::kColNewName] + "!";
                                    }),
-               RuntimeFault);
+               base::RuntimeFault);
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a!", "b", "c"}));
   EXPECT_EQ(frontEnd.busyDepth, 0);
   EXPECT_EQ(frontEnd.statusTexts.back(), "3 files in 1 folders, 1 changed");
-  EXPECT_EQ(state.list.Item(1).colour, RowColour::DarkRed);
+  EXPECT_EQ(state.list.Item(1).colour, core::RowColour::DarkRed);
 }
 
 TEST_F(ActionScopeTest, StructureWithoutTagsBecomesThePendingNameOfEachRowInScope) {
   AddFiles({"a.txt", "b.txt"});
   Select(1);
   state.applyScope = 1;
-  ApplyStructure(Actions(), "fixed name.txt");
+  structure::ApplyStructure(Actions(), "fixed name.txt");
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"fixed name.txt", "b.txt"}));
   EXPECT_EQ(state.changedCount, 1);
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::rename

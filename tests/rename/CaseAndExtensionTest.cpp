@@ -14,7 +14,7 @@
 
 using nomra::testing::Ini;
 
-namespace nomra {
+namespace nomra::rename {
 namespace {
 
 class CaseActionTest : public testing::ActionTest {
@@ -85,7 +85,7 @@ TEST_F(CaseActionTest, ScriptStepOfTypeFourPlaysWithoutAWindow) {
       data.WriteFile("s.nrs", "[Main]\r\nSteps=1\r\n[1]\r\nType=4\r\nopt1(4)=-1\r\nopt2(3)=-1\r\n");
   script.runPath = scriptFile;
   script.runMode = 1;
-  PlayScript(script, fileSystem, [this](int type) { PlayStepWithoutWindow(Actions(), type); });
+  script::PlayScript(script, fileSystem, [this](int type) { script::PlayStepWithoutWindow(Actions(), type); });
   EXPECT_EQ(PendingNames(), std::vector<std::string>{"mixed case.txt"});
 }
 
@@ -165,4 +165,4 @@ TEST(BuiltInActions, TheCaseExtensionAndPrefixDialogsAreRegistered) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::rename

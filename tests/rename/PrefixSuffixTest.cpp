@@ -7,7 +7,7 @@
 #include "rename/ActionFixture.h"
 #include "base/FileNames.h"
 
-namespace nomra {
+namespace nomra::rename {
 namespace {
 
 class PrefixSuffixTest : public testing::ActionTest {
@@ -27,7 +27,7 @@ TEST_F(PrefixSuffixTest, PrefixGoesInFrontAndSuffixBeforeTheExtension) {
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"new_archive.tar_1.gz", "new_photo_1.jpg", "new_README_1",
                                                       "new__1.profile", "new_abc_1."}));
   // The files themselves are untouched.
-  EXPECT_EQ(Column(kColOldName),
+  EXPECT_EQ(Column(core::kColOldName),
             (std::vector<std::string>{"archive.tar.gz", "photo.jpg", "README", ".profile", "abc."}));
   EXPECT_TRUE(testing::Exists(temp.Path() + "photo.jpg"));
 }
@@ -60,7 +60,7 @@ TEST_F(PrefixSuffixTest, ChangesOnlyTheRowsInScope) {
   state.applyScope = 1;
   Run("p", "s");
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.txt", "pbs.txt"}));
-  EXPECT_EQ(state.list.Item(2).colour, RowColour::DarkRed);
+  EXPECT_EQ(state.list.Item(2).colour, core::RowColour::DarkRed);
 }
 
 TEST_F(PrefixSuffixTest, MultibytePrefixAndSuffix) {
@@ -82,8 +82,8 @@ TEST_F(PrefixSuffixTest, KeepsItsInputsUnderTheirNamesAndUsesTheOddSharedSection
 }
 
 TEST(PrefixSuffixKeysTest, NameFieldsSwallowTheNineForbiddenCharacters) {
-  for (char32_t c : std::u32string(U"\\/:?*<>|\"")) EXPECT_TRUE(IsForbiddenNameCharacter(c)) << static_cast<int>(c);
-  for (char32_t c : std::u32string(U".aZ0 _-äß€ÿ")) EXPECT_FALSE(IsForbiddenNameCharacter(c)) << static_cast<int>(c);
+  for (char32_t c : std::u32string(U"\\/:?*<>|\"")) EXPECT_TRUE(base::IsForbiddenNameCharacter(c)) << static_cast<int>(c);
+  for (char32_t c : std::u32string(U".aZ0 _-äß€ÿ")) EXPECT_FALSE(base::IsForbiddenNameCharacter(c)) << static_cast<int>(c);
 }
 
 TEST(PrefixSuffixLabelsTest, LabelsComeFromTheCaptionAroundItsSlash) {
@@ -105,4 +105,4 @@ TEST(PrefixSuffixLabelsTest, CaptionWithoutSlashLeavesTheLabelsAlone) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::rename

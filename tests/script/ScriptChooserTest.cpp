@@ -7,7 +7,7 @@
 #include "script/ScriptFixture.h"
 #include "support/RealFiles.h"
 
-namespace nomra {
+namespace nomra::script {
 namespace {
 
 class ScriptChooserTest : public testing::ScriptTest {
@@ -31,7 +31,7 @@ class ScriptChooserTest : public testing::ScriptTest {
 
   // Lists the scripts and asks to delete the prefix script; the user
   // answers. True when the dialog closes.
-  bool DeletePrefixScript(Answer answer) {
+  bool DeletePrefixScript(core::Answer answer) {
     chooser.Load();
     ChooseRow("Prefix [2026-11-15, 02:33:03]");
     chooser.Model().SetOption("optDelete", true);
@@ -129,11 +129,11 @@ TEST_F(ScriptChooserTest, CancellingPlaysNothingThoughPlaybackIsStillCalled) {
 
 TEST_F(ScriptChooserTest, DeletingAnsweredNoKeepsTheRowTheFileAndTheDialogOpen) {
   WriteTwoScripts();
-  EXPECT_FALSE(DeletePrefixScript(Answer::No));
+  EXPECT_FALSE(DeletePrefixScript(core::Answer::No));
   ASSERT_EQ(frontEnd.asked.size(), 1u);
   EXPECT_EQ(frontEnd.asked[0].textKey, "msgDeleteScript");
   EXPECT_EQ(frontEnd.asked[0].captionKey, "msgCapAttention");
-  EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::YesNoDefaultNo);
+  EXPECT_EQ(frontEnd.asked[0].style, core::MessageStyle::YesNoDefaultNo);
   EXPECT_EQ(frontEnd.asked[0].arguments, (std::vector<std::string>{"Prefix [2026-11-15, 02:33:03]"}));
   EXPECT_EQ(Rows().size(), 2u);
   EXPECT_TRUE(chooser.StartEnabled());
@@ -144,7 +144,7 @@ TEST_F(ScriptChooserTest, DeletingAnsweredNoKeepsTheRowTheFileAndTheDialogOpen) 
 TEST_F(ScriptChooserTest, DeletingAnsweredYesRemovesTheScriptEvenWhenReadOnly) {
   WriteTwoScripts();
   std::filesystem::permissions(ScriptFolderPath() + "20261115023303.nrs", std::filesystem::perms::owner_read);
-  EXPECT_FALSE(DeletePrefixScript(Answer::Yes));
+  EXPECT_FALSE(DeletePrefixScript(core::Answer::Yes));
   EXPECT_FALSE(testing::Exists(ScriptFolderPath() + "20261115023303.nrs"));
   EXPECT_EQ(Rows(), (std::vector<std::string>{"Suffix [2026-11-16, 10:10:10]"}));
   EXPECT_EQ(chooser.FileNames(), (std::vector<std::string>{"20261116101010.nrs"}));
@@ -154,11 +154,11 @@ TEST_F(ScriptChooserTest, DeletingAnsweredYesRemovesTheScriptEvenWhenReadOnly) {
 
 TEST_F(ScriptChooserTest, DeletedScriptStillChosenOnTheButtonShowsStatusTextFive) {
   WriteTwoScripts();
-  DeletePrefixScript(Answer::Yes);
-  EXPECT_FALSE(PlaySelectedScript(window, texts, script, fileSystem, "20261115023303.nrs", HeadlessOpener()));
+  DeletePrefixScript(core::Answer::Yes);
+  EXPECT_FALSE(shell::PlaySelectedScript(window, texts, script, fileSystem, "20261115023303.nrs", HeadlessOpener()));
   EXPECT_EQ(window.selectedScriptLabel, "No script");
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.jpg"}));
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::script

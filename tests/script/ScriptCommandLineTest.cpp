@@ -3,7 +3,7 @@
 #include "shell/CommandLine.h"
 #include "script/ScriptFixture.h"
 
-namespace nomra {
+namespace nomra::script {
 namespace {
 
 // "/runscript=" on the command line, carried out as the program does.
@@ -17,13 +17,13 @@ class ScriptCommandLineTest : public testing::ScriptTest {
     };
   }
 
-  CommandLineSwitches switches;
+  shell::CommandLineSwitches switches;
   int scriptArguments = 0;
 };
 
 TEST_F(ScriptCommandLineTest, SwitchWithNothingBehindItIsNoScriptArgument) {
   WriteScript("20261115023303.nrs", "[Main]\r\nSteps=1\r\n[1]\r\nType=5\r\ntxtPr=x\r\n");
-  RunCommandLine(SplitCommandLine("/runscript="), load, switches);
+  shell::RunCommandLine(shell::SplitCommandLine("/runscript="), load, switches);
   EXPECT_EQ(scriptArguments, 0);
   EXPECT_TRUE(openedTypes.empty());
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"a.jpg"}));
@@ -31,11 +31,11 @@ TEST_F(ScriptCommandLineTest, SwitchWithNothingBehindItIsNoScriptArgument) {
 
 TEST_F(ScriptCommandLineTest, QuotedFileNameFindsTheScriptInTheScriptsFolder) {
   WriteScript("20261115023303.nrs", "[Main]\r\nSteps=1\r\n[1]\r\nType=5\r\ntxtPr=x\xC2\x90\r\n");
-  RunCommandLine(SplitCommandLine("/runscript=\"20261115023303.nrs\""), load, switches);
+  shell::RunCommandLine(shell::SplitCommandLine("/runscript=\"20261115023303.nrs\""), load, switches);
   EXPECT_EQ(scriptArguments, 1);
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"x a.jpg"}));
   EXPECT_EQ(script.runMode, 0);
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::script

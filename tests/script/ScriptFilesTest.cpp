@@ -5,7 +5,7 @@
 #include "script/ScriptFixture.h"
 #include "support/RealFiles.h"
 
-namespace nomra {
+namespace nomra::script {
 namespace {
 
 using testing::ScriptMoment;
@@ -90,4 +90,4 @@ TEST_F(ScriptFilesTest, NameOfAScriptThatIsNotUtf8IsReadAsWindows1252) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::script

@@ -39,10 +39,10 @@ class ScriptTest : public ActionTest {
   }
 
   // Opens each step's dialog without a window, noting the types opened.
-  StepOpener HeadlessOpener() {
+  script::StepOpener HeadlessOpener() {
     return [this](int stepType) {
       openedTypes.push_back(stepType);
-      PlayStepWithoutWindow(Actions(), stepType);
+      script::PlayStepWithoutWindow(Actions(), stepType);
     };
   }
 
@@ -57,7 +57,7 @@ class ScriptTest : public ActionTest {
 
   std::vector<int> openedTypes;
   std::tm now = ScriptMoment();
-  LocalClock clock = [this] { return now; };
+  base::LocalClock clock = [this] { return now; };
 };
 
 }  // namespace nomra::testing

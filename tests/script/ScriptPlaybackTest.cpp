@@ -9,7 +9,7 @@
 #include "script/ScriptRecording.h"
 #include "support/RealFiles.h"
 
-namespace nomra {
+namespace nomra::script {
 namespace {
 
 // The example of two steps from the description of the format, as a user's
@@ -39,7 +39,7 @@ class ScriptPlaybackTest : public testing::ScriptTest {
 
 // Notes the step types handed over and the step number each came with.
 struct OpenedSteps {
-  StepOpener Opener(const ScriptSession& session) {
+  StepOpener Opener(const dialog::ScriptSession& session) {
     return [this, &session](int type) {
       types.push_back(type);
       steps.push_back(session.runStep);
@@ -50,18 +50,18 @@ struct OpenedSteps {
 };
 
 // A dialog whose own check refuses whatever it was given, and says so.
-class RefusingDialog final : public ActionDialog {
+class RefusingDialog final : public rename::ActionDialog {
  public:
-  RefusingDialog() : ActionDialog("frmInsert") { Model().AddText("txtInsert"); }
-  const ActionTraits& Traits() const override {
-    static const ActionTraits traits{"frmInsert", "frmInsert", "frmInsert", 7, false, RestoreMoment::OnLoad};
+  RefusingDialog() : rename::ActionDialog("frmInsert") { Model().AddText("txtInsert"); }
+  const rename::ActionTraits& Traits() const override {
+    static const rename::ActionTraits traits{"frmInsert", "frmInsert", "frmInsert", 7, false, rename::RestoreMoment::OnLoad};
     return traits;
   }
-  bool CheckInputs(const ActionContext& context) override {
-    context.User().Ask({"MsgText05", "MsgCap02", MessageStyle::OkWarning, {Model().Text("txtInsert")}});
+  bool CheckInputs(const rename::ActionContext& context) override {
+    context.User().Ask({"MsgText05", "MsgCap02", core::MessageStyle::OkWarning, {Model().Text("txtInsert")}});
     return false;
   }
-  void Run(const ActionContext&) override { ADD_FAILURE() << "a refused step ran"; }
+  void Run(const rename::ActionContext&) override { ADD_FAILURE() << "a refused step ran"; }
 };
 
 TEST_F(ScriptPlaybackTest, ExampleScriptPlaysHeadlessToTheRightPendingNames) {
@@ -121,7 +121,7 @@ TEST_F(ScriptPlaybackTest, MissingStepCounterEndsTheScriptAtOnce) {
 
 TEST_F(ScriptPlaybackTest, StepCounterThatIsNoNumberEndsTheCommandAndNoScriptPlaysAfterwards) {
   Choose("20261115023303.nrs", "[Main]\r\nSteps=two\r\n\r\n[1]\r\nType=5\r\ntxtPr=x\r\n");
-  EXPECT_THROW(Play(), RuntimeFault);
+  EXPECT_THROW(Play(), base::RuntimeFault);
   EXPECT_TRUE(openedTypes.empty());
   EXPECT_TRUE(NoScriptPlays());
 }
@@ -159,7 +159,7 @@ TEST_F(ScriptPlaybackTest, StepRefusedByItsDialogsCheckShowsItsMessageAndTheNext
   PlayScript(script, fileSystem, [&](int type) {
     if (type != 7) return PlayStepWithoutWindow(Actions(), type);
     RefusingDialog dialog;
-    PlayActionWithoutWindow(dialog, Actions());
+    rename::PlayActionWithoutWindow(dialog, Actions());
   });
   ASSERT_EQ(frontEnd.asked.size(), 1u);
   EXPECT_EQ(frontEnd.asked[0].arguments, (std::vector<std::string>{"bad"}));
@@ -203,14 +203,14 @@ TEST_F(ScriptPlaybackTest, PlayedStepIsNotMixedWithNorStoredToTheRememberedInput
 
 TEST_F(ScriptPlaybackTest, SelectedScriptThatExistsIsPlayedWithAllSteps) {
   WriteScript("20261115023303.nrs", kExampleScript);
-  EXPECT_TRUE(PlaySelectedScript(window, texts, script, fileSystem, "20261115023303.nrs", HeadlessOpener()));
+  EXPECT_TRUE(shell::PlaySelectedScript(window, texts, script, fileSystem, "20261115023303.nrs", HeadlessOpener()));
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"Rome 2009 a.jpg", "Rome 2009 b.jpg"}));
   EXPECT_TRUE(NoScriptPlays());
 }
 
 TEST_F(ScriptPlaybackTest, SelectedScriptDeletedMeanwhileShowsStatusTextFiveAndNoMessage) {
   window.selectedScriptLabel = "Holiday pictures [2026-11-15, 02:33:03]";
-  EXPECT_FALSE(PlaySelectedScript(window, texts, script, fileSystem, "20261115023303.nrs", HeadlessOpener()));
+  EXPECT_FALSE(shell::PlaySelectedScript(window, texts, script, fileSystem, "20261115023303.nrs", HeadlessOpener()));
   EXPECT_EQ(window.selectedScriptLabel, "No script");
   EXPECT_TRUE(openedTypes.empty());
   EXPECT_TRUE(NoScriptPlays());
@@ -219,7 +219,7 @@ TEST_F(ScriptPlaybackTest, SelectedScriptDeletedMeanwhileShowsStatusTextFiveAndN
 
 TEST_F(ScriptPlaybackTest, ButtonWithoutAChosenScriptShowsStatusTextFive) {
   data.MakeFolder("Script");
-  EXPECT_FALSE(PlaySelectedScript(window, texts, script, fileSystem, "", HeadlessOpener()));
+  EXPECT_FALSE(shell::PlaySelectedScript(window, texts, script, fileSystem, "", HeadlessOpener()));
   EXPECT_EQ(window.selectedScriptLabel, "No script");
   EXPECT_TRUE(NoScriptPlays());
 }
@@ -247,4 +247,4 @@ TEST_F(ScriptPlaybackTest, ArgumentThatCannotBeFoundIsPassedOverSilentlyAndKeptA
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::script

@@ -7,7 +7,7 @@
 #include "script/ScriptFixture.h"
 #include "support/RealFiles.h"
 
-namespace nomra {
+namespace nomra::script {
 namespace {
 
 class ScriptRecordingTest : public testing::ScriptTest {
@@ -19,10 +19,10 @@ class ScriptRecordingTest : public testing::ScriptTest {
 
   // The user fills the prefix and suffix dialog and presses Apply.
   void ApplyPrefixSuffix(const std::string& prefix, const std::string& suffix = "") {
-    PrefixSuffixDialog dialog;
+    rename::PrefixSuffixDialog dialog;
     dialog.Model().SetText("txtPr", prefix);
     dialog.Model().SetText("txtSu", suffix);
-    ApplyActionDialog(dialog, Actions());
+    rename::ApplyActionDialog(dialog, Actions());
   }
 
   // A whole recording of one prefix, stored under `name`.
@@ -35,7 +35,7 @@ class ScriptRecordingTest : public testing::ScriptTest {
 
   std::vector<std::string> AskedKeys() const {
     std::vector<std::string> keys;
-    for (const Message& message : frontEnd.asked) keys.push_back(message.textKey);
+    for (const core::Message& message : frontEnd.asked) keys.push_back(message.textKey);
     return keys;
   }
 };
@@ -94,11 +94,11 @@ TEST_F(ScriptRecordingTest, CancelledNameThenNoAsksAgainWithAFreshDate) {
   BeginScriptRecording(script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("x");
   frontEnd.inputs = {"", "Second try"};
-  frontEnd.answers = {Answer::No};
+  frontEnd.answers = {core::Answer::No};
   ASSERT_TRUE(EndScriptRecording(script, fileSystem, frontEnd, clock));
   EXPECT_EQ(AskedKeys(), (std::vector<std::string>{"MsgText31", "MsgText32", "MsgText31"}));
   EXPECT_EQ(frontEnd.asked[1].captionKey, "MsgCap12");
-  EXPECT_EQ(frontEnd.asked[1].style, MessageStyle::YesNoDefaultNo);
+  EXPECT_EQ(frontEnd.asked[1].style, core::MessageStyle::YesNoDefaultNo);
   EXPECT_EQ(frontEnd.inputPresets, (std::vector<std::string>{"2026-11-15 02:33:03", "2026-11-15 02:33:04"}));
   const std::vector<std::string> stored = ScriptFilesOnDisk();
   ASSERT_EQ(stored.size(), 1u);
@@ -109,7 +109,7 @@ TEST_F(ScriptRecordingTest, CancelledNameThenYesStoresNothingAndKeepsTheWorkFile
   BeginScriptRecording(script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("x");
   const std::string recorded = RecordingText();
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
   EXPECT_FALSE(EndScriptRecording(script, fileSystem, frontEnd, clock));
   EXPECT_EQ(AskedKeys(), (std::vector<std::string>{"MsgText31", "MsgText32"}));
   EXPECT_EQ(RecordingText(), recorded);
@@ -121,7 +121,7 @@ TEST_F(ScriptRecordingTest, NameOfBlanksOnlyCountsAsCancelled) {
   BeginScriptRecording(script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("x");
   frontEnd.inputs = {"   "};
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
   EXPECT_FALSE(EndScriptRecording(script, fileSystem, frontEnd, clock));
   EXPECT_EQ(AskedKeys(), (std::vector<std::string>{"MsgText31", "MsgText32"}));
   EXPECT_TRUE(ScriptFilesOnDisk().empty());
@@ -154,7 +154,7 @@ TEST_F(ScriptRecordingTest, AbandonedRecordingIsOverwrittenKeyByKeyAndItsStaleSt
   BeginScriptRecording(script, nomra::testing::RealFiles());
   ApplyPrefixSuffix("x", "old");
   ApplyPrefixSuffix("y");
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
   ASSERT_FALSE(EndScriptRecording(script, fileSystem, frontEnd, clock));
 
   BeginScriptRecording(script, nomra::testing::RealFiles());
@@ -186,4 +186,4 @@ TEST_F(ScriptRecordingTest, ScriptThatCannotBeStoredStaysInTheWorkFileAndTheUser
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::script

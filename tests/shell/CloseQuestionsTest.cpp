@@ -8,12 +8,12 @@
 
 using nomra::testing::Ini;
 
-namespace nomra {
+namespace nomra::shell {
 namespace {
 
-class FailingCommitter final : public RowCommitter {
+class FailingCommitter final : public core::RowCommitter {
  public:
-  void CommitAll() override { throw RuntimeFault("Cannot rename \"a.jpg\": disk gone"); }
+  void CommitAll() override { throw base::RuntimeFault("Cannot rename \"a.jpg\": disk gone"); }
   void CommitRow(int) override {}
 };
 
@@ -45,24 +45,24 @@ TEST_F(CloseQuestionsTest, CloseWithNothingPendingAsksNothing) {
 }
 
 TEST_F(CloseQuestionsTest, RunningRecordingIsStoppedWhenTheUserSaysYes) {
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
   EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, true, StopRecording()), CloseDecision::Close);
   ASSERT_EQ(frontEnd.asked.size(), 1u);
   EXPECT_EQ(frontEnd.asked[0].textKey, "MsgText30");
   EXPECT_EQ(frontEnd.asked[0].captionKey, "MsgCap11");
-  EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::YesNoCancelDefaultNo);
+  EXPECT_EQ(frontEnd.asked[0].style, core::MessageStyle::YesNoCancelDefaultNo);
   EXPECT_EQ(recordingStops, 1);
 }
 
 TEST_F(CloseQuestionsTest, RunningRecordingIsLeftAloneWhenTheUserSaysNo) {
-  frontEnd.answers = {Answer::No};
+  frontEnd.answers = {core::Answer::No};
   EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, true, StopRecording()), CloseDecision::Close);
   EXPECT_EQ(recordingStops, 0);
 }
 
 TEST_F(CloseQuestionsTest, CancelOnTheRecordingQuestionRefusesAtOnce) {
   ListWithOnePendingName();
-  frontEnd.answers = {Answer::Cancel, Answer::Yes};
+  frontEnd.answers = {core::Answer::Cancel, core::Answer::Yes};
   EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, true, StopRecording()), CloseDecision::Refuse);
   EXPECT_EQ(frontEnd.asked.size(), 1u) << "the pending names aren't asked about";
   EXPECT_EQ(recordingStops, 0);
@@ -71,36 +71,36 @@ TEST_F(CloseQuestionsTest, CancelOnTheRecordingQuestionRefusesAtOnce) {
 
 TEST_F(CloseQuestionsTest, PendingChangesAreTakenWhenTheUserSaysYes) {
   ListWithOnePendingName();
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
   EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, false, StopRecording()), CloseDecision::Close);
   ASSERT_EQ(frontEnd.asked.size(), 1u);
   EXPECT_EQ(frontEnd.asked[0].textKey, "MsgText03");
   EXPECT_EQ(frontEnd.asked[0].captionKey, "MsgCap03");
-  EXPECT_EQ(frontEnd.asked[0].style, MessageStyle::YesNoCancelDefaultNo);
+  EXPECT_EQ(frontEnd.asked[0].style, core::MessageStyle::YesNoCancelDefaultNo);
   EXPECT_EQ(committer.allCommits, 1);
   EXPECT_TRUE(committer.committedRows.empty()) << "the whole list goes in one batch";
 }
 
 TEST_F(CloseQuestionsTest, PendingChangesAreLeftWhenTheUserSaysNo) {
   ListWithOnePendingName();
-  frontEnd.answers = {Answer::No};
+  frontEnd.answers = {core::Answer::No};
   EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, false, StopRecording()), CloseDecision::Close);
   EXPECT_EQ(committer.allCommits, 0);
 }
 
 TEST_F(CloseQuestionsTest, ClosingWithPendingChangesAndCancelKeepsTheList) {
   ListWithOnePendingName();
-  frontEnd.answers = {Answer::Cancel};
+  frontEnd.answers = {core::Answer::Cancel};
   EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, false, StopRecording()), CloseDecision::Refuse);
   EXPECT_EQ(committer.allCommits, 0);
   ASSERT_EQ(state.list.Count(), 2);
-  EXPECT_EQ(Column(kColNewName), (std::vector<std::string>{"renamed.jpg", "b.jpg"}));
+  EXPECT_EQ(Column(core::kColNewName), (std::vector<std::string>{"renamed.jpg", "b.jpg"}));
   EXPECT_TRUE(testing::Exists(temp.Path() + "a.jpg"));
 }
 
 TEST_F(CloseQuestionsTest, BothQuestionsAreAskedInTurn) {
   ListWithOnePendingName();
-  frontEnd.answers = {Answer::Yes, Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes, core::Answer::Yes};
   EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, true, StopRecording()), CloseDecision::Close);
   ASSERT_EQ(frontEnd.asked.size(), 2u);
   EXPECT_EQ(frontEnd.asked[0].textKey, "MsgText30");
@@ -112,7 +112,7 @@ TEST_F(CloseQuestionsTest, BothQuestionsAreAskedInTurn) {
 TEST_F(CloseQuestionsTest, YesWithoutACommitterKeepsTheWindowOpen) {
   rowCommitter = nullptr;
   ListWithOnePendingName();
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
   EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, false, StopRecording()), CloseDecision::Refuse);
   EXPECT_EQ(state.list.Count(), 2);
 }
@@ -121,7 +121,7 @@ TEST_F(CloseQuestionsTest, FaultWhileTakingTheChangesIsShownAndTheWindowStays) {
   FailingCommitter failing;
   rowCommitter = &failing;
   ListWithOnePendingName();
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
   EXPECT_EQ(AskBeforeClose({state, frontEnd, rowCommitter}, false, StopRecording()), CloseDecision::Refuse);
   ASSERT_EQ(frontEnd.faults.size(), 1u);
   EXPECT_NE(frontEnd.faults[0].find("disk gone"), std::string::npos);
@@ -163,7 +163,7 @@ TEST_F(CloseSequenceTest, LayoutIsWrittenBeforeTheQuestionsAndTheRestAfter) {
     layoutBefore = Written("Main", "Col1") && Written("Settings", "PreviewStyle");
     restBefore = Written("Settings", "splash");
   };
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
   EXPECT_EQ(RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), true, stop), CloseDecision::Close);
   EXPECT_TRUE(layoutBefore);
   EXPECT_FALSE(restBefore);
@@ -171,7 +171,7 @@ TEST_F(CloseSequenceTest, LayoutIsWrittenBeforeTheQuestionsAndTheRestAfter) {
 }
 
 TEST_F(CloseSequenceTest, CancelledRecordingQuestionLeavesTheRestUnwritten) {
-  frontEnd.answers = {Answer::Cancel};
+  frontEnd.answers = {core::Answer::Cancel};
   EXPECT_EQ(RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), true, StopRecording()), CloseDecision::Refuse);
   EXPECT_TRUE(Written("Main", "Col1"));
   EXPECT_TRUE(Written("Main", "ws"));
@@ -181,7 +181,7 @@ TEST_F(CloseSequenceTest, CancelledRecordingQuestionLeavesTheRestUnwritten) {
 
 TEST_F(CloseSequenceTest, CancelledPendingChangesQuestionStillWritesEverySetting) {
   ListWithOnePendingName();
-  frontEnd.answers = {Answer::Cancel};
+  frontEnd.answers = {core::Answer::Cancel};
   EXPECT_EQ(RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), false, StopRecording()), CloseDecision::Refuse);
   EXPECT_TRUE(Written("Main", "Col1"));
   EXPECT_TRUE(Written("Settings", "splash"));
@@ -191,4 +191,4 @@ TEST_F(CloseSequenceTest, CancelledPendingChangesQuestionStillWritesEverySetting
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::shell

@@ -4,7 +4,7 @@
 
 #include "support/ListFixture.h"
 
-namespace nomra {
+namespace nomra::shell {
 namespace {
 
 using Arguments = std::vector<std::string>;
@@ -168,4 +168,4 @@ TEST_F(RunCommandLineTest, EndMarkIsNotAnArgument) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::shell

@@ -7,7 +7,7 @@
 
 using nomra::testing::Ini;
 
-namespace nomra {
+namespace nomra::shell {
 namespace {
 
 class MainWindowSettingsTest : public testing::ListTest {
@@ -298,4 +298,4 @@ TEST_F(MainWindowSettingsTest, HiddenHeadEightChangesNoCheck) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::shell

@@ -7,7 +7,7 @@
 
 using nomra::testing::Ini;
 
-namespace nomra {
+namespace nomra::shell {
 namespace {
 
 class StartupTest : public testing::ListTest {
@@ -79,4 +79,4 @@ TEST_F(StartupTest, DataFolderThatCantBeMadeGivesDefaultsAndNoCrash) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::shell

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace nomra {
+namespace nomra::shell {
 namespace {
 
 // A window of 9000 by 6000 twips on a screen of 1920 by 1080 pixels at 96 dpi.
@@ -125,4 +125,4 @@ TEST(WindowPlacementTest, ScreenWithoutResolutionCountsAsNinetySixDots) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::shell

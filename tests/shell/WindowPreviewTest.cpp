@@ -5,7 +5,7 @@
 #include "core/SortFileList.h"
 #include "support/ListFixture.h"
 
-namespace nomra {
+namespace nomra::shell {
 namespace {
 
 class RefreshTest : public testing::ListTest {};
@@ -41,11 +41,11 @@ TEST_F(RefreshTest, ChangedRowsAreDarkRedOthersBlack) {
   AddFiles({"a", "b"});
   SetNewName(1, "c");
   preview.Refresh();
-  EXPECT_EQ(state.list.Item(1).colour, RowColour::DarkRed);
-  EXPECT_EQ(state.list.Item(2).colour, RowColour::Black);
+  EXPECT_EQ(state.list.Item(1).colour, core::RowColour::DarkRed);
+  EXPECT_EQ(state.list.Item(2).colour, core::RowColour::Black);
   SetNewName(1, "a");
   preview.Refresh();
-  EXPECT_EQ(state.list.Item(1).colour, RowColour::Black);
+  EXPECT_EQ(state.list.Item(1).colour, core::RowColour::Black);
 }
 
 TEST_F(RefreshTest, PendingChangesEnableTakeAndReject) {
@@ -89,9 +89,9 @@ TEST_F(RefreshTest, ChangeAddsOneHistoryLevelAndEnablesUndo) {
   EXPECT_EQ(state.undoLevels, 1);
   EXPECT_TRUE(window.commands.IsEnabled("mnuUndo"));
   EXPECT_TRUE(window.commands.IsEnabled("Undo"));
-  EXPECT_EQ(state.list.Item(1)[kColHistory0], "x");
-  EXPECT_EQ(state.list.Item(1)[kColHistoryFirst], "a");
-  EXPECT_EQ(state.list.Item(2)[kColHistoryFirst], "b") << "every row's history moves";
+  EXPECT_EQ(state.list.Item(1)[core::kColHistory0], "x");
+  EXPECT_EQ(state.list.Item(1)[core::kColHistoryFirst], "a");
+  EXPECT_EQ(state.list.Item(2)[core::kColHistoryFirst], "b") << "every row's history moves";
   preview.Refresh();
   EXPECT_EQ(state.undoLevels, 1) << "a refresh without a new state adds nothing";
 }
@@ -104,7 +104,7 @@ TEST_F(RefreshTest, SettingEveryNameBackAddsNoLevelAndDisablesTaking) {
   SetNewName(1, "a");
   preview.Refresh();
   EXPECT_EQ(state.undoLevels, 1);
-  EXPECT_EQ(state.list.Item(1)[kColHistory0], "x") << "deliberately, the history stays as it was";
+  EXPECT_EQ(state.list.Item(1)[core::kColHistory0], "x") << "deliberately, the history stays as it was";
   EXPECT_FALSE(window.commands.IsEnabled("mnuTakeChanges"));
 }
 
@@ -115,17 +115,17 @@ TEST_F(RefreshTest, HistoryKeepsTenLevels) {
     preview.Refresh();
   }
   EXPECT_EQ(state.undoLevels, 10);
-  EXPECT_EQ(state.list.Item(1)[kColHistoryFirst], "n11");
-  EXPECT_EQ(state.list.Item(1)[kColHistoryLast], "n2");
+  EXPECT_EQ(state.list.Item(1)[core::kColHistoryFirst], "n11");
+  EXPECT_EQ(state.list.Item(1)[core::kColHistoryLast], "n2");
 }
 
 TEST_F(RefreshTest, UndoLevelsFollowRowOneAlone) {
   AddFiles({"a", "b"});
-  state.list.Item(2)[kColHistoryFirst] = "b";
-  state.list.Item(2)[kColHistoryFirst + 1] = "b";
+  state.list.Item(2)[core::kColHistoryFirst] = "b";
+  state.list.Item(2)[core::kColHistoryFirst + 1] = "b";
   preview.Refresh();
   EXPECT_EQ(state.undoLevels, 0);
-  state.list.Item(1)[kColHistoryFirst] = "a";
+  state.list.Item(1)[core::kColHistoryFirst] = "a";
   preview.Refresh();
   EXPECT_EQ(state.undoLevels, 1);
 }
@@ -136,34 +136,34 @@ TEST_F(RefreshTest, RowAddedLateKeepsTheUndoCountRight) {
   preview.Refresh();
   // The late row sorts first by folder: its filled history is what row 1 shows.
   std::string path = temp.WriteFile("a-first/late");
-  AddFile(load, path);
+  core::AddFile(load, path);
   preview.Refresh();
-  ASSERT_EQ(state.list.Item(1)[kColOldName], "late");
+  ASSERT_EQ(state.list.Item(1)[core::kColOldName], "late");
   EXPECT_EQ(state.undoLevels, 1);
 }
 
 TEST_F(RefreshTest, ListPositionColumnHoldsTwelveDigits) {
   AddFiles({"a", "b"});
-  EXPECT_EQ(state.list.Item(2)[kColListPosition], "000000000002");
+  EXPECT_EQ(state.list.Item(2)[core::kColListPosition], "000000000002");
 }
 
 TEST_F(RefreshTest, DisplayTextCopiesTheNewNameOnlyInTheIconView) {
   AddFiles({"a"});
   SetNewName(1, "b");
   preview.Refresh();
-  EXPECT_EQ(state.list.Item(1)[kColDisplay], "");
+  EXPECT_EQ(state.list.Item(1)[core::kColDisplay], "");
   state.iconView = true;
   preview.Refresh();
-  EXPECT_EQ(state.list.Item(1)[kColDisplay], "b");
+  EXPECT_EQ(state.list.Item(1)[core::kColDisplay], "b");
 }
 
 TEST_F(RefreshTest, RefreshKeepsTheUsersSortOrder) {
   AddFiles({"x/f10", "y/f2", "x/f1"});
-  sortFileList(state.list, frontEnd, 3);
-  ASSERT_EQ(Column(kColOldName), (std::vector<std::string>{"f1", "f2", "f10"}));
+  core::sortFileList(state.list, frontEnd, 3);
+  ASSERT_EQ(Column(core::kColOldName), (std::vector<std::string>{"f1", "f2", "f10"}));
   preview.Refresh();
-  EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"f1", "f2", "f10"}));
-  EXPECT_EQ(state.list.sortKey, kColOldName);
+  EXPECT_EQ(Column(core::kColOldName), (std::vector<std::string>{"f1", "f2", "f10"}));
+  EXPECT_EQ(state.list.sortKey, core::kColOldName);
 }
 
 TEST_F(RefreshTest, WithoutASortColumnRowsLieInFolderOrder) {
@@ -171,21 +171,21 @@ TEST_F(RefreshTest, WithoutASortColumnRowsLieInFolderOrder) {
   temp.WriteFile("a/2");
   for (const char* name : {"b/1", "a/2"}) {
     std::string path = temp.Path() + name;
-    AddFile(load, path);
+    core::AddFile(load, path);
   }
   preview.Refresh();
-  EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"2", "1"}));
+  EXPECT_EQ(Column(core::kColOldName), (std::vector<std::string>{"2", "1"}));
 }
 
 TEST_F(RefreshTest, HandMadeOrderSurvivesARefresh) {
   AddFiles({"a", "b", "c"});
   state.list.MoveRow(3, 1);
-  state.list.sortKey = kColListPosition;
+  state.list.sortKey = core::kColListPosition;
   preview.Refresh();
-  EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"c", "a", "b"}));
+  EXPECT_EQ(Column(core::kColOldName), (std::vector<std::string>{"c", "a", "b"}));
   preview.Refresh();
-  EXPECT_EQ(Column(kColOldName), (std::vector<std::string>{"c", "a", "b"}));
+  EXPECT_EQ(Column(core::kColOldName), (std::vector<std::string>{"c", "a", "b"}));
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::shell

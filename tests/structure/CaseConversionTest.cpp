@@ -4,7 +4,7 @@
 
 #include "structure/CaseConversion.h"
 
-namespace nomra {
+namespace nomra::structure {
 namespace {
 
 TEST(CaseConversion, SharpSAndMicroKeepTheirFormInUpperCase) {
@@ -60,4 +60,4 @@ TEST(CaseConversion, WordCharacterTable) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::structure

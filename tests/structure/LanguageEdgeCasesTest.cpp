@@ -74,9 +74,9 @@ TEST_F(LanguageEdgeCases, PendingNameHoldingTheNameTagEvaluatesToItself) {
 
 // A metadata value that holds case marks is converted, since the brackets
 // are resolved behind every tag; it can't bring a name tag in.
-class TitleWithMarks final : public MetadataSteps {
+class TitleWithMarks final : public structure::MetadataSteps {
  public:
-  void Id3AndMpegTags(FileEntry&, std::string& s) const override {
+  void Id3AndMpegTags(core::FileEntry&, std::string& s) const override {
     const std::size_t at = s.find("<ID3_Title>");
     if (at != std::string::npos) s.replace(at, 11, "<UC>loud</UC> <NAME>");
   }
@@ -84,7 +84,7 @@ class TitleWithMarks final : public MetadataSteps {
 
 TEST_F(LanguageEdgeCases, CaseMarksInATagValueAreResolvedButNameTagsAreNot) {
   AddFiles({"song.mp3"});
-  EXPECT_EQ(EvaluateStructure(state.list.Item(1), "<ID3_Title>", TitleWithMarks()), "LOUD <NAME>");
+  EXPECT_EQ(structure::EvaluateStructure(state.list.Item(1), "<ID3_Title>", TitleWithMarks()), "LOUD <NAME>");
 }
 
 TEST_F(LanguageEdgeCases, NameTagsReadThePendingNameNotTheNameOnDisk) {
@@ -93,8 +93,8 @@ TEST_F(LanguageEdgeCases, NameTagsReadThePendingNameNotTheNameOnDisk) {
 
 TEST_F(LanguageEdgeCases, PathOfAFileAtTheRootIsEmpty) {
   AddFiles({"x.txt"});
-  state.list.Item(1)[kColPath] = "/";
-  EXPECT_EQ(EvaluateStructure(state.list.Item(1), "[<PATH>]"), "[]");
+  state.list.Item(1)[core::kColPath] = "/";
+  EXPECT_EQ(structure::EvaluateStructure(state.list.Item(1), "[<PATH>]"), "[]");
 }
 
 TEST_F(LanguageEdgeCases, UnknownTagsStayAsText) {
@@ -127,8 +127,8 @@ TEST_F(LanguageEdgeCases, ExtensionTagsWithAndWithoutDotAndTheBlank) {
 
 TEST_F(LanguageEdgeCases, ApplyingTwiceWorksOnTheFirstResult) {
   AddFiles({"abc.txt"});
-  SetNewName(1, EvaluateStructure(state.list.Item(1), "x<NAME>.<EXT>"));
-  EXPECT_EQ(EvaluateStructure(state.list.Item(1), "x<NAME>.<EXT>"), "xxabc.txt");
+  SetNewName(1, structure::EvaluateStructure(state.list.Item(1), "x<NAME>.<EXT>"));
+  EXPECT_EQ(structure::EvaluateStructure(state.list.Item(1), "x<NAME>.<EXT>"), "xxabc.txt");
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 
 #include "structure/EditorFixture.h"
 
-namespace nomra {
+namespace nomra::structure {
 namespace {
 
 class NamePartPickerTest : public testing::StructureDialogTest {
@@ -100,4 +100,4 @@ TEST_F(NamePartPickerTest, PreviewIsEmptyForAnEmptyList) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::structure

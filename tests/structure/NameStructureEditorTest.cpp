@@ -7,7 +7,7 @@
 
 #include "structure/EditorFixture.h"
 
-namespace nomra {
+namespace nomra::structure {
 namespace {
 
 using Structures = std::vector<StoredStructure>;
@@ -27,7 +27,7 @@ class NameStructureEditorTest : public testing::StructureDialogTest {
   const std::string& Text(const char* input) const { return editor.Model().Text(input); }
   std::vector<std::string> AskedKeys() const {
     std::vector<std::string> keys;
-    for (const Message& message : frontEnd.asked) keys.push_back(message.textKey);
+    for (const core::Message& message : frontEnd.asked) keys.push_back(message.textKey);
     return keys;
   }
 
@@ -168,19 +168,19 @@ TEST_F(NameStructureEditorTest, CancelledEditStoresNothingAndShowsTheChosenRowAg
 
 TEST_F(NameStructureEditorTest, DeleteAsksWithNoPresetAndKeepsTheRowOnNo) {
   Open();
-  frontEnd.answers = {Answer::No};
+  frontEnd.answers = {core::Answer::No};
   editor.Delete();
   ASSERT_EQ(frontEnd.asked.size(), 1u);
   EXPECT_EQ(frontEnd.asked.front().textKey, "msgRemoveStructure");
   EXPECT_EQ(frontEnd.asked.front().captionKey, "msgCapRemoveStructure");
-  EXPECT_EQ(frontEnd.asked.front().style, MessageStyle::YesNoDefaultNo);
+  EXPECT_EQ(frontEnd.asked.front().style, core::MessageStyle::YesNoDefaultNo);
   EXPECT_EQ(editor.Structures().size(), 2u);
 }
 
 TEST_F(NameStructureEditorTest, DeleteRemovesTheChosenRowOnYes) {
   Open();
   editor.Choose(1);
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
   editor.Delete();
   EXPECT_EQ(editor.Structures(), (Structures{{"Upper", "<UC><NAME></UC>.<EXT>"}}));
   EXPECT_EQ(editor.Chosen(), 0);
@@ -189,7 +189,7 @@ TEST_F(NameStructureEditorTest, DeleteRemovesTheChosenRowOnYes) {
 
 TEST_F(NameStructureEditorTest, DeletingTheLastRowDisablesEditAndDelete) {
   Open("Name;Structure;\r\nOnly;<NAME>;\r\n");
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
   editor.Delete();
   EXPECT_TRUE(editor.Structures().empty());
   EXPECT_FALSE(editor.EditEnabled());
@@ -301,4 +301,4 @@ TEST_F(NameStructureEditorTest, LoadingLeavesNoMessageAndNoFault) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -11,7 +11,7 @@
 #include "support/ListFixture.h"
 #include "support/RealFiles.h"
 
-namespace nomra {
+namespace nomra::structure {
 namespace {
 
 const std::vector<std::string> kLanguageFiles{"English.lng", "Deutsch.lng"};
@@ -78,4 +78,4 @@ TEST_F(ShippedTagListsTest, NameAndFunctionTagsResolveOnARealFile) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -10,7 +10,7 @@
 #include "support/RealFiles.h"
 #include "support/TempFolder.h"
 
-namespace nomra {
+namespace nomra::structure {
 namespace {
 
 using testing::ReadWholeFile;
@@ -84,7 +84,7 @@ TEST_F(StoredStructuresTest, RandomBytesLoadAsTextOfOneLineEach) {
     }
     for (const StoredStructure& stored : LoadFrom(content)) {
       ++loaded;
-      EXPECT_TRUE(text::IsValidUtf8(stored.name) && text::IsValidUtf8(stored.structure)) << "round " << round;
+      EXPECT_TRUE(base::IsValidUtf8(stored.name) && base::IsValidUtf8(stored.structure)) << "round " << round;
       EXPECT_EQ((stored.name + stored.structure).find('\n'), std::string::npos) << "round " << round;
     }
   }
@@ -130,7 +130,7 @@ class StructureTextMaker {
     // text is never blank and never read as a number.
     const std::size_t at = std::uniform_int_distribution<std::size_t>(0, text.size())(random_);
     text.insert(text.begin() + static_cast<std::ptrdiff_t>(at), Pick(kSolid));
-    return text::FromChars(text);
+    return base::FromChars(text);
   }
 
  private:
@@ -164,4 +164,4 @@ TEST_F(StoredStructuresTest, SavingWhatWasLoadedWritesTheSameFile) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -16,7 +16,7 @@ class StructureTest : public ListTest {
     state.list.Clear();
     AddFiles({folder + "/file.bin"});
     SetNewName(1, pending);
-    return EvaluateStructure(state.list.Item(1), structure);
+    return structure::EvaluateStructure(state.list.Item(1), structure);
   }
 };
 

@@ -34,7 +34,7 @@ TEST_F(StructureProperties, TextWithoutOpeningMarkEvaluatesToItselfLessControlCh
   for (int round = 0; round < 2000; ++round) {
     const std::string structure = RandomText(random, alphabet, 40);
     if (structure.empty()) continue;
-    ASSERT_EQ(EvaluateStructure(state.list.Item(1), structure), WithoutControlCharacters(structure)) << round;
+    ASSERT_EQ(structure::EvaluateStructure(state.list.Item(1), structure), WithoutControlCharacters(structure)) << round;
   }
 }
 
@@ -53,8 +53,8 @@ TEST_F(StructureProperties, TagSoupEndsAndThrowsOnlyTheNamedFaults) {
     for (int i = 0; i < count; ++i) structure += pieces[random() % pieces.size()];
     SetNewName(1, round % 2 == 0 ? "a-b c.txt" : structure);
     try {
-      EvaluateStructure(state.list.Item(1), structure);
-    } catch (const RuntimeFault&) {
+      structure::EvaluateStructure(state.list.Item(1), structure);
+    } catch (const base::RuntimeFault&) {
       ++faults;
     }
   }
@@ -66,7 +66,7 @@ TEST_F(StructureProperties, ThousandsOfTagsEvaluate) {
   AddFiles({"ab.txt"});
   std::string structure;
   for (int i = 0; i < 5000; ++i) structure += "<NAME_L(1)><NAME>";
-  const std::string result = EvaluateStructure(state.list.Item(1), structure);
+  const std::string result = structure::EvaluateStructure(state.list.Item(1), structure);
   EXPECT_EQ(result.size(), 5000u * 3);
   EXPECT_EQ(result.substr(0, 6), "aabaab");
 }
@@ -74,24 +74,24 @@ TEST_F(StructureProperties, ThousandsOfTagsEvaluate) {
 TEST_F(StructureProperties, VeryLongArgumentsAreText) {
   AddFiles({"ab.txt"});
   const std::string digits(100000, '9');
-  EXPECT_EQ(EvaluateStructure(state.list.Item(1), "<NAME_L(" + digits + ")>"), "");
-  EXPECT_EQ(EvaluateStructure(state.list.Item(1), "<NAME_L(" + std::string(100000, 'x') + ")>"), "<No_Number>");
+  EXPECT_EQ(structure::EvaluateStructure(state.list.Item(1), "<NAME_L(" + digits + ")>"), "");
+  EXPECT_EQ(structure::EvaluateStructure(state.list.Item(1), "<NAME_L(" + std::string(100000, 'x') + ")>"), "<No_Number>");
 }
 
 TEST_F(StructureProperties, NameHoldingItsOwnTagEndsInsteadOfGrowingForEver) {
   AddFiles({"x.txt"});
   // Each round the tag gives back the whole stem, which holds the tag again.
   SetNewName(1, "<NAME_M(1,99)><NAME_M(1,99)>.txt");
-  const std::string result = EvaluateStructure(state.list.Item(1), "<NAME_M(1,99)>");
+  const std::string result = structure::EvaluateStructure(state.list.Item(1), "<NAME_M(1,99)>");
   EXPECT_LT(result.size(), 100000u);
   SetNewName(1, "<NAME_M(1,14)>.txt");
-  EXPECT_EQ(EvaluateStructure(state.list.Item(1), "<NAME_M(1,14)>"), "<NAME_M(1,14)>");
+  EXPECT_EQ(structure::EvaluateStructure(state.list.Item(1), "<NAME_M(1,14)>"), "<NAME_M(1,14)>");
 }
 
 TEST_F(StructureProperties, InvalidUtf8InTheNameKeepsItsBytes) {
   AddFiles({"x.txt"});
   SetNewName(1, "a\xFF\xFE-b.txt");
-  EXPECT_EQ(EvaluateStructure(state.list.Item(1), "<NAME_R(3)>|<UC><NAME></UC>"), "\xFE-b|A\xFF\xFE-B");
+  EXPECT_EQ(structure::EvaluateStructure(state.list.Item(1), "<NAME_R(3)>|<UC><NAME></UC>"), "\xFE-b|A\xFF\xFE-B");
 }
 
 }  // namespace

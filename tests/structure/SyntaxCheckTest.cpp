@@ -8,7 +8,7 @@
 #include "base/Fault.h"
 #include "support/ListFixture.h"
 
-namespace nomra {
+namespace nomra::structure {
 namespace {
 
 using Arguments = std::vector<std::string>;
@@ -71,7 +71,7 @@ TEST_F(SyntaxCheckTest, EveryFailureIsAWarningUnderTheStructureErrorCaption) {
     const auto failure = Check(structure);
     ASSERT_TRUE(failure) << structure;
     EXPECT_EQ(failure->message.captionKey, "msgCapErrorStructure") << structure;
-    EXPECT_EQ(failure->message.style, MessageStyle::OkWarning) << structure;
+    EXPECT_EQ(failure->message.style, core::MessageStyle::OkWarning) << structure;
   }
 }
 
@@ -153,8 +153,8 @@ TEST_F(SyntaxCheckTest, EmptyListLeavesTheTestEvaluationOut) {
 
 TEST_F(SyntaxCheckTest, FaultOfTheTestEvaluationGoesToTheCaller) {
   SetNewName(1, "a-b.jpg");
-  EXPECT_THROW(Check("<NAMEPART(\"-\",0)>"), RuntimeFault);
+  EXPECT_THROW(Check("<NAMEPART(\"-\",0)>"), base::RuntimeFault);
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -5,7 +5,7 @@
 #include "structure/LanguageNumber.h"
 #include "structure/TagArguments.h"
 
-namespace nomra {
+namespace nomra::structure {
 namespace {
 
 using Args = std::vector<std::string>;
@@ -53,8 +53,8 @@ TEST(NamePart, FieldsCountFromOne) {
   EXPECT_EQ(NamePart("a - b", "-", 2, 1), "b");
   EXPECT_EQ(NamePart("a - b", "-", 2, 0), " b");
   EXPECT_EQ(NamePart("a - b", "-", 3, 1), "");
-  EXPECT_THROW(NamePart("a - b", "-", 0, 1), RuntimeFault);
-  EXPECT_THROW(NamePart("a - b", "-", 1, 5), RuntimeFault);
+  EXPECT_THROW(NamePart("a - b", "-", 0, 1), base::RuntimeFault);
+  EXPECT_THROW(NamePart("a - b", "-", 1, 5), base::RuntimeFault);
 }
 
 TEST(LanguageNumber, SignDigitsAndFraction) {
@@ -77,4 +77,4 @@ TEST(LanguageNumber, HalvesRoundToTheEvenNeighbour) {
 }
 
 }  // namespace
-}  // namespace nomra
+}  // namespace nomra::structure

@@ -24,7 +24,7 @@
 namespace nomra::testing {
 
 // Records the rows handed over for taking their changes.
-class RecordingCommitter final : public RowCommitter {
+class RecordingCommitter final : public core::RowCommitter {
  public:
   void CommitAll() override { ++allCommits; }
   void CommitRow(int position) override { committedRows.push_back(position); }
@@ -34,9 +34,9 @@ class RecordingCommitter final : public RowCommitter {
 
 // A progress that counts its ticks; a tick says stop once after `stopNow`
 // was set, as a click on the cancel button during the tick would.
-class ScriptedProgress final : public Progress {
+class ScriptedProgress final : public core::Progress {
  public:
-  bool Tick(const ProgressStep&) override {
+  bool Tick(const core::ProgressStep&) override {
     ++ticks;
     if (onTick) onTick();
     const bool stop = stopNow;
@@ -67,36 +67,36 @@ struct ListParts {
   void AddFiles(const std::vector<std::string>& names) {
     for (const std::string& name : names) {
       std::string path = temp.WriteFile(name, "x");
-      AddFile(load, path);
+      core::AddFile(load, path);
     }
     preview.Refresh();
   }
 
   std::vector<std::string> Column(int column) {
     std::vector<std::string> values;
-    state.list.ForEach([&](const FileEntry& row) { values.push_back(row[column]); });
+    state.list.ForEach([&](const core::FileEntry& row) { values.push_back(row[column]); });
     return values;
   }
 
-  void SetNewName(int position, const std::string& name) { state.list.Item(position)[kColNewName] = name; }
+  void SetNewName(int position, const std::string& name) { state.list.Item(position)[core::kColNewName] = name; }
 
-  ListContext List() { return {state, frontEnd, preview}; }
-  ActionContext Actions() { return {List(), texts, script, fileSystem}; }
-  CommitContext Commit() { return {state, fileSystem, frontEnd, options, texts}; }
+  core::ListContext List() { return {state, frontEnd, preview}; }
+  rename::ActionContext Actions() { return {List(), texts, script, fileSystem}; }
+  commit::CommitContext Commit() { return {state, fileSystem, frontEnd, options, texts}; }
 
   TempFolder temp;
   Files fileSystem;
   ScriptedFrontEnd frontEnd;
   ScriptedProgress progress;
-  NoExifDates noExif;
-  ListOptions options;
-  StatusTexts texts;
-  ListState state{fileSystem};
-  WindowState window;
-  ScriptSession script;
-  WindowPreview preview{state, window, script, frontEnd, texts};
-  ListLoad load{state, fileSystem, frontEnd, progress, noExif, options, texts};
-  RowCommitter* rowCommitter = nullptr;  // takes pending names to disk before rows go
+  core::NoExifDates noExif;
+  core::ListOptions options;
+  core::StatusTexts texts;
+  core::ListState state{fileSystem};
+  shell::WindowState window;
+  dialog::ScriptSession script;
+  shell::WindowPreview preview{state, window, script, frontEnd, texts};
+  core::ListLoad load{state, fileSystem, frontEnd, progress, noExif, options, texts};
+  core::RowCommitter* rowCommitter = nullptr;  // takes pending names to disk before rows go
 };
 
 // The one fixture of the list.

@@ -10,10 +10,10 @@ namespace nomra::testing {
 
 // A front end whose answers are given in advance; it remembers every
 // question, fault and status text it was shown.
-class ScriptedFrontEnd final : public FrontEnd {
+class ScriptedFrontEnd final : public core::FrontEnd {
  public:
-  std::deque<Answer> answers;  // taken in order; when none is left, No
-  std::vector<Message> asked;
+  std::deque<core::Answer> answers;  // taken in order; when none is left, No
+  std::vector<core::Message> asked;
   std::vector<std::string> faults;
   std::vector<std::string> statusTexts;
   std::vector<std::string> plainMessages;
@@ -24,15 +24,15 @@ class ScriptedFrontEnd final : public FrontEnd {
   // Runs during a pump, as a click on the cancel button would.
   std::function<void()> onPump;
 
-  Answer Ask(const Message& message) override {
+  core::Answer Ask(const core::Message& message) override {
     asked.push_back(message);
-    if (answers.empty()) return Answer::No;
-    const Answer answer = answers.front();
+    if (answers.empty()) return core::Answer::No;
+    const core::Answer answer = answers.front();
     answers.pop_front();
     return answer;
   }
   void ShowPlainMessage(const std::string& text) override { plainMessages.push_back(text); }
-  std::string AskInput(const Message& prompt, const std::string& preset) override {
+  std::string AskInput(const core::Message& prompt, const std::string& preset) override {
     asked.push_back(prompt);
     inputPresets.push_back(preset);
     if (inputs.empty()) return "";

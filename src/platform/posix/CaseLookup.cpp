@@ -16,8 +16,8 @@ namespace {
 using DirHandle = std::unique_ptr<DIR, int (*)(DIR*)>;
 
 std::string FlippedCase(const std::string& name) {
-  std::string flipped = text::ToUpper(name);
-  if (flipped == name) flipped = text::ToLower(name);
+  std::string flipped = base::ToUpper(name);
+  if (flipped == name) flipped = base::ToLower(name);
   return flipped;
 }
 

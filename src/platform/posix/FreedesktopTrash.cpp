@@ -33,7 +33,7 @@ std::uint64_t FreedesktopTrash::DeviceOf(std::string path) {
   for (;;) {
     const FileStatus status = fileSystem_.Inspect(path);
     if (status.kind != EntryKind::Missing || path.size() <= 1) return status.device;
-    path = WithoutTrailingSeparators(FolderOf(path));
+    path = base::WithoutTrailingSeparators(base::FolderOf(path));
   }
 }
 
@@ -41,7 +41,7 @@ std::uint64_t FreedesktopTrash::DeviceOf(std::string path) {
 std::string FreedesktopTrash::TopDirectoryOf(std::string folder, std::uint64_t device) {
   for (;;) {
     if (folder.size() <= 1) return folder;
-    const std::string above = WithoutTrailingSeparators(FolderOf(folder));
+    const std::string above = base::WithoutTrailingSeparators(base::FolderOf(folder));
     if (above.empty() || fileSystem_.Inspect(above).device != device) return folder;
     folder = above;
   }
@@ -64,13 +64,13 @@ int FreedesktopTrash::UseTrash(const std::string& folder, std::string topDirecto
   for (const std::string& path : {folder, folder + "/files", folder + "/info"}) {
     if (!MakePrivateFolder(path, error)) return error;
   }
-  place = {AddBackslash(folder), std::move(topDirectory)};
+  place = {base::AddBackslash(folder), std::move(topDirectory)};
   return 0;
 }
 
 int FreedesktopTrash::FindTrash(const std::string& path, TrashPlace& place) {
   // The folder that holds the name decides, so a link is trashed itself.
-  const std::string folder = WithoutTrailingSeparators(FolderOf(path));
+  const std::string folder = base::WithoutTrailingSeparators(base::FolderOf(path));
   const FileStatus holder = fileSystem_.Inspect(folder);
   if (holder.kind != EntryKind::Folder) return holder.error != 0 ? holder.error : ENOTDIR;
   const std::string dataHome = locations_.DataHome();
@@ -82,7 +82,7 @@ int FreedesktopTrash::FindTrash(const std::string& path, TrashPlace& place) {
   }
 
   const std::string top = TopDirectoryOf(folder, holder.device);
-  const std::string topWithSeparator = AddBackslash(top);
+  const std::string topWithSeparator = base::AddBackslash(top);
   const std::string uid = std::to_string(locations_.UserId());
   const std::string shared = topWithSeparator + ".Trash";
   if (IsAdministratorsTrash(fileSystem_.Inspect(shared)) &&
@@ -125,7 +125,7 @@ int FreedesktopTrash::MoveToTrash(const std::string& path, const std::tm& delete
     recorded = path.substr(place.topDirectory.size());
   }
   const std::string record = TrashInfoText(recorded, deletedAt);
-  const std::string name = NameOf(WithoutTrailingSeparators(path));
+  const std::string name = base::NameOf(base::WithoutTrailingSeparators(path));
   for (int number = 1; number <= kMostSameNames; ++number) {
     const std::string trashName = TrashName(name, number);
     const std::string stored = place.folder + "files/" + trashName;

@@ -31,7 +31,7 @@ bool LinksRefused(int error) { return error == EPERM || error == EOPNOTSUPP || e
 
 // The folder to list for a name: its own, or the working folder for a bare name.
 std::string ListedFolderOf(const std::string& path) {
-  const std::string folder = FolderOf(path);
+  const std::string folder = base::FolderOf(path);
   return folder.empty() ? std::string(".") : folder;
 }
 
@@ -92,7 +92,7 @@ bool ConfirmRename(const std::string& from, const std::string& to) {
   if (source.st_dev != target.st_dev || source.st_ino != target.st_ino) return false;
   bool newListed = false;
   bool oldListed = false;
-  SpellingsListed(ListedFolderOf(to), NameOf(to), NameOf(from), newListed, oldListed);
+  SpellingsListed(ListedFolderOf(to), base::NameOf(to), base::NameOf(from), newListed, oldListed);
   return newListed && !oldListed;
 }
 

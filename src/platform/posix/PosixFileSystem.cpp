@@ -210,7 +210,7 @@ RenameResult PosixFileSystem::RenameNoReplace(const std::string& from, const std
 // up afterwards. The kernel's own file systems below are trusted, which
 // spares two look-ups per rename in a batch of 100,000.
 bool PosixFileSystem::ConfirmRenamed(const std::string& from, const std::string& to) {
-  std::string folder = FolderOf(to);
+  std::string folder = base::FolderOf(to);
   if (folder.empty()) folder = ".";
   if (folder != trustFolder_) {
     trustFolder_ = folder;

@@ -7,7 +7,7 @@
 #include "rename/actions/ExtensionAction.h"
 #include "rename/actions/PrefixSuffix.h"
 
-namespace nomra {
+namespace nomra::rename {
 
 namespace {
 
@@ -35,4 +35,4 @@ std::vector<int> KnownStepTypes() {
   return types;
 }
 
-}  // namespace nomra
+}  // namespace nomra::rename

@@ -4,7 +4,7 @@
 
 #include "rename/ActionDialog.h"
 
-namespace nomra {
+namespace nomra::rename {
 
 // The action dialog of a script step type, new; nullptr for a type whose
 // dialog doesn't exist, which playback passes over.
@@ -13,4 +13,4 @@ std::unique_ptr<ActionDialog> CreateActionDialog(int stepType);
 // The step types that have a dialog.
 std::vector<int> KnownStepTypes();
 
-}  // namespace nomra
+}  // namespace nomra::rename

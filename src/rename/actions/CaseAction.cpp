@@ -4,7 +4,7 @@
 
 #include "structure/ApplyStructure.h"
 
-namespace nomra {
+namespace nomra::rename {
 
 namespace {
 
@@ -52,6 +52,6 @@ std::string CaseDialog::Structure() const {
   }
 }
 
-void CaseDialog::Run(const ActionContext& context) { ApplyStructure(context, Structure()); }
+void CaseDialog::Run(const ActionContext& context) { structure::ApplyStructure(context, Structure()); }
 
-}  // namespace nomra
+}  // namespace nomra::rename

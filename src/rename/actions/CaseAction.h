@@ -3,7 +3,7 @@
 
 #include "rename/ActionDialog.h"
 
-namespace nomra {
+namespace nomra::rename {
 
 // Upper and lower case: opt1(1..5) chooses the conversion ("1C", "WC",
 // "UC", "LC", "SC"), opt2(1..3) whether it applies to the name, the
@@ -18,4 +18,4 @@ class CaseDialog final : public ActionDialog {
   std::string Structure() const;
 };
 
-}  // namespace nomra
+}  // namespace nomra::rename

@@ -3,7 +3,7 @@
 #include "base/Trim.h"
 #include "structure/ApplyStructure.h"
 
-namespace nomra {
+namespace nomra::rename {
 
 namespace {
 
@@ -29,7 +29,7 @@ const ActionTraits& ExtensionDialog::Traits() const {
 }
 
 std::string CleanExtensionInput(std::string_view text) {
-  text = TrimSpaces(text);
+  text = base::TrimSpaces(text);
   const std::size_t afterDots = text.find_first_not_of('.');
   return afterDots == std::string_view::npos ? std::string() : std::string(text.substr(afterDots));
 }
@@ -47,7 +47,7 @@ bool ExtensionDialog::ChangeInputsEnabled() const { return Model().IsSelected(kC
 
 void ExtensionDialog::Run(const ActionContext& context) {
   Model().SetText(kNewExtension, CleanExtensionInput(Model().Text(kNewExtension)));
-  ApplyStructure(context, Structure());
+  structure::ApplyStructure(context, Structure());
 }
 
-}  // namespace nomra
+}  // namespace nomra::rename

@@ -3,7 +3,7 @@
 
 #include "rename/ActionDialog.h"
 
-namespace nomra {
+namespace nomra::rename {
 
 // File extension: optFE(1) changes it to txtFE (behind the old one when
 // chkAddOldFE is on), optFE(2) removes the last one.
@@ -24,4 +24,4 @@ class ExtensionDialog final : public ActionDialog {
 // txtFE without the blanks around it and without its leading dots.
 std::string CleanExtensionInput(std::string_view text);
 
-}  // namespace nomra
+}  // namespace nomra::rename

@@ -3,7 +3,7 @@
 #include "rename/ActionScope.h"
 #include "base/NameSplit.h"
 
-namespace nomra {
+namespace nomra::rename {
 
 namespace {
 
@@ -29,15 +29,15 @@ const ActionTraits& PrefixSuffixDialog::Traits() const {
 void PrefixSuffixDialog::Run(const ActionContext& context) {
   const std::string prefix = Model().Text(kPrefixInput);
   const std::string suffix = Model().Text(kSuffixInput);
-  RewritePendingNames(context, [&](int, const FileEntry& entry) {
-    return AddPrefixAndSuffix(entry[kColNewName], prefix, suffix);
+  RewritePendingNames(context, [&](int, const core::FileEntry& entry) {
+    return AddPrefixAndSuffix(entry[core::kColNewName], prefix, suffix);
   });
 }
 
 std::string AddPrefixAndSuffix(std::string_view name, std::string_view prefix, std::string_view suffix) {
   std::string stem;
   std::string extension;
-  SplitNameExtension(name, stem, extension);
+  base::SplitNameExtension(name, stem, extension);
   std::string result;
   result.reserve(prefix.size() + name.size() + suffix.size());
   result.append(prefix).append(stem).append(suffix).append(extension);
@@ -53,4 +53,4 @@ std::optional<std::pair<std::string, std::string>> PrefixSuffixLabels(std::strin
   return std::make_pair(std::string(caption.substr(0, slash)) + ":", std::string(suffix) + ":");
 }
 
-}  // namespace nomra
+}  // namespace nomra::rename

@@ -6,7 +6,7 @@
 
 #include "rename/ActionDialog.h"
 
-namespace nomra {
+namespace nomra::rename {
 
 // Prefix and suffix: txtPr before the stem, txtSu between stem and
 // extension. Tags are not evaluated; both empty leaves each name as it is.
@@ -26,4 +26,4 @@ std::string AddPrefixAndSuffix(std::string_view name, std::string_view prefix, s
 // holds no "/", so the labels keep their own texts.
 std::optional<std::pair<std::string, std::string>> PrefixSuffixLabels(std::string_view caption);
 
-}  // namespace nomra
+}  // namespace nomra::rename

@@ -10,7 +10,7 @@ bool NameKeyFilter::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     const QString text = static_cast<QKeyEvent*>(event)->text();
     for (const char32_t character : text.toUcs4()) {
-      if (IsForbiddenNameCharacter(character)) return true;
+      if (base::IsForbiddenNameCharacter(character)) return true;
     }
   }
   return QObject::eventFilter(watched, event);

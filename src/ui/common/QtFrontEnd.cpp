@@ -12,59 +12,59 @@ namespace nomra::ui {
 
 namespace {
 
-QMessageBox::Icon IconOf(MessageStyle style) {
+QMessageBox::Icon IconOf(core::MessageStyle style) {
   switch (style) {
-    case MessageStyle::YesNo:
-    case MessageStyle::YesNoDefaultNo:
-    case MessageStyle::YesNoCancelDefaultNo:
+    case core::MessageStyle::YesNo:
+    case core::MessageStyle::YesNoDefaultNo:
+    case core::MessageStyle::YesNoCancelDefaultNo:
       return QMessageBox::Question;
-    case MessageStyle::YesNoWarningDefaultNo:
-    case MessageStyle::OkWarning:
+    case core::MessageStyle::YesNoWarningDefaultNo:
+    case core::MessageStyle::OkWarning:
       return QMessageBox::Warning;
-    case MessageStyle::OkStop:
+    case core::MessageStyle::OkStop:
       return QMessageBox::Critical;
-    case MessageStyle::OkInformation:
+    case core::MessageStyle::OkInformation:
       return QMessageBox::Information;
   }
   return QMessageBox::NoIcon;
 }
 
-QMessageBox::StandardButtons ButtonsOf(MessageStyle style) {
+QMessageBox::StandardButtons ButtonsOf(core::MessageStyle style) {
   switch (style) {
-    case MessageStyle::YesNo:
-    case MessageStyle::YesNoDefaultNo:
-    case MessageStyle::YesNoWarningDefaultNo:
+    case core::MessageStyle::YesNo:
+    case core::MessageStyle::YesNoDefaultNo:
+    case core::MessageStyle::YesNoWarningDefaultNo:
       return QMessageBox::Yes | QMessageBox::No;
-    case MessageStyle::YesNoCancelDefaultNo:
+    case core::MessageStyle::YesNoCancelDefaultNo:
       return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
     default:
       return QMessageBox::Ok;
   }
 }
 
-QMessageBox::StandardButton DefaultOf(MessageStyle style) {
+QMessageBox::StandardButton DefaultOf(core::MessageStyle style) {
   switch (style) {
-    case MessageStyle::YesNo:
+    case core::MessageStyle::YesNo:
       return QMessageBox::Yes;
-    case MessageStyle::YesNoDefaultNo:
-    case MessageStyle::YesNoCancelDefaultNo:
-    case MessageStyle::YesNoWarningDefaultNo:
+    case core::MessageStyle::YesNoDefaultNo:
+    case core::MessageStyle::YesNoCancelDefaultNo:
+    case core::MessageStyle::YesNoWarningDefaultNo:
       return QMessageBox::No;
     default:
       return QMessageBox::Ok;
   }
 }
 
-Answer AnswerOf(int button) {
+core::Answer AnswerOf(int button) {
   switch (button) {
     case QMessageBox::Yes:
-      return Answer::Yes;
+      return core::Answer::Yes;
     case QMessageBox::No:
-      return Answer::No;
+      return core::Answer::No;
     case QMessageBox::Cancel:
-      return Answer::Cancel;
+      return core::Answer::Cancel;
     default:
-      return Answer::Ok;
+      return core::Answer::Ok;
   }
 }
 
@@ -73,22 +73,22 @@ Answer AnswerOf(int button) {
 QtFrontEnd::QtFrontEnd(const lang::MessageCatalog& catalog, QString appTitle)
     : catalog_(catalog), appTitle_(std::move(appTitle)) {}
 
-QString QtFrontEnd::TextOf(const Message& message) const {
+QString QtFrontEnd::TextOf(const core::Message& message) const {
   std::string text = catalog_.GetText(lang::kMessagesSection, message.textKey, message.arguments);
   // Without a language text the key still says which question this is.
   if (text.empty()) text = message.textKey;
   return ToQString(text);
 }
 
-QString QtFrontEnd::CaptionOf(const Message& message) const {
+QString QtFrontEnd::CaptionOf(const core::Message& message) const {
   if (message.captionKey.empty()) return appTitle_;
   const std::string caption = catalog_.GetText(lang::kMessagesSection, message.captionKey);
   return caption.empty() ? appTitle_ : ToQString(caption);
 }
 
-Answer QtFrontEnd::Ask(const Message& message) { return AskText(message, TextOf(message)); }
+core::Answer QtFrontEnd::Ask(const core::Message& message) { return AskText(message, TextOf(message)); }
 
-Answer QtFrontEnd::AskText(const Message& message, const QString& text) {
+core::Answer QtFrontEnd::AskText(const core::Message& message, const QString& text) {
   const QString caption = CaptionOf(message);
   if (answerer_) return answerer_(message, caption, text);
   // A question waits for the user even while the pointer shows busy.
@@ -101,8 +101,8 @@ Answer QtFrontEnd::AskText(const Message& message, const QString& text) {
 }
 
 void QtFrontEnd::ShowPlainMessage(const std::string& text) {
-  Message plain;
-  plain.style = MessageStyle::OkInformation;
+  core::Message plain;
+  plain.style = core::MessageStyle::OkInformation;
   if (answerer_) {
     answerer_(plain, appTitle_, ToQString(text));
     return;
@@ -111,7 +111,7 @@ void QtFrontEnd::ShowPlainMessage(const std::string& text) {
   box.exec();
 }
 
-std::string QtFrontEnd::AskInput(const Message& prompt, const std::string& preset) {
+std::string QtFrontEnd::AskInput(const core::Message& prompt, const std::string& preset) {
   if (inputAnswerer_) return inputAnswerer_(prompt, preset);
   if (busyDepth_ > 0) QApplication::setOverrideCursor(Qt::ArrowCursor);
   bool ok = false;
@@ -122,8 +122,8 @@ std::string QtFrontEnd::AskInput(const Message& prompt, const std::string& prese
 }
 
 void QtFrontEnd::ShowFault(const std::string& text) {
-  Message fault;
-  fault.style = MessageStyle::OkStop;
+  core::Message fault;
+  fault.style = core::MessageStyle::OkStop;
   if (answerer_) {
     answerer_(fault, appTitle_, ToQString(text));
     return;

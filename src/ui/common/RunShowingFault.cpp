@@ -4,11 +4,11 @@
 
 namespace nomra::ui {
 
-bool RunShowingFault(FrontEnd& frontEnd, const std::function<void()>& work) {
+bool RunShowingFault(core::FrontEnd& frontEnd, const std::function<void()>& work) {
   try {
     work();
     return true;
-  } catch (const RuntimeFault& fault) {
+  } catch (const base::RuntimeFault& fault) {
     frontEnd.ShowFault(fault.what());
     return false;
   }

@@ -16,12 +16,12 @@ constexpr char32_t kReplacementCharacter = 0xFFFD;
 
 QString ToQString(std::string_view engineText) {
   // Most names are plain ASCII, which every encoding reads alike.
-  if (text::IsAscii(engineText)) {
+  if (base::IsAscii(engineText)) {
     return QString::fromLatin1(engineText.data(), static_cast<qsizetype>(engineText.size()));
   }
   QString out;
   out.reserve(static_cast<qsizetype>(engineText.size()));
-  text::ForEachChar(engineText, [&](char32_t character, std::size_t, std::size_t) {
+  base::ForEachChar(engineText, [&](char32_t character, std::size_t, std::size_t) {
     if (QChar::requiresSurrogates(character)) {
       out.append(QChar(QChar::highSurrogate(character)));
       out.append(QChar(QChar::lowSurrogate(character)));
@@ -42,10 +42,10 @@ std::string ToEngineText(const QString& text) {
     char32_t character = unit;
     if (QChar::isHighSurrogate(unit) && i + 1 < size && QChar::isLowSurrogate(text.at(i + 1).unicode())) {
       character = QChar::surrogateToUcs4(unit, text.at(++i).unicode());
-    } else if (QChar::isSurrogate(unit) && !text::IsRawByte(unit)) {
+    } else if (QChar::isSurrogate(unit) && !base::IsRawByte(unit)) {
       character = kReplacementCharacter;
     }
-    text::AppendChar(out, character);
+    base::AppendChar(out, character);
   }
   return out;
 }

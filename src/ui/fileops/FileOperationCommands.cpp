@@ -9,25 +9,25 @@
 
 namespace nomra::ui {
 
-bool RunSelAction(QWidget* parent, platform::Platform& system, const ActionContext& context, RowCommitter* committer,
+bool RunSelAction(QWidget* parent, platform::Platform& system, const rename::ActionContext& context, core::RowCommitter* committer,
                   const lang::MessageCatalog& catalog,
                   const QString& tag) {
   FrmSelAction dialog(tag, context, committer, catalog, system, parent);
   return dialog.exec() == QDialog::Accepted;
 }
 
-bool DeleteListFiles(QWidget* parent, platform::Platform& system, const ListContext& context, bool expertMode,
+bool DeleteListFiles(QWidget* parent, platform::Platform& system, const core::ListContext& context, bool expertMode,
                      const lang::MessageCatalog& catalog, bool toTrash) {
   FileOperationProgress progress(catalog, parent);
   fileops::OperationServices services{system.Files(), system.DesktopTrash(), context.frontEnd, progress};
   return fileops::DeleteListFiles(context, expertMode, toTrash, services);
 }
 
-void ShowProperties(QWidget* parent, platform::FileSystem& fileSystem, FrontEnd& frontEnd,
+void ShowProperties(QWidget* parent, platform::FileSystem& fileSystem, core::FrontEnd& frontEnd,
                     const lang::MessageCatalog& catalog, const std::string& path) {
   const platform::FileProperties properties = fileSystem.Properties(path);
   if (properties.type == platform::PropertyType::Missing) {
-    frontEnd.Ask({lang::kSourceMissing, lang::kAttentionCaption, MessageStyle::OkStop, {path}});
+    frontEnd.Ask({lang::kSourceMissing, lang::kAttentionCaption, core::MessageStyle::OkStop, {path}});
     return;
   }
   PropertiesDialog dialog(properties, catalog, parent);

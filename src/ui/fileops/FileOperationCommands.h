@@ -18,18 +18,18 @@ namespace nomra::ui {
 // mnuCopyFiles ("frmCopyFiles"), mnuMoveFiles ("frmMoveFiles") and the
 // copy of "TakeChanges2" ("frmSelAction"): frmSelAction with that Tag.
 // True when its OK ran to the end.
-bool RunSelAction(QWidget* parent, platform::Platform& system, const ActionContext& context, RowCommitter* committer,
+bool RunSelAction(QWidget* parent, platform::Platform& system, const rename::ActionContext& context, core::RowCommitter* committer,
                   const lang::MessageCatalog& catalog,
                   const QString& tag);
 
 // mnuDeleteFiles1 (to the trash) and mnuDeleteFiles2 (at once), with their
 // progress. False when expert mode is off.
-bool DeleteListFiles(QWidget* parent, platform::Platform& system, const ListContext& context, bool expertMode,
+bool DeleteListFiles(QWidget* parent, platform::Platform& system, const core::ListContext& context, bool expertMode,
                      const lang::MessageCatalog& catalog, bool toTrash);
 
 // The properties window of a file (btnBarLeft "Properties" and the pop-up
 // menu); a path that can't be read is told through the front end.
-void ShowProperties(QWidget* parent, platform::FileSystem& fileSystem, FrontEnd& frontEnd,
+void ShowProperties(QWidget* parent, platform::FileSystem& fileSystem, core::FrontEnd& frontEnd,
                     const lang::MessageCatalog& catalog, const std::string& path);
 
 }  // namespace nomra::ui

@@ -46,13 +46,13 @@ FileOperationProgress::FileOperationProgress(const lang::MessageCatalog& catalog
   LocaliseDialog(*this, catalog, parent, QString());
 }
 
-void FileOperationProgress::Begin(const ProgressStep&) {
+void FileOperationProgress::Begin(const core::ProgressStep&) {
   cancelled_ = false;
   bar_->setValue(0);
   shownAfter_ = QDateTime::currentMSecsSinceEpoch() + kShowAfterMsecs;
 }
 
-bool FileOperationProgress::Tick(const ProgressStep& step) {
+bool FileOperationProgress::Tick(const core::ProgressStep& step) {
   const std::vector<std::string> numbers = {std::to_string(step.index), std::to_string(step.count)};
   std::string text = catalog_.GetText(lang::kMessagesSection, step.task, numbers);
   if (text.empty()) text = std::to_string(step.index) + " / " + std::to_string(step.count);

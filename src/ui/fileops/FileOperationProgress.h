@@ -13,13 +13,13 @@ namespace nomra::ui {
 // The progress of a copy, move or deletion, with a Cancel button that stops
 // the operation before its next file. It shows itself only when the work
 // takes longer than a moment, so a single small file flashes nothing.
-class FileOperationProgress final : public QDialog, public Progress {
+class FileOperationProgress final : public QDialog, public core::Progress {
   Q_OBJECT
  public:
   FileOperationProgress(const lang::MessageCatalog& catalog, QWidget* parent = nullptr);
 
-  void Begin(const ProgressStep& task) override;
-  bool Tick(const ProgressStep& step) override;
+  void Begin(const core::ProgressStep& task) override;
+  bool Tick(const core::ProgressStep& step) override;
   void End() override;
 
   bool Cancelled() const { return cancelled_; }

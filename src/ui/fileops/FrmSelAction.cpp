@@ -33,7 +33,7 @@ QGroupBox* BuildFrameCopy(QWidget& dialog) {
 
 }  // namespace
 
-FrmSelAction::FrmSelAction(const QString& tag, const ActionContext& context, RowCommitter* committer,
+FrmSelAction::FrmSelAction(const QString& tag, const rename::ActionContext& context, core::RowCommitter* committer,
                            const lang::MessageCatalog& catalog,
                            platform::Platform& system, QWidget* parent)
     : QDialog(parent), engine_(ToEngineText(tag)),

@@ -21,7 +21,7 @@ namespace nomra::ui {
 class FrmSelAction final : public QDialog {
   Q_OBJECT
  public:
-  FrmSelAction(const QString& tag, const ActionContext& context, RowCommitter* committer,
+  FrmSelAction(const QString& tag, const rename::ActionContext& context, core::RowCommitter* committer,
                const lang::MessageCatalog& catalog,
                platform::Platform& system, QWidget* parent = nullptr);
 
@@ -34,8 +34,8 @@ class FrmSelAction final : public QDialog {
   void OnTargetPathEdited(const QString& text);
 
   fileops::FrmSelAction engine_;
-  ActionContext context_;
-  RowCommitter* committer_;
+  rename::ActionContext context_;
+  core::RowCommitter* committer_;
   const lang::MessageCatalog& catalog_;
   platform::Platform& system_;
   QLineEdit* targetPath_ = nullptr;

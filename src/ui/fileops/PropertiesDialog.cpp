@@ -53,16 +53,16 @@ PropertiesDialog::PropertiesDialog(const platform::FileProperties& p, const lang
   resize(520, 0);
   auto* layout = new QVBoxLayout(this);
   auto* form = new QFormLayout;
-  const std::string size = text::FormatGrouped(p.size);
+  const std::string size = base::FormatGrouped(p.size);
   const std::string created =
-      p.created ? text::FormatListDate(*p.created) : Text(catalog, "notKept", "not kept by this file system");
+      p.created ? base::FormatListDate(*p.created) : Text(catalog, "notKept", "not kept by this file system");
   const std::pair<const char*, std::pair<const char*, std::string>> rows[] = {
       {"lblPath", {"Path:", p.path}},
       {"lblType", {"Type:", TypeText(p, catalog)}},
       {"lblSize", {"Size:", Text(catalog, "sizeBytes", size + " bytes", {size})}},
       {"lblCreated", {"Created:", created}},
-      {"lblModified", {"Modified:", text::FormatListDate(p.modified)}},
-      {"lblAccessed", {"Last read:", text::FormatListDate(p.accessed)}},
+      {"lblModified", {"Modified:", base::FormatListDate(p.modified)}},
+      {"lblAccessed", {"Last read:", base::FormatListDate(p.accessed)}},
       {"lblOwner", {"Owner:", p.owner + " (" + p.group + ")"}},
       {"lblPermissions", {"Permissions:", fileops::PermissionText(p.mode)}},
   };

@@ -54,7 +54,7 @@ FrmHistory::FrmHistory(platform::FileSystem& fileSystem, const std::string& data
       frontEnd_(frontEnd),
       services_{fileSystem, frontEnd, dataFolder, nullptr} {
   // A failed rename shows its message with the system's own words.
-  services_.showFailure = [this, &catalog](const ReportRow& failure) {
+  services_.showFailure = [this, &catalog](const commit::ReportRow& failure) {
     frontEnd_.AskText(history::FailureMessage(failure), ReportRowText(failure, catalog));
   };
   setObjectName("frmHistory");

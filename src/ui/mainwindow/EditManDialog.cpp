@@ -33,7 +33,7 @@ EditManDialog::EditManDialog(const QString& pendingName, const lang::MessageCata
   LocaliseDialog(*this, catalog, parent, QString());
   // The name without its extension is what one usually changes; a name that
   // is all extension is selected whole.
-  const QString stem = ToQString(NameOnly(ToEngineText(pendingName)));
+  const QString stem = ToQString(base::NameOnly(ToEngineText(pendingName)));
   name_->setSelection(0, stem.isEmpty() ? pendingName.size() : stem.size());
 }
 

@@ -9,7 +9,7 @@
 
 namespace nomra::ui {
 
-FileListModel::FileListModel(FileList& list, ThumbnailCache& thumbnails, QObject* parent)
+FileListModel::FileListModel(core::FileList& list, ThumbnailCache& thumbnails, QObject* parent)
     : QAbstractTableModel(parent), list_(list), thumbnails_(thumbnails) {}
 
 int FileListModel::rowCount(const QModelIndex& parent) const {
@@ -20,23 +20,23 @@ int FileListModel::columnCount(const QModelIndex& parent) const { return parent.
 
 QVariant FileListModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || index.row() >= list_.Count()) return {};
-  const FileEntry& row = list_.Item(index.row() + 1);
+  const core::FileEntry& row = list_.Item(index.row() + 1);
   const int column = index.column();
   switch (role) {
     case Qt::DisplayRole:
       return ToQString(row[column]);
     case Qt::EditRole:
-      return ToQString(row[kColNewName]);
+      return ToQString(row[core::kColNewName]);
     case Qt::ToolTipRole:
-      return column == kColDisplay ? ToQString(row.key) : QVariant();
+      return column == core::kColDisplay ? ToQString(row.key) : QVariant();
     case Qt::ForegroundRole:
-      if (row.colour == RowColour::DarkRed) return PendingColour();
+      if (row.colour == core::RowColour::DarkRed) return PendingColour();
       return {};
     case Qt::DecorationRole:
-      if (column == kColDisplay && showThumbnails_) return thumbnails_.IconFor(row.key);
+      if (column == core::kColDisplay && showThumbnails_) return thumbnails_.IconFor(row.key);
       return {};
     case Qt::TextAlignmentRole:
-      if (column == kColSize) return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+      if (column == core::kColSize) return QVariant(Qt::AlignRight | Qt::AlignVCenter);
       return {};
     default:
       return {};
@@ -53,7 +53,7 @@ Qt::ItemFlags FileListModel::flags(const QModelIndex& index) const {
   Qt::ItemFlags flags = Qt::ItemIsDropEnabled;
   if (!index.isValid()) return flags;
   flags |= Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled;
-  if (inPlaceEditing_ && index.column() == kColDisplay) flags |= Qt::ItemIsEditable;
+  if (inPlaceEditing_ && index.column() == core::kColDisplay) flags |= Qt::ItemIsEditable;
   return flags;
 }
 

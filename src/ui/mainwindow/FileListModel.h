@@ -19,7 +19,7 @@ class FileListModel final : public QAbstractTableModel {
   static constexpr int kShownColumns = 8;
   static constexpr char kRowMimeType[] = "application/x-nomra-row";
 
-  FileListModel(FileList& list, ThumbnailCache& thumbnails, QObject* parent = nullptr);
+  FileListModel(core::FileList& list, ThumbnailCache& thumbnails, QObject* parent = nullptr);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -56,7 +56,7 @@ class FileListModel final : public QAbstractTableModel {
   void labelEdited(int position, const QString& text);
 
  private:
-  FileList& list_;
+  core::FileList& list_;
   ThumbnailCache& thumbnails_;
   QStringList headers_;
   bool showThumbnails_ = false;

@@ -99,16 +99,16 @@ MainWindow::MainWindow(Services services, QWidget* parent)
   BuildCommandTables();
   ConnectCommands();
 
-  LoadStartupSettings(paths_, {system_.Files(), frontEnd_, options_, script_});
-  settings_ = ReadMainWindowSettings(SettingsFile(), frontEnd_);
+  shell::LoadStartupSettings(paths_, {system_.Files(), frontEnd_, options_, script_});
+  settings_ = shell::ReadMainWindowSettings(SettingsFile(), frontEnd_);
   LoadSettingsIntoWindow();
   ApplyExpertMode();
 
   // A commit cut short by a crash is set right before any file is listed.
-  const InterruptedCommit interrupted = RecoverInterruptedCommit(system_.Files(), options_.dataFolder);
-  ShowUnresolved(frontEnd_, interrupted);
+  const commit::InterruptedCommit interrupted = commit::RecoverInterruptedCommit(system_.Files(), options_.dataFolder);
+  commit::ShowUnresolved(frontEnd_, interrupted);
 
-  if (paths_.dataFolderUsable) ResetScriptTemp(script_, system_.Files());
+  if (paths_.dataFolderUsable) script::ResetScriptTemp(script_, system_.Files());
   ShowLanguageTexts();
 }
 
@@ -142,7 +142,7 @@ void MainWindow::ShowLanguageTexts() {
 // Texts the localisation can't put by name: column heads, status texts, the
 // scope list, sort and size entries, and the tool tips of the variants.
 void MainWindow::setLngalt() {
-  texts_ = StatusTextsOf(catalog_);
+  texts_ = shell::StatusTextsOf(catalog_);
   static const char* kDesignHeads[] = {"Picture", "Path", "Old name", "New name", "Created", "Modified", "EXIF date", "Size"};
   QStringList heads;
   for (int column = 0; column < FileListModel::kShownColumns; ++column) {
@@ -229,17 +229,17 @@ void MainWindow::LoadSettingsIntoWindow() {
   scriptBar_->setVisible(settings_.btnbarScript == 1);
 
   const double dpi = logicalDpiX();
-  for (int head = 1; head <= kColumnHeadCount; ++head) {
-    long width = ColumnWidthToApply(head, settings_.columnWidths[head - 1]);
+  for (int head = 1; head <= shell::kColumnHeadCount; ++head) {
+    long width = shell::ColumnWidthToApply(head, settings_.columnWidths[head - 1]);
     // A date column without a stored width shows the whole date at any font size.
-    const bool date = head - 1 == kColCreated || head - 1 == kColModified;
+    const bool date = head - 1 == core::kColCreated || head - 1 == core::kColModified;
     if (settings_.columnWidths[head - 1] < 0 && date) {
-      width = std::max<long>(width, PixelsToTwips(fontMetrics().horizontalAdvance("0000-00-00 00:00:00") + 16, dpi));
+      width = std::max<long>(width, shell::PixelsToTwips(fontMetrics().horizontalAdvance("0000-00-00 00:00:00") + 16, dpi));
     }
-    if (width >= 0) details_->setColumnWidth(head - 1, TwipsToPixels(static_cast<int>(width), dpi));
+    if (width >= 0) details_->setColumnWidth(head - 1, shell::TwipsToPixels(static_cast<int>(width), dpi));
     if (width == 0) details_->setColumnHidden(head - 1, true);
   }
-  const auto checks = ColumnMenuChecks(settings_.columnWidths);
+  const auto checks = shell::ColumnMenuChecks(settings_.columnWidths);
   for (int entry = 1; entry <= kColumnEntries; ++entry) {
     MenuAction(ControlArrayMember(kColumnFamily, entry))->setChecked(checks[entry - 1]);
   }
@@ -258,8 +258,8 @@ void MainWindow::LoadSettingsIntoWindow() {
   MenuAction(kGridLinesEntry)->setChecked(settings_.previewGridLines);
   details_->setShowGrid(settings_.previewGridLines);
 
-  variants_.insert(kOpenFileKey, ToQString(OpenFileTagFromStyle(settings_.dialogueStyle)));
-  variants_.insert(kTakeChangesKey, ToQString(TakeChangesTagFromStyle(settings_.renameStyle)));
+  variants_.insert(kOpenFileKey, ToQString(shell::OpenFileTagFromStyle(settings_.dialogueStyle)));
+  variants_.insert(kTakeChangesKey, ToQString(shell::TakeChangesTagFromStyle(settings_.renameStyle)));
   variants_.insert(kDelListKey, QString());
   MenuAction(kShowSplashEntry)->setChecked(settings_.splash != 0);
 
@@ -273,14 +273,14 @@ void MainWindow::ApplyWindowPlacement() {
   const double dpi = screen != nullptr ? screen->logicalDotsPerInchX() : 96.0;
   const QSize screenSize = screen != nullptr ? screen->availableGeometry().size() : QSize(1280, 800);
   resize(std::min(1100, screenSize.width()), std::min(720, screenSize.height()));
-  const WindowPlacement placement =
-      PlaceWindow(settings_, TwipsSize{PixelsToTwips(width(), dpi), PixelsToTwips(height(), dpi)},
-                  TwipsSize{PixelsToTwips(screenSize.width(), dpi), PixelsToTwips(screenSize.height(), dpi)});
+  const shell::WindowPlacement placement =
+      shell::PlaceWindow(settings_, shell::TwipsSize{shell::PixelsToTwips(width(), dpi), shell::PixelsToTwips(height(), dpi)},
+                  shell::TwipsSize{shell::PixelsToTwips(screenSize.width(), dpi), shell::PixelsToTwips(screenSize.height(), dpi)});
   int w = width(), h = height();
-  if (placement.applyWidth) w = TwipsToPixels(placement.width, dpi);
-  if (placement.applyHeight) h = TwipsToPixels(placement.height, dpi);
+  if (placement.applyWidth) w = shell::TwipsToPixels(placement.width, dpi);
+  if (placement.applyHeight) h = shell::TwipsToPixels(placement.height, dpi);
   resize(w, h);
-  move(TwipsToPixels(placement.left, dpi), TwipsToPixels(placement.top, dpi));
+  move(shell::TwipsToPixels(placement.left, dpi), shell::TwipsToPixels(placement.top, dpi));
   if (placement.applyState && placement.state == 2) setWindowState(windowState() | Qt::WindowMaximized);
 }
 
@@ -326,7 +326,7 @@ void MainWindow::RefreshPreview() {
 }
 
 void MainWindow::ApplyCommandStates() {
-  const CommandState& state = window_.commands;
+  const shell::CommandState& state = window_.commands;
   auto allowed = [&](const QString& name) { return !notYetBuilt_.contains(name); };
   for (const QString& name : ManagedMenuNames()) {
     if (QAction* action = MenuAction(name)) action->setEnabled(state.IsEnabled(ToEngineText(name)) && allowed(name));
@@ -334,7 +334,7 @@ void MainWindow::ApplyCommandStates() {
   for (auto it = menuActions_.constBegin(); it != menuActions_.constEnd(); ++it) {
     if (!ManagedMenuNames().contains(it.key()) && !allowed(it.key())) it.value()->setEnabled(false);
   }
-  for (const std::string& key : MainToolBarKeys()) {
+  for (const std::string& key : shell::MainToolBarKeys()) {
     if (key.empty()) continue;
     const QString name = ToQString(key);
     ToolAction(kMainBar, name)->setEnabled(state.IsEnabled(key) && allowed(ToolName(kMainBar, name)));
@@ -360,13 +360,13 @@ void MainWindow::UpdateSortIndicators() {
   QHeaderView* header = details_->horizontalHeader();
   const int column = state_.list.sortKey;
   // The heads after the first show an arrow; the first has no order.
-  if (column >= kColPath && column <= kColSize) {
+  if (column >= core::kColPath && column <= core::kColSize) {
     header->setSortIndicatorShown(true);
     header->setSortIndicator(column, state_.list.sortOrder == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
   } else {
     header->setSortIndicatorShown(false);
   }
-  const int checked = CheckedSortMenuEntry(state_.list);
+  const int checked = core::CheckedSortMenuEntry(state_.list);
   for (int entry = 1; entry <= kSortEntries; ++entry) MenuAction(ControlArrayMember(kSortFamily, entry))->setChecked(entry == checked);
   MenuAction(kUnsortedEntry)->setChecked(checked == 0);
 }
@@ -379,7 +379,7 @@ void MainWindow::RestoreSelection() {
   const int count = state_.list.Count();
   const int lastColumn = FileListModel::kShownColumns - 1;
   int row = 0;
-  state_.list.ForEach([&](const FileEntry& entry) {
+  state_.list.ForEach([&](const core::FileEntry& entry) {
     if (entry.selected && runStart < 0) runStart = row;
     if (!entry.selected && runStart >= 0) {
       ranges.select(listModel_->index(runStart, 0), listModel_->index(row - 1, lastColumn));
@@ -409,11 +409,11 @@ void MainWindow::SelectionHandler() {
   const int position = state_.list.Empty() ? 0 : SelectedPosition();
   if (position > 0) {
     lastSelectedIndex_ = position;
-    const FileEntry& row = state_.list.Item(position);
-    detailFields_[0]->setText(ToQString(row[kColPath]));
-    detailFields_[1]->setText(ToQString(row[kColOldName]));
-    detailFields_[2]->setText(ToQString(row[kColNewName]));
-    const bool mp3 = text::EqualsNoCase(ExtensionOnly(row.key, false), "mp3");
+    const core::FileEntry& row = state_.list.Item(position);
+    detailFields_[0]->setText(ToQString(row[core::kColPath]));
+    detailFields_[1]->setText(ToQString(row[core::kColOldName]));
+    detailFields_[2]->setText(ToQString(row[core::kColNewName]));
+    const bool mp3 = base::EqualsNoCase(base::ExtensionOnly(row.key, false), "mp3");
     for (const char* name : {kId3Entry, kId3PopupEntry}) MenuAction(name)->setEnabled(mp3 && !notYetBuilt_.contains(name));
   }
   const bool hasRow = !detailFields_[0]->text().isEmpty();
@@ -446,7 +446,7 @@ void MainWindow::AddPaths(const QStringList& paths) {
       std::string text = ToEngineText(path);
       if (system_.Files().Status(text).kind == platform::EntryKind::Missing) continue;
       // A path that fails is told, and the next one loads.
-      RunShowingFault(frontEnd_, [&] { AddFile(load_, text); });
+      RunShowingFault(frontEnd_, [&] { core::AddFile(load_, text); });
     }
   });
 }

@@ -64,8 +64,8 @@ class MainWindow final : public QMainWindow {
  public:
   struct Services {
     platform::Platform& system;
-    ExifDateReader& exifDates;
-    StartupPaths paths;
+    core::ExifDateReader& exifDates;
+    shell::StartupPaths paths;
     std::string languageFile;  // "" runs without texts: design captions stay
     QString appTitle = QStringLiteral("Nomra");
     QString version;
@@ -76,20 +76,20 @@ class MainWindow final : public QMainWindow {
 
   // The list, the window's own state, the options and the script session,
   // and the contexts the engine's commands are handed.
-  ListState& State() { return state_; }
-  WindowState& Window() { return window_; }
-  ListOptions& Options() { return options_; }
-  ScriptSession& Script() { return script_; }
-  const StatusTexts& Texts() const { return texts_; }
-  ListContext List() { return {state_, frontEnd_, preview_}; }
-  ActionContext Actions() { return {List(), texts_, script_, system_.Files()}; }
-  CommitContext Commit() { return {state_, system_.Files(), frontEnd_, options_, texts_}; }
-  ListLoad& Load() { return load_; }
+  core::ListState& State() { return state_; }
+  shell::WindowState& Window() { return window_; }
+  core::ListOptions& Options() { return options_; }
+  dialog::ScriptSession& Script() { return script_; }
+  const core::StatusTexts& Texts() const { return texts_; }
+  core::ListContext List() { return {state_, frontEnd_, preview_}; }
+  rename::ActionContext Actions() { return {List(), texts_, script_, system_.Files()}; }
+  commit::CommitContext Commit() { return {state_, system_.Files(), frontEnd_, options_, texts_}; }
+  core::ListLoad& Load() { return load_; }
   QtFrontEnd& FrontEnd() { return frontEnd_; }
   const lang::MessageCatalog& Catalog() const { return catalog_; }
   FileListModel& ListModel() { return *listModel_; }
   ThumbnailCache& Thumbnails() { return *thumbnails_; }
-  const MainWindowSettings& Settings() const { return settings_; }
+  const shell::MainWindowSettings& Settings() const { return settings_; }
 
   // The engine's refresh, then the views, the detail fields, the command
   // states and the status text follow it.
@@ -232,22 +232,22 @@ class MainWindow final : public QMainWindow {
   formats::IniFile SettingsFile() const { return formats::IniFile(system_.Files(), paths_.settingsPath); }
 
   platform::Platform& system_;
-  ExifDateReader& exifDates_;
+  core::ExifDateReader& exifDates_;
   lang::MessageCatalog catalog_;
   QtFrontEnd frontEnd_;
-  ListOptions options_;
-  StatusTexts texts_;
-  ListState state_;
-  WindowState window_;
-  ScriptSession script_;
-  WindowPreview preview_{state_, window_, script_, frontEnd_, texts_};
+  core::ListOptions options_;
+  core::StatusTexts texts_;
+  core::ListState state_;
+  shell::WindowState window_;
+  dialog::ScriptSession script_;
+  shell::WindowPreview preview_{state_, window_, script_, frontEnd_, texts_};
   PumpingProgress progress_{frontEnd_};
-  ListLoad load_{state_, system_.Files(), frontEnd_, progress_, exifDates_, options_, texts_};
-  DiskCommitter committer_{Commit()};
-  StartupPaths paths_;
+  core::ListLoad load_{state_, system_.Files(), frontEnd_, progress_, exifDates_, options_, texts_};
+  commit::DiskCommitter committer_{Commit()};
+  shell::StartupPaths paths_;
   QString appTitle_;
   QString version_;
-  MainWindowSettings settings_;
+  shell::MainWindowSettings settings_;
 
   ThumbnailCache* thumbnails_ = nullptr;
   FileListModel* listModel_ = nullptr;

@@ -237,7 +237,7 @@ void MainWindow::BuildToolBars() {
   mainBar_ = new QToolBar(kMainBar, this);
   mainBar_->setObjectName(kMainBar);
   addToolBar(Qt::TopToolBarArea, mainBar_);
-  for (const std::string& key : MainToolBarKeys()) {
+  for (const std::string& key : shell::MainToolBarKeys()) {
     if (key.empty()) {
       mainBar_->addSeparator();
       continue;

@@ -14,9 +14,9 @@ namespace nomra::ui {
 
 void MainWindow::CollectLayout() {
   const double dpi = logicalDpiX();
-  for (int head = 1; head <= kColumnHeadCount; ++head) {
+  for (int head = 1; head <= shell::kColumnHeadCount; ++head) {
     const int column = head - 1;
-    settings_.columnWidths[column] = details_->isColumnHidden(column) ? 0 : PixelsToTwips(details_->columnWidth(column), dpi);
+    settings_.columnWidths[column] = details_->isColumnHidden(column) ? 0 : shell::PixelsToTwips(details_->columnWidth(column), dpi);
   }
   settings_.previewStyle = view_ == ListView::Details        ? kDetailsStyle
                            : view_ == ListView::DetailsIcons ? kDetailsIconsStyle
@@ -24,10 +24,10 @@ void MainWindow::CollectLayout() {
   settings_.previewGridLines = MenuAction(kGridLinesEntry)->isChecked();
   settings_.ws = isMaximized() ? 2 : isMinimized() ? 1 : 0;
   if (settings_.ws == 0) {
-    settings_.x = PixelsToTwips(x(), dpi);
-    settings_.y = PixelsToTwips(y(), dpi);
-    settings_.w = PixelsToTwips(width(), dpi);
-    settings_.h = PixelsToTwips(height(), dpi);
+    settings_.x = shell::PixelsToTwips(x(), dpi);
+    settings_.y = shell::PixelsToTwips(y(), dpi);
+    settings_.w = shell::PixelsToTwips(width(), dpi);
+    settings_.h = shell::PixelsToTwips(height(), dpi);
   }
   settings_.splash = MenuAction(kShowSplashEntry)->isChecked() ? 1 : 0;
   settings_.btnbarMain = MenuAction(kShowMainBarEntry)->isChecked() ? 1 : 0;
@@ -40,9 +40,9 @@ void MainWindow::CollectLayout() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   CollectLayout();
-  const CloseDecision decision =
-      RunCloseSequence(settings_, {state_, frontEnd_, &committer_}, options_, SettingsFile(), script_.recording != 0, [this] { EndRecording(); });
-  if (decision == CloseDecision::Refuse) {
+  const shell::CloseDecision decision =
+      shell::RunCloseSequence(settings_, {state_, frontEnd_, &committer_}, options_, SettingsFile(), script_.recording != 0, [this] { EndRecording(); });
+  if (decision == shell::CloseDecision::Refuse) {
     event->ignore();
     // A Yes that took the changes has changed rows even when the close stops.
     RefreshPreview();

@@ -37,7 +37,7 @@ namespace nomra::ui {
 namespace {
 
 // Twelve digits, as the list's hidden sort texts are.
-std::string Padded(int value) { return text::FormatPadded(static_cast<std::uint64_t>(std::max(value, 0)), 12); }
+std::string Padded(int value) { return base::FormatPadded(static_cast<std::uint64_t>(std::max(value, 0)), 12); }
 
 }  // namespace
 
@@ -79,23 +79,23 @@ void MainWindow::ConnectCommands() {
 }
 
 void MainWindow::takeChanges() {
-  CommitServices services;
-  services.showNotRenamed = [this](const CommitResult& result) {
+  commit::CommitServices services;
+  services.showNotRenamed = [this](const commit::CommitResult& result) {
     NotRenamedDialog dialog(result, catalog_, this);
     dialog.RememberChoiceIn(script_, system_.Files(), frontEnd_);
     dialog.exec();
     return dialog.Choice();
   };
   services.showSelectAction = [this] { RunSelAction(this, system_, Actions(), &committer_, catalog_, "frmSelAction"); };
-  nomra::takeChanges(Commit(), preview_, ToEngineText(variants_.value(kTakeChangesKey)), services);
+  nomra::commit::takeChanges(Commit(), preview_, ToEngineText(variants_.value(kTakeChangesKey)), services);
   RefreshPreview();
 }
 
 void MainWindow::mnuEditMan() {
   const int position = SelectedPosition();
   if (position <= 0) return;
-  EditManDialog dialog(ToQString(state_.list.Item(position)[kColNewName]), catalog_, this);
-  if (dialog.exec() == QDialog::Accepted && ApplyManualEdit(List(), position, ToEngineText(dialog.Text()))) {
+  EditManDialog dialog(ToQString(state_.list.Item(position)[core::kColNewName]), catalog_, this);
+  if (dialog.exec() == QDialog::Accepted && core::ApplyManualEdit(List(), position, ToEngineText(dialog.Text()))) {
     RefreshPreview();
   }
 }
@@ -112,10 +112,10 @@ void MainWindow::mnuOptions() {
 
 void MainWindow::mnuExperts() {
   if (options_.expertMode) return;
-  const Message question{"MsgText33", "msgCapAttention", MessageStyle::YesNoWarningDefaultNo, {}};
-  const Message warning{"MsgText34", "", MessageStyle::YesNoWarningDefaultNo, {}};
-  const Answer answer = frontEnd_.AskText(question, frontEnd_.TextOf(question) + '\n' + frontEnd_.TextOf(warning));
-  if (answer != Answer::Yes) return;
+  const core::Message question{"MsgText33", "msgCapAttention", core::MessageStyle::YesNoWarningDefaultNo, {}};
+  const core::Message warning{"MsgText34", "", core::MessageStyle::YesNoWarningDefaultNo, {}};
+  const core::Answer answer = frontEnd_.AskText(question, frontEnd_.TextOf(question) + '\n' + frontEnd_.TextOf(warning));
+  if (answer != core::Answer::Yes) return;
   options_.expertMode = true;
   ApplyExpertMode();
 }
@@ -124,7 +124,7 @@ void MainWindow::mnuExperts() {
 void MainWindow::mnuCopyText(int column) {
   const int position = SelectedPosition();
   if (position <= 0) return;
-  const FileEntry& row = state_.list.Item(position);
+  const core::FileEntry& row = state_.list.Item(position);
   QApplication::clipboard()->setText(ToQString(column < 0 ? row.key : row[column]));
 }
 
@@ -146,13 +146,13 @@ void MainWindow::SetIconSizeEntry(int entry) {
 void MainWindow::ToggleColumn(int entry) {
   const bool show = MenuAction(ControlArrayMember(kColumnFamily, entry))->isChecked();
   details_->setColumnHidden(entry, !show);
-  if (show) details_->setColumnWidth(entry, TwipsToPixels(entry == kColSize ? 1400 : 1800, logicalDpiX()));
+  if (show) details_->setColumnWidth(entry, shell::TwipsToPixels(entry == core::kColSize ? 1400 : 1800, logicalDpiX()));
 }
 
 void MainWindow::SetGridLines(bool on) { details_->setShowGrid(on); }
 
 void MainWindow::OnHeadClicked(int section) {
-  ClickColumnHead(state_.list, frontEnd_, section + 1);
+  core::ClickColumnHead(state_.list, frontEnd_, section + 1);
   listModel_->Reload();
   RestoreSelection();
   UpdateSortIndicators();
@@ -162,14 +162,14 @@ void MainWindow::OnHeadClicked(int section) {
 void MainWindow::OnRowDropped(int dragged, int target) {
   if (dragged == target) return;
   state_.list.MoveRow(dragged, target);
-  state_.list.sortKey = kColListPosition;
+  state_.list.sortKey = core::kColListPosition;
   lastSelectedIndex_ = target;
   RefreshPreview();
 }
 
 void MainWindow::OnLabelEdited(int position, const QString& text) {
   labelEditing_ = false;
-  ApplyLabelEdit(List(), position, ToEngineText(text));
+  core::ApplyLabelEdit(List(), position, ToEngineText(text));
   RefreshPreview();
 }
 
@@ -183,15 +183,15 @@ void MainWindow::OnIconLayoutChanged() {
   std::string previous;
   for (int position = 1; position <= count; ++position) {
     const QRect place = icons_->visualRect(listModel_->index(position - 1, 0));
-    FileEntry& row = state_.list.Item(position);
-    row[kColSortKey] = Padded(place.top() + dy) + "x" + Padded(place.left() + dx);
-    if (!previous.empty() && row[kColSortKey] < previous) moved = true;
-    previous = row[kColSortKey];
+    core::FileEntry& row = state_.list.Item(position);
+    row[core::kColSortKey] = Padded(place.top() + dy) + "x" + Padded(place.left() + dx);
+    if (!previous.empty() && row[core::kColSortKey] < previous) moved = true;
+    previous = row[core::kColSortKey];
   }
   if (!moved) return;
   state_.list.sortOrder = 0;
-  SortRowsByColumn(state_.list, kColSortKey);
-  state_.list.sortKey = kColListPosition;
+  core::SortRowsByColumn(state_.list, core::kColSortKey);
+  state_.list.sortKey = core::kColListPosition;
   RefreshPreview();
 }
 

@@ -56,17 +56,17 @@ void MainWindow::BuildCommandTables() {
   mainTool(kDelListKey, [this] {
     window_.delListTag = ToEngineText(variants_.value(kDelListKey));
     UpdateToolTips();
-    deleteFromList(List(), &committer_, window_.delListTag);
+    core::deleteFromList(List(), &committer_, window_.delListTag);
     if (state_.list.Empty()) picture_->clear();
     RefreshPreview();
   });
   mainTool(kTakeChangesKey, [this] { takeChanges(); });
   mainTool(kRejectChangesKey, [this] {
-    mnuRejectChanges(List(), options_.securityQuestions[2]);
+    core::mnuRejectChanges(List(), options_.securityQuestions[2]);
     RefreshPreview();
   });
   mainTool(kUndoKey, [this] {
-    mnuUndo(List(), options_.securityQuestions[0]);
+    core::mnuUndo(List(), options_.securityQuestions[0]);
     RefreshPreview();
   });
   mainTool(kOptionsKey, [this] { mnuOptions(); });
@@ -104,7 +104,7 @@ void MainWindow::BuildCommandTables() {
   tool(kLeftBar, kEditManKey, [this] { mnuEditMan(); });
   tool(kLeftBar, kDelListKey, [this] {
     const int position = SelectedPosition();
-    if (position > 0) btnBarLeftDel1File(List(), &committer_, position);
+    if (position > 0) core::btnBarLeftDel1File(List(), &committer_, position);
     RefreshPreview();
   });
   tool(kLeftBar, kCancelActionKey, [this] { CancelAction(); });
@@ -134,8 +134,8 @@ void MainWindow::BuildCommandTables() {
   menu(kRejectChangesEntry, [this] { RunMainToolKey(kRejectChangesKey); });
   menu(kUndoEntry, [this] { RunMainToolKey(kUndoKey); });
   menu(kEditManEntry, [this] { mnuEditMan(); });
-  menu(kCopyOldNameEntry, [this] { mnuCopyText(kColOldName); });
-  menu(kCopyNewNameEntry, [this] { mnuCopyText(kColNewName); });
+  menu(kCopyOldNameEntry, [this] { mnuCopyText(core::kColOldName); });
+  menu(kCopyNewNameEntry, [this] { mnuCopyText(core::kColNewName); });
   menu(kCopyPathEntry, [this] { mnuCopyText(-1); });
   menu(kInfoEntry, [this] { mnuInfo(); });
   menu(kHistoryEntry, [this] {
@@ -154,13 +154,13 @@ void MainWindow::BuildCommandTables() {
   // The check is all there is to it: the close stores it.
   menu(kShowSplashEntry, [] {});
   menu(kUnsortedEntry, [this] {
-    mnuViewSortingUnsorted(state_.list, frontEnd_);
+    core::mnuViewSortingUnsorted(state_.list, frontEnd_);
     listModel_->Reload();
     RestoreSelection();
     UpdateSortIndicators();
   });
   numberedMenuCommands_.insert(kSortFamily, [this](int entry) {
-    mnuViewSortingSorted(state_.list, frontEnd_, entry);
+    core::mnuViewSortingSorted(state_.list, frontEnd_, entry);
     listModel_->Reload();
     RestoreSelection();
     UpdateSortIndicators();

@@ -58,7 +58,7 @@ void MainWindow::OpenFilesDialog(open::OpenMode mode) {
   try {
     const long stored = SettingsFile().ReadInt(settings::kSettingsSection, settings::kLastFilterKey);
     if (stored >= 1) filesFilterIndex = static_cast<int>(stored);
-  } catch (const RuntimeFault&) {
+  } catch (const base::RuntimeFault&) {
     // A damaged index shows the first row, as a missing one does.
   }
   if (mode == open::OpenMode::Files) {
@@ -103,10 +103,10 @@ void MainWindow::ShowFrmOpen() {
 }
 
 void MainWindow::RunCommandLine(const std::vector<std::string>& arguments) {
-  CommandLineSwitches switches;
+  shell::CommandLineSwitches switches;
   switches.openFromFile = [this](const std::string& path) { open::LoadPlaylist(load_, preview_, path); };
   switches.runScript = [this](const std::string& name) { RunScriptFromCommandLine(name); };
-  RunLoad([&] { nomra::RunCommandLine(arguments, load_, switches); });
+  RunLoad([&] { nomra::shell::RunCommandLine(arguments, load_, switches); });
 }
 
 void MainWindow::RunLoad(const std::function<void()>& load) {

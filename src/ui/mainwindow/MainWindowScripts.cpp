@@ -33,12 +33,12 @@ ActionWindowServices MainWindow::ActionServices() {
 void MainWindow::OpenAction(int stepType) { OpenActionWindow(stepType, ActionServices()); }
 
 void MainWindow::PlayScriptSteps() {
-  RunShowingFault(frontEnd_, [this] { PlayScript(script_, system_.Files(), [this](int stepType) { OpenAction(stepType); }); });
+  RunShowingFault(frontEnd_, [this] { script::PlayScript(script_, system_.Files(), [this](int stepType) { OpenAction(stepType); }); });
   RefreshPreview();
 }
 
 void MainWindow::mnuStartRecordScript() {
-  BeginScriptRecording(script_, system_.Files());
+  script::BeginScriptRecording(script_, system_.Files());
   RefreshPreview();
 }
 
@@ -49,7 +49,7 @@ void MainWindow::mnuStopRecordScript() {
 
 void MainWindow::EndRecording() {
   RunShowingFault(frontEnd_, [this] {
-    if (EndScriptRecording(script_, system_.Files(), frontEnd_, LocalTimeNow)) FillScriptMenu();
+    if (script::EndScriptRecording(script_, system_.Files(), frontEnd_, base::LocalTimeNow)) FillScriptMenu();
   });
 }
 
@@ -62,7 +62,7 @@ void MainWindow::mnuStartRunScript() {
 
 void MainWindow::RunSelectedScriptButton() {
   RunShowingFault(frontEnd_, [this] {
-    PlaySelectedScript(window_, texts_, script_, system_.Files(), ToEngineText(selectedScriptFile_),
+    shell::PlaySelectedScript(window_, texts_, script_, system_.Files(), ToEngineText(selectedScriptFile_),
                        [this](int stepType) { OpenAction(stepType); });
   });
   selectedScript_->setText(ToQString(window_.selectedScriptLabel));
@@ -72,7 +72,7 @@ void MainWindow::RunSelectedScriptButton() {
 void MainWindow::FillScriptMenu() {
   QMenu* menu = ToolAction(kScriptBar, kRunSelectedKey)->menu();
   menu->clear();
-  for (const StoredScript& script : ListStoredScripts(system_.Files(), script_.dataFolder)) {
+  for (const script::StoredScript& script : script::ListStoredScripts(system_.Files(), script_.dataFolder)) {
     QAction* entry = menu->addAction(ToQString(script.displayText));
     const QString file = ToQString(script.fileName);
     entry->setProperty(kScriptFileProperty, file);
@@ -87,7 +87,7 @@ void MainWindow::FillScriptMenu() {
 }
 
 void MainWindow::RunScriptFromCommandLine(const std::string& name) {
-  RunScriptArgument(script_, system_.Files(), name, [this](int stepType) { OpenAction(stepType); });
+  script::RunScriptArgument(script_, system_.Files(), name, [this](int stepType) { OpenAction(stepType); });
 }
 
 }  // namespace nomra::ui

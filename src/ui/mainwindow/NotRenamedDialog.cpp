@@ -31,7 +31,7 @@ constexpr char kChoiceGroup[] = "choice";
 
 }  // namespace
 
-QString ReportRowText(const ReportRow& row, const lang::MessageCatalog& catalog) {
+QString ReportRowText(const commit::ReportRow& row, const lang::MessageCatalog& catalog) {
   std::string text = catalog.GetText(lang::kMessagesSection, row.textKey, row.arguments);
   if (text.empty()) return ToQString(row.Describe());
   if (!row.systemText.empty()) text += "   " + row.systemText;
@@ -39,7 +39,7 @@ QString ReportRowText(const ReportRow& row, const lang::MessageCatalog& catalog)
   return ToQString(text);
 }
 
-NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::MessageCatalog& catalog, QWidget* parent)
+NotRenamedDialog::NotRenamedDialog(const commit::CommitResult& result, const lang::MessageCatalog& catalog, QWidget* parent)
     : QDialog(parent) {
   setObjectName(kName);
   setWindowTitle("Not renamed");
@@ -51,7 +51,7 @@ NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::Messa
   notRenamed->setHeaderLabels({"No.", "Message"});
   notRenamed->setRootIsDecorated(false);
   notRenamed->setWordWrap(true);
-  for (const ReportRow& row : result.notRenamed) {
+  for (const commit::ReportRow& row : result.notRenamed) {
     auto* item = new QTreeWidgetItem(notRenamed);
     item->setText(0, QString::number(row.number));
     item->setText(1, ReportRowText(row, catalog));
@@ -77,7 +77,7 @@ NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::Messa
 
   QPushButton* ok = AddOkCancelRow(*this, *layout);
   connect(ok, &QPushButton::clicked, this, [this] {
-    choice_ = removeRenamed_->isChecked() ? NotRenamedChoice::RemoveRenamed : NotRenamedChoice::NoAction;
+    choice_ = removeRenamed_->isChecked() ? commit::NotRenamedChoice::RemoveRenamed : commit::NotRenamedChoice::NoAction;
     if (session_ != nullptr) {
       ReadWidgetsIntoModel(model_, *this);
       dialog::StoreDialogState(model_, model_.Name(), dialog::kSettingsMode, *session_, *fileSystem_);
@@ -93,8 +93,8 @@ NotRenamedDialog::NotRenamedDialog(const CommitResult& result, const lang::Messa
   LocaliseDialog(*this, catalog, parent, QString());
 }
 
-void NotRenamedDialog::RememberChoiceIn(const ScriptSession& session, platform::FileSystem& fileSystem,
-                                        FrontEnd& frontEnd) {
+void NotRenamedDialog::RememberChoiceIn(const dialog::ScriptSession& session, platform::FileSystem& fileSystem,
+                                        core::FrontEnd& frontEnd) {
   session_ = &session;
   fileSystem_ = &fileSystem;
   ReadWidgetsIntoModel(model_, *this);

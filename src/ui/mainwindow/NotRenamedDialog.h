@@ -14,7 +14,7 @@ namespace nomra::ui {
 
 // The report row's message in the user's language; without a text, a plain
 // English rendering.
-QString ReportRowText(const ReportRow& row, const lang::MessageCatalog& catalog);
+QString ReportRowText(const commit::ReportRow& row, const lang::MessageCatalog& catalog);
 
 // frmNotRenamed: the renames that didn't happen, and what to do with the
 // rows that did: leave them in the list, or take them out.
@@ -24,22 +24,22 @@ class NotRenamedDialog final : public QDialog {
   // The form's name, which is also the section of its remembered choice.
   static constexpr char kName[] = "frmNotRenamed";
 
-  NotRenamedDialog(const CommitResult& result, const lang::MessageCatalog& catalog, QWidget* parent = nullptr);
+  NotRenamedDialog(const commit::CommitResult& result, const lang::MessageCatalog& catalog, QWidget* parent = nullptr);
 
   // What cmdOK chose; cmdCancel always gives NoAction.
-  NotRenamedChoice Choice() const { return choice_; }
+  commit::NotRenamedChoice Choice() const { return choice_; }
 
   // Shows the choice of the last OK, and stores this one on OK, in the
   // settings under the dialog's name.
-  void RememberChoiceIn(const ScriptSession& session, platform::FileSystem& fileSystem, FrontEnd& frontEnd);
+  void RememberChoiceIn(const dialog::ScriptSession& session, platform::FileSystem& fileSystem, core::FrontEnd& frontEnd);
 
  private:
   dialog::DialogModel model_{kName};
-  const ScriptSession* session_ = nullptr;
+  const dialog::ScriptSession* session_ = nullptr;
   platform::FileSystem* fileSystem_ = nullptr;
   QRadioButton* noAction_ = nullptr;
   QRadioButton* removeRenamed_ = nullptr;
-  NotRenamedChoice choice_ = NotRenamedChoice::NoAction;
+  commit::NotRenamedChoice choice_ = commit::NotRenamedChoice::NoAction;
 };
 
 }  // namespace nomra::ui

@@ -6,11 +6,11 @@ namespace nomra::ui {
 
 // The progress of loading the list: each tick lets the window's events
 // through, so its cancel button is heard, and says stop once after a click.
-class PumpingProgress final : public Progress {
+class PumpingProgress final : public core::Progress {
  public:
-  explicit PumpingProgress(FrontEnd& frontEnd) : frontEnd_(frontEnd) {}
+  explicit PumpingProgress(core::FrontEnd& frontEnd) : frontEnd_(frontEnd) {}
 
-  bool Tick(const ProgressStep&) override {
+  bool Tick(const core::ProgressStep&) override {
     frontEnd_.Pump();
     const bool stop = stopRequested_;
     stopRequested_ = false;
@@ -22,7 +22,7 @@ class PumpingProgress final : public Progress {
   void Reset() { stopRequested_ = false; }
 
  private:
-  FrontEnd& frontEnd_;
+  core::FrontEnd& frontEnd_;
   bool stopRequested_ = false;
 };
 

@@ -16,7 +16,7 @@ namespace {
 // The rows of one group in name order, by the engine's rule of case.
 void SortByName(std::vector<std::string>& names) {
   std::stable_sort(names.begin(), names.end(),
-                   [](const std::string& a, const std::string& b) { return text::CompareNoCase(a, b) < 0; });
+                   [](const std::string& a, const std::string& b) { return base::CompareNoCase(a, b) < 0; });
 }
 
 }  // namespace
@@ -36,7 +36,7 @@ std::vector<FolderRow> ListFolderRows(platform::FileSystem& fileSystem, const st
   });
   SortByName(folderNames);
   SortByName(fileNames);
-  const std::string base = AddBackslash(folder);
+  const std::string base = base::AddBackslash(folder);
   std::vector<FolderRow> rows;
   rows.reserve(folderNames.size() + fileNames.size());
   for (const std::string& name : folderNames) rows.push_back({base + name, ToQString(name), true});

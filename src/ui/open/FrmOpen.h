@@ -35,7 +35,7 @@ class FrmOpen final : public QDialog {
 
   struct Services {
     platform::FileSystem& fileSystem;
-    FrontEnd& frontEnd;
+    core::FrontEnd& frontEnd;
     const lang::MessageCatalog& catalog;
     formats::IniFile settingsFile;
   };

@@ -81,8 +81,8 @@ void FrmOpen::EditFilter() {
 void FrmOpen::DeleteFilter() {
   const int index = filterList_->currentRow();
   if (index <= 0 || index >= static_cast<int>(filters_.size())) return;
-  const Message question{"MsgText16", "MsgCap07", MessageStyle::YesNoWarningDefaultNo, {}};
-  if (services_.frontEnd.Ask(question) != Answer::Yes) return;
+  const core::Message question{"MsgText16", "MsgCap07", core::MessageStyle::YesNoWarningDefaultNo, {}};
+  if (services_.frontEnd.Ask(question) != core::Answer::Yes) return;
   // Clearing its check first lets "*.*" take over when it was the last one checked.
   open::SetFilterChecked(filters_, index, false);
   filters_.erase(filters_.begin() + index);

@@ -33,14 +33,14 @@ std::string FromBytes(const QVariant& value) {
 
 // Without a separator at the end, except for the root itself.
 std::string Trimmed(std::string path) {
-  while (path.size() > 1 && path.back() == kPathSeparator) path.pop_back();
+  while (path.size() > 1 && path.back() == base::kPathSeparator) path.pop_back();
   return path;
 }
 
 // The folder above; above the root come the locations, "".
 std::string ParentOf(const std::string& path) {
   if (path == "/") return {};
-  return Trimmed(FolderOf(path));
+  return Trimmed(base::FolderOf(path));
 }
 
 }  // namespace
@@ -82,7 +82,7 @@ void FrmOpen::FillLocations() {
   for (std::string level = folder_; !level.empty(); level = ParentOf(level)) levels.insert(levels.begin(), level);
   for (std::size_t depth = 0; depth < levels.size(); ++depth) {
     const std::string& level = levels[depth];
-    const std::string name = level == "/" ? level : NameOf(level);
+    const std::string name = level == "/" ? level : base::NameOf(level);
     const bool last = depth + 1 == levels.size();
     locations_->addItem(last ? icons_.OpenFolder() : icons_.ClosedFolder(), ToQString(name), Bytes(level));
     locations_->setItemData(locations_->count() - 1, static_cast<int>(depth + 1), kDepthRole);
@@ -111,7 +111,7 @@ void FrmOpen::Add2lstFiles() {
         AddRow(place.kind == LocationKind::Home ? icons_.Home() : icons_.Drive(), place.text, ToEngineText(place.path), true);
       }
     } else {
-      const std::string shown = AddBackslash(folder_);
+      const std::string shown = base::AddBackslash(folder_);
       for (const FolderRow& row : ListFolderRows(services_.fileSystem, folder_, open::CheckedPattern(filters_), showHiddenFiles_)) {
         const QIcon icon = row.folder ? icons_.ClosedFolder() : icons_.ForFile(ToQString(shown + row.key));
         AddRow(icon, row.text, row.key, row.folder);
@@ -153,7 +153,7 @@ void FrmOpen::InvertSelection() {
 }
 
 void FrmOpen::cmdOpen() {
-  BusyPointer busy(services_.frontEnd);
+  core::BusyPointer busy(services_.frontEnd);
   open::FolderSelection selection;
   selection.folder = folder_;
   for (int row = 0; row < rows_->count(); ++row) {
@@ -176,7 +176,7 @@ void FrmOpen::cmdOpen() {
   open::WritePowerFilters(filters_, services_.settingsFile);
   accept();
   if (!staged_.empty() && !atLocations_) {
-    services_.settingsFile.Write(settings::kSettingsSection, settings::kLastPathKey, AddBackslash(folder_));
+    services_.settingsFile.Write(settings::kSettingsSection, settings::kLastPathKey, base::AddBackslash(folder_));
   }
 }
 

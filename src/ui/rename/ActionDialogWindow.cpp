@@ -22,7 +22,7 @@ constexpr char kRunCaptionKey[] = "FrmRunCaption";
 
 }  // namespace
 
-ActionDialogWindow::ActionDialogWindow(std::unique_ptr<ActionDialog> action, ActionWindowServices services)
+ActionDialogWindow::ActionDialogWindow(std::unique_ptr<rename::ActionDialog> action, ActionWindowServices services)
     : QDialog(services.mainWindow), action_(std::move(action)), services_(std::move(services)) {
   setObjectName(ToQString(action_->Traits().dialogName));
   setModal(true);
@@ -48,7 +48,7 @@ void ActionDialogWindow::FinishBuilding() {
   AfterLocalised();
   for (QLineEdit* edit : findChildren<QLineEdit*>()) edit->installEventFilter(this);
   // The model holds what the dialog shows when nothing is stored.
-  LoadActionDialog(*action_, services_.context);
+  rename::LoadActionDialog(*action_, services_.context);
   ShowModelInWidgets(action_->Model(), *this);
   AfterInputsShown();
 }
@@ -61,7 +61,7 @@ void ActionDialogWindow::showEvent(QShowEvent* event) {
 }
 
 void ActionDialogWindow::OnFirstActivation() {
-  const ScriptSession& session = services_.context.script;
+  const dialog::ScriptSession& session = services_.context.script;
   const bool playing = session.runMode == 1 || session.runMode == 2;
   if (playing) {
     const std::string runCaption = services_.catalog.GetText(kScriptDialogName, kRunCaptionKey);
@@ -69,7 +69,7 @@ void ActionDialogWindow::OnFirstActivation() {
     ok_->setFocus();
   }
   ReadWidgetsIntoModel(action_->Model(), *this);
-  const bool okAtOnce = ActivateActionDialog(*action_, services_.context, true);
+  const bool okAtOnce = rename::ActivateActionDialog(*action_, services_.context, true);
   ShowModelInWidgets(action_->Model(), *this);
   AfterInputsShown();
   // Once the dialog's own loop runs, so that the close ends it.
@@ -83,7 +83,7 @@ void ActionDialogWindow::cmdApply() {
     apply_->setEnabled(false);
     ok_->setEnabled(false);
   }
-  RunShowingFault(services_.context.User(), [this] { ApplyActionDialog(*action_, services_.context); });
+  RunShowingFault(services_.context.User(), [this] { rename::ApplyActionDialog(*action_, services_.context); });
   // An action may tidy its inputs while it runs; the dialog shows them so.
   ShowModelInWidgets(action_->Model(), *this);
   AfterInputsShown();

@@ -15,7 +15,7 @@ namespace nomra::ui {
 
 // What an action dialog's window needs from the main window.
 struct ActionWindowServices {
-  ActionContext context;
+  rename::ActionContext context;
   const lang::MessageCatalog& catalog;
   QWidget* mainWindow = nullptr;  // parent, and the source of borrowed captions
   QString appTitle;
@@ -29,10 +29,10 @@ struct ActionWindowServices {
 class ActionDialogWindow : public QDialog {
   Q_OBJECT
  public:
-  ActionDialogWindow(std::unique_ptr<ActionDialog> action, ActionWindowServices services);
+  ActionDialogWindow(std::unique_ptr<rename::ActionDialog> action, ActionWindowServices services);
   ~ActionDialogWindow() override;
 
-  ActionDialog& Action() { return *action_; }
+  rename::ActionDialog& Action() { return *action_; }
   // The caption the dialog has when no script plays it.
   const QString& UsualCaption() const { return usualCaption_; }
 
@@ -56,7 +56,7 @@ class ActionDialogWindow : public QDialog {
  private:
   void OnFirstActivation();
 
-  std::unique_ptr<ActionDialog> action_;
+  std::unique_ptr<rename::ActionDialog> action_;
   ActionWindowServices services_;
   QVBoxLayout* inputArea_ = nullptr;
   QPushButton* apply_ = nullptr;

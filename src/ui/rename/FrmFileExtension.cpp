@@ -29,7 +29,7 @@ class ExtensionKeyFilter final : public QObject {
 }  // namespace
 
 FrmFileExtension::FrmFileExtension(ActionWindowServices services)
-    : ActionDialogWindow(std::make_unique<ExtensionDialog>(), std::move(services)) {
+    : ActionDialogWindow(std::make_unique<rename::ExtensionDialog>(), std::move(services)) {
   setWindowTitle("File extension");
   auto* grid = new QGridLayout;
   change_ = new QRadioButton("&Change the extension to:", this);

@@ -13,7 +13,7 @@
 namespace nomra::ui {
 
 FrmPrefixSuffix::FrmPrefixSuffix(ActionWindowServices services)
-    : ActionDialogWindow(std::make_unique<PrefixSuffixDialog>(), std::move(services)) {
+    : ActionDialogWindow(std::make_unique<rename::PrefixSuffixDialog>(), std::move(services)) {
   setWindowTitle("Prefix/Suffix");
   auto* filter = new NameKeyFilter(this);
   auto* grid = new QGridLayout;
@@ -32,7 +32,7 @@ FrmPrefixSuffix::FrmPrefixSuffix(ActionWindowServices services)
 }
 
 void FrmPrefixSuffix::AfterLocalised() {
-  const auto labels = PrefixSuffixLabels(ToEngineText(UsualCaption()));
+  const auto labels = rename::PrefixSuffixLabels(ToEngineText(UsualCaption()));
   if (!labels) return;
   prefixLabel_->setText(ToQString(labels->first));
   suffixLabel_->setText(ToQString(labels->second));

@@ -30,7 +30,7 @@ QGroupBox* AddOptionGroup(QWidget& parent, const char* frameName, const QString&
 }  // namespace
 
 FrmULCase::FrmULCase(ActionWindowServices services)
-    : ActionDialogWindow(std::make_unique<CaseDialog>(), std::move(services)) {
+    : ActionDialogWindow(std::make_unique<rename::CaseDialog>(), std::move(services)) {
   setWindowTitle("Upper/lower case");
   auto* row = new QHBoxLayout;
   row->addWidget(AddOptionGroup(*this, "frameOpt", "Conversion", kConversionOptions,

@@ -15,7 +15,7 @@
 
 namespace nomra::ui {
 
-FrmScript::FrmScript(ScriptSession& session, platform::FileSystem& fileSystem, FrontEnd& frontEnd,
+FrmScript::FrmScript(dialog::ScriptSession& session, platform::FileSystem& fileSystem, core::FrontEnd& frontEnd,
                      const lang::MessageCatalog& catalog, QWidget* mainWindow,
                      const QString& appTitle)
     : QDialog(mainWindow), chooser_(session, fileSystem, frontEnd) {

@@ -16,7 +16,7 @@ namespace nomra::ui {
 class FrmScript final : public QDialog {
   Q_OBJECT
  public:
-  FrmScript(ScriptSession& session, platform::FileSystem& fileSystem, FrontEnd& frontEnd,
+  FrmScript(dialog::ScriptSession& session, platform::FileSystem& fileSystem, core::FrontEnd& frontEnd,
             const lang::MessageCatalog& catalog, QWidget* mainWindow, const QString& appTitle);
 
   void cmdStart();
@@ -25,7 +25,7 @@ class FrmScript final : public QDialog {
  private:
   void ShowChooser();
 
-  ScriptChooser chooser_;
+  script::ScriptChooser chooser_;
   QListWidget* scripts_ = nullptr;
   QPushButton* start_ = nullptr;
 };

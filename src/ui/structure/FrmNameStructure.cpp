@@ -150,10 +150,10 @@ void FrmNameStructure::ShowEditor() {
 }
 
 void FrmNameStructure::ShowStructureRows() {
-  const std::vector<StoredStructure>& stored = editor_.Structures();
+  const std::vector<structure::StoredStructure>& stored = editor_.Structures();
   const QSignalBlocker block(structures_);
   structures_->clear();
-  for (const StoredStructure& row : stored) {
+  for (const structure::StoredStructure& row : stored) {
     structures_->addTopLevelItem(
         new QTreeWidgetItem({ToQString(row.name), ToQString(row.structure)}));
   }

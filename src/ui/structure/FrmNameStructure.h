@@ -22,7 +22,7 @@ class FrmNameStructure final : public QDialog {
  public:
   explicit FrmNameStructure(ActionWindowServices services);
 
-  NameStructureEditor& Editor() { return editor_; }
+  structure::NameStructureEditor& Editor() { return editor_; }
 
   void cmdStructureAdd();
   void cmdStructureEdit();
@@ -43,7 +43,7 @@ class FrmNameStructure final : public QDialog {
   void FocusFailedStructure();
 
   ActionWindowServices services_;
-  NameStructureEditor editor_;
+  structure::NameStructureEditor editor_;
   QGroupBox* frameMain_ = nullptr;
   QGroupBox* frameEdit_ = nullptr;
   QTreeWidget* structures_ = nullptr;

@@ -17,14 +17,14 @@ class FrmSelNamePart final : public QDialog {
  public:
   FrmSelNamePart(QLineEdit& target, const ActionWindowServices& services);
 
-  NamePartPicker& Picker() { return picker_; }
+  structure::NamePartPicker& Picker() { return picker_; }
 
   void cmdOK();
 
  private:
   void ShowPicker();
 
-  NamePartPicker picker_;
+  structure::NamePartPicker picker_;
   QPointer<QLineEdit> target_;
   QPushButton* ok_ = nullptr;
 };

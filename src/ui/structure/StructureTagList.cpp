@@ -26,9 +26,9 @@ StructureTagList::StructureTagList(const char* name, const char* head, QWidget* 
   setColumnWidth(0, 220);
 }
 
-void StructureTagList::ShowChoices(const std::vector<TagChoice>& choices) {
+void StructureTagList::ShowChoices(const std::vector<structure::TagChoice>& choices) {
   clear();
-  for (const TagChoice& choice : choices) {
+  for (const structure::TagChoice& choice : choices) {
     addTopLevelItem(new QTreeWidgetItem({ToQString(choice.label), ToQString(choice.tag)}));
   }
 }

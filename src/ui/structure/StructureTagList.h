@@ -14,7 +14,7 @@ class StructureTagList final : public QTreeWidget {
  public:
   StructureTagList(const char* name, const char* head, QWidget* parent);
 
-  void ShowChoices(const std::vector<TagChoice>& choices);
+  void ShowChoices(const std::vector<structure::TagChoice>& choices);
 
  protected:
   QMimeData* mimeData(const QList<QTreeWidgetItem*>& items) const override;

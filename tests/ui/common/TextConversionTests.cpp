@@ -106,12 +106,12 @@ TEST_F(NameBytesTest, FileWhoseNameIsNotUtf8IsListedAndItsNameConvertsBackToItsB
   AddFiles({name});
 
   ASSERT_EQ(ShownRows(), 1);
-  const QString shown = Shown(1, kColOldName).toString();
+  const QString shown = Shown(1, core::kColOldName).toString();
   EXPECT_TRUE(shown.contains(QChar(0xDCE9))) << shown.toStdString();
   EXPECT_TRUE(shown.contains(QChar(0xDCFF))) << shown.toStdString();
   EXPECT_EQ(ToEngineText(shown), name);
-  EXPECT_EQ(ToEngineText(Shown(1, kColNewName).toString()), name);
-  EXPECT_EQ(window->State().list.Item(1)[kColOldName], name);
+  EXPECT_EQ(ToEngineText(Shown(1, core::kColNewName).toString()), name);
+  EXPECT_EQ(window->State().list.Item(1)[core::kColOldName], name);
 }
 
 TEST_F(NameBytesTest, NameThatIsNotUtf8IsEditedByHandAndRenamedOnDiskWithItsBytes) {
@@ -130,7 +130,7 @@ TEST_F(NameBytesTest, NameThatIsNotUtf8IsEditedByHandAndRenamedOnDiskWithItsByte
   });
 
   Menu("mnuEditMan")->trigger();
-  ASSERT_EQ(window->State().list.Item(1)[kColNewName], "new " + name);
+  ASSERT_EQ(window->State().list.Item(1)[core::kColNewName], "new " + name);
   window->RunMainToolKey("TakeChanges");
 
   EXPECT_EQ(ReadWholeFile(files.Path() + "new " + name), name);
@@ -147,7 +147,7 @@ TEST_F(NameBytesTest, FileWhoseNameIsNotUtf8DroppedFromOutsideIsAdded) {
   EXPECT_TRUE(window->ListModel().dropMimeData(dropped.get(), Qt::CopyAction, -1, -1, {}));
 
   ASSERT_EQ(ShownRows(), 1);
-  EXPECT_EQ(ToEngineText(Shown(1, kColOldName).toString()), "caf\xE9.txt");
+  EXPECT_EQ(ToEngineText(Shown(1, core::kColOldName).toString()), "caf\xE9.txt");
 }
 
 }  // namespace

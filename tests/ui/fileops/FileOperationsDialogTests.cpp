@@ -43,7 +43,7 @@ class FileOperationsDialogTest : public nomra::testing::ListTest {
   }
   void Add(const std::string& name) {
     std::string path = files.WriteFile(name, name);
-    AddFile(load, path);
+    core::AddFile(load, path);
   }
   template <typename T>
   T* Child(QWidget& dialog, const char* name) {
@@ -141,8 +141,8 @@ TEST_F(FileOperationsDialogTest, FolderBrowserPutsItsChoiceIntoTheTargetPath) {
 
 TEST_F(FileOperationsDialogTest, ProgressTellsTheFileAndCancelStopsBeforeTheNext) {
   FileOperationProgress progress(english);
-  progress.Begin(ProgressStep{lang::kCopying, 0, 3, "", 0, 300});
-  ProgressStep step{lang::kCopying, 2, 3, "/x/b.txt", 150, 300};
+  progress.Begin(core::ProgressStep{lang::kCopying, 0, 3, "", 0, 300});
+  core::ProgressStep step{lang::kCopying, 2, 3, "/x/b.txt", 150, 300};
 
   EXPECT_TRUE(progress.Tick(step));
   EXPECT_EQ(progress.StepText(), "Copying file 2 of 3");
@@ -179,7 +179,7 @@ TEST_F(FileOperationsDialogTest, DeleteToTheTrashAfterTheYesTakesTheRowsAway) {
   nomra::testing::ScopedEnvironment dataHome("XDG_DATA_HOME", data.Path() + "share");
   options.expertMode = true;
   Add("a.txt");
-  frontEnd.answers = {Answer::Yes};
+  frontEnd.answers = {core::Answer::Yes};
 
   EXPECT_TRUE(DeleteListFiles(nullptr, *os, List(), options.expertMode, english, true));
 

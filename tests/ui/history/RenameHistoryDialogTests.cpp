@@ -33,11 +33,11 @@ class RenameHistoryDialog : public ::testing::Test {
  protected:
   RenameHistoryDialog() {
     options.dataFolder = data.Path();
-    frontEnd.SetAnswerer([this](const Message& message, const QString&, const QString& text) {
+    frontEnd.SetAnswerer([this](const core::Message& message, const QString&, const QString& text) {
       asked.push_back(message.textKey);
       shownTexts << text;
-      if (answers.empty()) return Answer::No;
-      const Answer answer = answers.front();
+      if (answers.empty()) return core::Answer::No;
+      const core::Answer answer = answers.front();
       answers.pop_front();
       return answer;
     });
@@ -66,11 +66,11 @@ class RenameHistoryDialog : public ::testing::Test {
   TempFolder data;
   TempFolder files;
   platform::PosixFileSystem fileSystem;
-  NoExifDates exifDates;
+  core::NoExifDates exifDates;
   lang::MessageCatalog catalog{nomra::testing::RealFiles(), EnglishFile()};
   QtFrontEnd frontEnd{catalog, "Nomra"};
-  ListOptions options;
-  std::deque<Answer> answers;
+  core::ListOptions options;
+  std::deque<core::Answer> answers;
   std::vector<std::string> asked;
   QStringList shownTexts;
 };
@@ -169,7 +169,7 @@ TEST_F(RenameHistoryDialog, UndoAfterYesRenamesBackAndTakesTheRowOut) {
   WriteProtocol({Record("a", "b"), Record("c", "d")});
   const auto dialog = Open();
   Files(*dialog).topLevelItem(0)->setSelected(true);
-  answers.push_back(Answer::Yes);
+  answers.push_back(core::Answer::Yes);
 
   Button(*dialog, "cmdUndoRenaming").click();
 
@@ -200,7 +200,7 @@ TEST_F(RenameHistoryDialog, FailedUndoShowsItsMessageWithBothPathsAndKeepsTheRow
   WriteProtocol({Record("a", "b")});
   const auto dialog = Open();
   Files(*dialog).topLevelItem(0)->setSelected(true);
-  answers.push_back(Answer::Yes);
+  answers.push_back(core::Answer::Yes);
 
   Button(*dialog, "cmdUndoRenaming").click();
 
@@ -220,7 +220,7 @@ TEST_F(RenameHistoryDialog, SortedThenUndoneWritesTheRestInTheOrderShown) {
   const auto dialog = Open();
   emit Files(*dialog).header()->sectionClicked(2);
   Files(*dialog).topLevelItem(1)->setSelected(true);
-  answers.push_back(Answer::Yes);
+  answers.push_back(core::Answer::Yes);
 
   Button(*dialog, "cmdUndoRenaming").click();
 
@@ -230,7 +230,7 @@ TEST_F(RenameHistoryDialog, SortedThenUndoneWritesTheRestInTheOrderShown) {
 TEST_F(RenameHistoryDialog, DeleteHistoryAfterYesEmptiesListAndProtocolAndDisablesItself) {
   WriteProtocol({Record("a", "b")});
   const auto dialog = Open();
-  answers.push_back(Answer::Yes);
+  answers.push_back(core::Answer::Yes);
 
   Button(*dialog, "cmdDeleteHistory").click();
 

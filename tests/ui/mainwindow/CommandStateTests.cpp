@@ -17,7 +17,7 @@ class CommandStateTest : public WindowTest {};
 TEST_F(CommandStateTest, EmptyListLeavesOnlyOpenAndOptionsEnabledOnTheMainBar) {
   Open();
   // Image preview would be enabled too, but its window isn't built yet.
-  for (const std::string& key : MainToolBarKeys()) {
+  for (const std::string& key : shell::MainToolBarKeys()) {
     if (key.empty()) continue;
     const QString name = QString::fromStdString(key);
     const bool expected = name == "OpenFile" || name == "Options";
@@ -62,9 +62,9 @@ TEST_F(CommandStateTest, PendingChangeShowsTheRowDarkRed) {
   SetNewName(PositionOf("a.txt"), "z.txt");
   window->RefreshPreview();
 
-  EXPECT_EQ(Shown(PositionOf("a.txt"), kColNewName).toString(), "z.txt");
-  EXPECT_EQ(Shown(PositionOf("a.txt"), kColOldName, Qt::ForegroundRole).value<QColor>(), QColor(128, 0, 0));
-  EXPECT_FALSE(Shown(PositionOf("b.txt"), kColOldName, Qt::ForegroundRole).isValid());
+  EXPECT_EQ(Shown(PositionOf("a.txt"), core::kColNewName).toString(), "z.txt");
+  EXPECT_EQ(Shown(PositionOf("a.txt"), core::kColOldName, Qt::ForegroundRole).value<QColor>(), QColor(128, 0, 0));
+  EXPECT_FALSE(Shown(PositionOf("b.txt"), core::kColOldName, Qt::ForegroundRole).isValid());
   EXPECT_EQ(Label("Status"), CountsText(2, 1, 1));
 }
 

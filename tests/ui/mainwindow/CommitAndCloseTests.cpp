@@ -29,8 +29,8 @@ TEST_F(CommitAndCloseTest, TakeChangesSwapsTwoNamesOnDisk) {
   EXPECT_EQ(ReadWholeFile(files.Path() + "a.txt"), "b.txt");
   EXPECT_EQ(ReadWholeFile(files.Path() + "b.txt"), "a.txt");
   for (int position = 1; position <= ShownRows(); ++position) {
-    EXPECT_FALSE(Shown(position, kColOldName, Qt::ForegroundRole).isValid()) << position;
-    EXPECT_EQ(Shown(position, kColOldName), Shown(position, kColNewName));
+    EXPECT_FALSE(Shown(position, core::kColOldName, Qt::ForegroundRole).isValid()) << position;
+    EXPECT_EQ(Shown(position, core::kColOldName), Shown(position, core::kColNewName));
   }
   EXPECT_EQ(Label("Status"), CountsText(2, 1, 0));
   EXPECT_FALSE(MainTool("TakeChanges")->isEnabled());
@@ -41,7 +41,7 @@ TEST_F(CommitAndCloseTest, CloseCancelledKeepsTheListAndTheFiles) {
   AddFiles({"a.txt", "b.txt"});
   SetNewName(PositionOf("a.txt"), "z.txt");
   window->RefreshPreview();
-  answers = {Answer::Cancel};
+  answers = {core::Answer::Cancel};
 
   EXPECT_FALSE(window->close());
 
@@ -49,8 +49,8 @@ TEST_F(CommitAndCloseTest, CloseCancelledKeepsTheListAndTheFiles) {
   EXPECT_EQ(asked[0].message.textKey, "MsgText03");
   EXPECT_TRUE(window->isVisible());
   EXPECT_EQ(ShownRows(), 2);
-  EXPECT_EQ(Shown(PositionOf("a.txt"), kColNewName).toString(), "z.txt");
-  EXPECT_EQ(Shown(PositionOf("a.txt"), kColOldName, Qt::ForegroundRole).value<QColor>(), QColor(128, 0, 0));
+  EXPECT_EQ(Shown(PositionOf("a.txt"), core::kColNewName).toString(), "z.txt");
+  EXPECT_EQ(Shown(PositionOf("a.txt"), core::kColOldName, Qt::ForegroundRole).value<QColor>(), QColor(128, 0, 0));
   EXPECT_EQ(ReadWholeFile(files.Path() + "a.txt"), "a.txt");
   EXPECT_FALSE(nomra::testing::Exists(files.Path() + "z.txt"));
 }
@@ -60,7 +60,7 @@ TEST_F(CommitAndCloseTest, CloseAnsweredNoGoesAheadWithoutRenaming) {
   AddFiles({"a.txt"});
   SetNewName(1, "z.txt");
   window->RefreshPreview();
-  answers = {Answer::No};
+  answers = {core::Answer::No};
 
   EXPECT_TRUE(window->close());
 

@@ -41,12 +41,12 @@ TEST(StartWindowTest, ShowsTheProgramsVersion) {
 class NotRenamedDialogTest : public ::testing::Test {
  protected:
   NotRenamedDialogTest() {
-    ReportRow exists;
+    commit::ReportRow exists;
     exists.number = 1;
     exists.rowKey = "/d/a.txt";
     exists.textKey = lang::kTargetExistsText;
     exists.arguments = {"\"/d/a.txt\"", "\"/d/b.txt\""};
-    ReportRow other;
+    commit::ReportRow other;
     other.number = 2;
     other.rowKey = "/d/c.txt";
     other.textKey = lang::kOtherFailureText;
@@ -55,13 +55,13 @@ class NotRenamedDialogTest : public ::testing::Test {
     result.renamed = {"/d/f.txt"};
   }
 
-  CommitResult result;
+  commit::CommitResult result;
   lang::MessageCatalog catalog{nomra::testing::RealFiles(), EnglishFile()};
 };
 
 TEST_F(NotRenamedDialogTest, ChoiceOfTheLastOkIsShownNextTime) {
   TempFolder data;
-  ScriptSession session;
+  dialog::ScriptSession session;
   session.dataFolder = data.Path();
   session.settingsPath = data.Path() + "settings.nrp";
   nomra::testing::ScriptedFrontEnd frontEnd;
@@ -83,7 +83,7 @@ TEST_F(NotRenamedDialogTest, ChoiceOfTheLastOkIsShownNextTime) {
 
 TEST_F(NotRenamedDialogTest, CancelStoresNoChoice) {
   TempFolder data;
-  ScriptSession session;
+  dialog::ScriptSession session;
   session.dataFolder = data.Path();
   session.settingsPath = data.Path() + "settings.nrp";
   nomra::testing::ScriptedFrontEnd frontEnd;
@@ -111,7 +111,7 @@ TEST_F(NotRenamedDialogTest, LeavingTheRowsIsChosenAtOpen) {
   NotRenamedDialog dialog(result, catalog);
   EXPECT_TRUE(dialog.findChild<QRadioButton*>("optNoAction")->isChecked());
   EXPECT_FALSE(dialog.findChild<QRadioButton*>("optRemoveRenamed")->isChecked());
-  EXPECT_EQ(dialog.Choice(), NotRenamedChoice::NoAction);
+  EXPECT_EQ(dialog.Choice(), commit::NotRenamedChoice::NoAction);
 }
 
 TEST_F(NotRenamedDialogTest, OkWithRemoveChosenRemovesTheRenamed) {
@@ -120,7 +120,7 @@ TEST_F(NotRenamedDialogTest, OkWithRemoveChosenRemovesTheRenamed) {
 
   dialog.findChild<QPushButton*>("cmdOK")->click();
 
-  EXPECT_EQ(dialog.Choice(), NotRenamedChoice::RemoveRenamed);
+  EXPECT_EQ(dialog.Choice(), commit::NotRenamedChoice::RemoveRenamed);
 }
 
 TEST_F(NotRenamedDialogTest, CancelLeavesTheRowsWhateverWasChosen) {
@@ -129,7 +129,7 @@ TEST_F(NotRenamedDialogTest, CancelLeavesTheRowsWhateverWasChosen) {
 
   dialog.findChild<QPushButton*>("cmdCancel")->click();
 
-  EXPECT_EQ(dialog.Choice(), NotRenamedChoice::NoAction);
+  EXPECT_EQ(dialog.Choice(), commit::NotRenamedChoice::NoAction);
 }
 
 }  // namespace

@@ -107,8 +107,8 @@ class DispatchTest : public WindowTest {
     std::ostringstream out;
     out << "rows " << ShownRows() << ':';
     for (int position = 1; position <= ShownRows(); ++position) {
-      out << ' ' << Shown(position, kColOldName).toString().toStdString() << '>'
-          << Shown(position, kColNewName).toString().toStdString();
+      out << ' ' << Shown(position, core::kColOldName).toString().toStdString() << '>'
+          << Shown(position, core::kColNewName).toString().toStdString();
     }
     out << "\non disk:";
     for (const std::string& path : paths) out << ' ' << Exists(path);

@@ -33,7 +33,7 @@ TEST_F(DropDownTest, RemovingRowsWithoutChangesKeepsTheChangedRow) {
   window->RunDropDownEntry("DelList", "DelList5");
 
   ASSERT_EQ(ShownRows(), 1);
-  EXPECT_EQ(Shown(1, kColOldName).toString(), "b.txt");
+  EXPECT_EQ(Shown(1, core::kColOldName).toString(), "b.txt");
   EXPECT_TRUE(asked.empty());
   EXPECT_EQ(Label("Status"), CountsText(1, 1, 1));
 }
@@ -70,7 +70,7 @@ TEST_F(DropDownTest, PressingTheButtonAgainRunsTheVariantKept) {
   MainTool("DelList")->trigger();
 
   ASSERT_EQ(ShownRows(), 1);
-  EXPECT_EQ(Shown(1, kColOldName).toString(), "d.txt");
+  EXPECT_EQ(Shown(1, core::kColOldName).toString(), "d.txt");
 }
 
 TEST_F(DropDownTest, RemovingUnselectedRowsWithNothingSelectedEmptiesTheList) {
@@ -100,7 +100,7 @@ TEST_F(DropDownTest, TakeChangesEntryChangesTheVariantAndRenamesAtOnce) {
   EXPECT_EQ(window->ToolVariant("TakeChanges"), "TakeChanges1");
   EXPECT_FALSE(Exists(paths[0]));
   EXPECT_EQ(ReadWholeFile(files.Path() + "renamed.txt"), "a.txt");
-  EXPECT_EQ(Shown(1, kColOldName).toString(), "renamed.txt");
+  EXPECT_EQ(Shown(1, core::kColOldName).toString(), "renamed.txt");
   EXPECT_TRUE(MainTool("TakeChanges")->toolTip().endsWith(" [" + QString(entry->text()).remove('&') + "]"));
 }
 

@@ -16,7 +16,7 @@ class DropTest : public WindowTest {
  protected:
   QStringList ShownOldNames() const {
     QStringList names;
-    for (int position = 1; position <= ShownRows(); ++position) names << Shown(position, kColOldName).toString();
+    for (int position = 1; position <= ShownRows(); ++position) names << Shown(position, core::kColOldName).toString();
     return names;
   }
 };
@@ -25,7 +25,7 @@ TEST_F(DropTest, RowDroppedOnAnotherTakesItsPlace) {
   Open();
   AddFiles({"a.txt", "b.txt", "c.txt"});
   // Sorted by a head first, so the drop has an order to end.
-  window->State().list.sortKey = kColNewName;
+  window->State().list.sortKey = core::kColNewName;
   window->RefreshPreview();
   ASSERT_EQ(ShownOldNames(), QStringList({"a.txt", "b.txt", "c.txt"}));
   ASSERT_TRUE(Details().horizontalHeader()->isSortIndicatorShown());
@@ -36,7 +36,7 @@ TEST_F(DropTest, RowDroppedOnAnotherTakesItsPlace) {
   model.dropMimeData(dragged.get(), Qt::MoveAction, -1, -1, model.index(2, 0));
 
   EXPECT_EQ(ShownOldNames(), QStringList({"b.txt", "c.txt", "a.txt"}));
-  EXPECT_EQ(window->State().list.sortKey, kColListPosition);
+  EXPECT_EQ(window->State().list.sortKey, core::kColListPosition);
   EXPECT_FALSE(Details().horizontalHeader()->isSortIndicatorShown());
   // The hand-made order is the one a refresh keeps.
   window->RefreshPreview();

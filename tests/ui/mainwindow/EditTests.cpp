@@ -63,8 +63,8 @@ TEST_F(EditTest, NameTypedByHandBecomesThePendingName) {
 
   EditByHand(1, "typed.txt");
 
-  EXPECT_EQ(Shown(1, kColNewName).toString(), "typed.txt");
-  EXPECT_EQ(Shown(1, kColOldName, Qt::ForegroundRole).value<QColor>(), QColor(128, 0, 0));
+  EXPECT_EQ(Shown(1, core::kColNewName).toString(), "typed.txt");
+  EXPECT_EQ(Shown(1, core::kColOldName, Qt::ForegroundRole).value<QColor>(), QColor(128, 0, 0));
   EXPECT_EQ(Label("lbl2(3)"), "typed.txt");
   EXPECT_EQ(editTitle, LanguageText("frmMain", "btnBarLeftEditMan").remove('&'));
 }
@@ -75,8 +75,8 @@ TEST_F(EditTest, NameOfOnlyBlanksIsIgnored) {
 
   EditByHand(1, "   ");
 
-  EXPECT_EQ(Shown(1, kColNewName).toString(), "a.txt");
-  EXPECT_FALSE(Shown(1, kColOldName, Qt::ForegroundRole).isValid());
+  EXPECT_EQ(Shown(1, core::kColNewName).toString(), "a.txt");
+  EXPECT_FALSE(Shown(1, core::kColOldName, Qt::ForegroundRole).isValid());
   EXPECT_FALSE(MainTool("TakeChanges")->isEnabled());
 }
 
@@ -84,22 +84,22 @@ TEST_F(EditTest, InPlaceEditRemovesForbiddenCharacters) {
   Open();
   AddFiles({"a.txt"});
   Menu("mnuViewIcons")->trigger();
-  const QModelIndex label = window->ListModel().index(0, kColDisplay);
+  const QModelIndex label = window->ListModel().index(0, core::kColDisplay);
   ASSERT_TRUE(window->ListModel().flags(label) & Qt::ItemIsEditable);
 
   EXPECT_TRUE(window->ListModel().setData(label, QString("ne:w?*name.txt"), Qt::EditRole));
 
-  EXPECT_EQ(Shown(1, kColNewName).toString(), "newname.txt");
-  EXPECT_EQ(Shown(1, kColDisplay).toString(), "newname.txt");
-  EXPECT_EQ(Shown(1, kColOldName, Qt::ForegroundRole).value<QColor>(), QColor(128, 0, 0));
+  EXPECT_EQ(Shown(1, core::kColNewName).toString(), "newname.txt");
+  EXPECT_EQ(Shown(1, core::kColDisplay).toString(), "newname.txt");
+  EXPECT_EQ(Shown(1, core::kColOldName, Qt::ForegroundRole).value<QColor>(), QColor(128, 0, 0));
 }
 
 TEST_F(EditTest, NamesAreNotEditedInPlaceInTheDetailsView) {
   Open();
   AddFiles({"a.txt"});
 
-  EXPECT_FALSE(window->ListModel().flags(window->ListModel().index(0, kColDisplay)) & Qt::ItemIsEditable);
-  EXPECT_FALSE(window->ListModel().flags(window->ListModel().index(0, kColNewName)) & Qt::ItemIsEditable);
+  EXPECT_FALSE(window->ListModel().flags(window->ListModel().index(0, core::kColDisplay)) & Qt::ItemIsEditable);
+  EXPECT_FALSE(window->ListModel().flags(window->ListModel().index(0, core::kColNewName)) & Qt::ItemIsEditable);
 }
 
 }  // namespace

@@ -27,10 +27,10 @@ TEST_F(HistoryTest, TwoUndoStepsAfterThreeChangesShowTheFirstChange) {
   window->RunMainToolKey("Undo");
   window->RunMainToolKey("Undo");
 
-  EXPECT_EQ(Shown(1, kColNewName).toString(), "one.txt");
+  EXPECT_EQ(Shown(1, core::kColNewName).toString(), "one.txt");
   EXPECT_TRUE(MainTool("Undo")->isEnabled());
   window->RunMainToolKey("Undo");
-  EXPECT_EQ(Shown(1, kColNewName).toString(), "a.txt");
+  EXPECT_EQ(Shown(1, core::kColNewName).toString(), "a.txt");
   EXPECT_FALSE(MainTool("Undo")->isEnabled());
   EXPECT_FALSE(MainTool("TakeChanges")->isEnabled());
 }
@@ -42,8 +42,8 @@ TEST_F(HistoryTest, RejectPutsOldNamesBackAndLeavesNothingToUndo) {
 
   window->RunMainToolKey("RejectChanges");
 
-  EXPECT_EQ(Shown(PositionOf("a.txt"), kColNewName).toString(), "a.txt");
-  EXPECT_FALSE(Shown(PositionOf("a.txt"), kColOldName, Qt::ForegroundRole).isValid());
+  EXPECT_EQ(Shown(PositionOf("a.txt"), core::kColNewName).toString(), "a.txt");
+  EXPECT_FALSE(Shown(PositionOf("a.txt"), core::kColOldName, Qt::ForegroundRole).isValid());
   EXPECT_FALSE(MainTool("Undo")->isEnabled());
   EXPECT_FALSE(Menu("mnuUndo")->isEnabled());
   EXPECT_FALSE(MainTool("RejectChanges")->isEnabled());
@@ -61,7 +61,7 @@ TEST_F(HistoryTest, SettingEveryNameBackAddsNoHistoryLevelAndDisablesTakeChanges
   // Had the return to the old name been a level of its own, one step back
   // would give "two.txt".
   window->RunMainToolKey("Undo");
-  EXPECT_EQ(Shown(1, kColNewName).toString(), "one.txt");
+  EXPECT_EQ(Shown(1, core::kColNewName).toString(), "one.txt");
 }
 
 TEST_F(HistoryTest, UndoAnsweredNoToTheSecurityQuestionChangesNothing) {
@@ -69,14 +69,14 @@ TEST_F(HistoryTest, UndoAnsweredNoToTheSecurityQuestionChangesNothing) {
   AddFiles({"a.txt"});
   ChangeInSteps(1, {"one.txt", "two.txt"});
   window->Options().securityQuestions[0] = true;
-  answers = {Answer::No};
+  answers = {core::Answer::No};
 
   window->RunMainToolKey("Undo");
 
   ASSERT_EQ(asked.size(), 1u);
   EXPECT_EQ(asked[0].message.textKey, "MsgText07");
   EXPECT_EQ(asked[0].text, LanguageText("Messages", "MsgText07"));
-  EXPECT_EQ(Shown(1, kColNewName).toString(), "two.txt");
+  EXPECT_EQ(Shown(1, core::kColNewName).toString(), "two.txt");
 }
 
 TEST_F(HistoryTest, UndoAnsweredYesToTheSecurityQuestionTakesTheStep) {
@@ -84,12 +84,12 @@ TEST_F(HistoryTest, UndoAnsweredYesToTheSecurityQuestionTakesTheStep) {
   AddFiles({"a.txt"});
   ChangeInSteps(1, {"one.txt", "two.txt"});
   window->Options().securityQuestions[0] = true;
-  answers = {Answer::Yes};
+  answers = {core::Answer::Yes};
 
   window->RunMainToolKey("Undo");
 
   EXPECT_EQ(asked.size(), 1u);
-  EXPECT_EQ(Shown(1, kColNewName).toString(), "one.txt");
+  EXPECT_EQ(Shown(1, core::kColNewName).toString(), "one.txt");
 }
 
 }  // namespace

@@ -100,14 +100,14 @@ TEST_F(SelectionTest, LeftBarRemovesTheSelectedRowAfterAskingAboutItsChange) {
   SetNewName(b, "z.txt");
   window->RefreshPreview();
   SelectRow(b);
-  answers = {Answer::No};
+  answers = {core::Answer::No};
 
   window->ToolAction("btnBarLeft", "DelList")->trigger();
 
   ASSERT_EQ(asked.size(), 1u);
   EXPECT_EQ(asked[0].message.textKey, "MsgText15");
   ASSERT_EQ(ShownRows(), 1);
-  EXPECT_EQ(Shown(1, kColOldName).toString(), "a.txt");
+  EXPECT_EQ(Shown(1, core::kColOldName).toString(), "a.txt");
   // No dropped the change: the file keeps its name.
   EXPECT_TRUE(nomra::testing::Exists(files.Path() + "b.txt"));
   EXPECT_FALSE(nomra::testing::Exists(files.Path() + "z.txt"));

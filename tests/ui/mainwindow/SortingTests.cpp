@@ -20,7 +20,7 @@ class SortingTest : public WindowTest {
 
   QStringList ShownNewNames() const {
     QStringList names;
-    for (int position = 1; position <= ShownRows(); ++position) names << Shown(position, kColNewName).toString();
+    for (int position = 1; position <= ShownRows(); ++position) names << Shown(position, core::kColNewName).toString();
     return names;
   }
 };

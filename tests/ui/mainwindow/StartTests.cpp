@@ -26,8 +26,8 @@ TEST_F(StartTest, DamagedSettingsAreShownAndTheirDefaultsStand) {
   EXPECT_TRUE(modals.MessageTexts()[1].contains("\"ws\"")) << modals.MessageTexts()[1].toStdString();
   const double dpi = window->logicalDpiX();
   // Head 2 (the path) takes its default width, head 3 the stored one.
-  EXPECT_EQ(Details().columnWidth(1), TwipsToPixels(DefaultColumnWidth(2), dpi));
-  EXPECT_EQ(Details().columnWidth(2), TwipsToPixels(2000, dpi));
+  EXPECT_EQ(Details().columnWidth(1), shell::TwipsToPixels(shell::DefaultColumnWidth(2), dpi));
+  EXPECT_EQ(Details().columnWidth(2), shell::TwipsToPixels(2000, dpi));
   EXPECT_FALSE(window->isMaximized());
   EXPECT_TRUE(window->isVisible());
 }
@@ -38,7 +38,7 @@ TEST_F(StartTest, WindowStoredFarOffTheScreenComesBackOnIt) {
 
   EXPECT_GE(window->x(), 0);
   EXPECT_GE(window->y(), 0);
-  EXPECT_EQ(window->width(), TwipsToPixels(12000, QGuiApplication::primaryScreen()->logicalDotsPerInchX()));
+  EXPECT_EQ(window->width(), shell::TwipsToPixels(12000, QGuiApplication::primaryScreen()->logicalDotsPerInchX()));
 }
 
 TEST_F(StartTest, StoredViewAndSortAreShown) {
@@ -102,7 +102,7 @@ TEST_F(StartTest, AboutShowsTheVersionUnderTheMenuCaption) {
 TEST_F(StartTest, ExpertModeAnsweredYesIsTurnedOn) {
   Open();
   ASSERT_FALSE(window->Options().expertMode);
-  answers = {Answer::Yes};
+  answers = {core::Answer::Yes};
 
   Menu("mnuExperts")->trigger();
 
@@ -116,7 +116,7 @@ TEST_F(StartTest, ExpertModeAnsweredYesIsTurnedOn) {
 
 TEST_F(StartTest, ExpertModeAnsweredNoStaysOff) {
   Open();
-  answers = {Answer::No};
+  answers = {core::Answer::No};
 
   Menu("mnuExperts")->trigger();
 

@@ -23,7 +23,7 @@ class ViewTest : public WindowTest {
 
   // The picture a row shows in the views' first column, at the cache's size.
   QImage ShownPicture(int position) const {
-    const QIcon icon = Shown(position, kColDisplay, Qt::DecorationRole).value<QIcon>();
+    const QIcon icon = Shown(position, core::kColDisplay, Qt::DecorationRole).value<QIcon>();
     const int size = window->Thumbnails().Size();
     return icon.pixmap(size, size).toImage().convertToFormat(QImage::Format_ARGB32);
   }
@@ -37,7 +37,7 @@ TEST_F(ViewTest, IconsEntryShowsThePictureListWithTheNewNames) {
   AddFiles({"a.txt"});
   SetNewName(1, "z.txt");
   window->RefreshPreview();
-  ASSERT_EQ(Shown(1, kColDisplay).toString(), "");
+  ASSERT_EQ(Shown(1, core::kColDisplay).toString(), "");
 
   Menu("mnuViewIcons")->trigger();
 
@@ -53,14 +53,14 @@ TEST_F(ViewTest, DetailsEntryHidesThePictureColumn) {
   Open();
   AddFiles({"a.txt"});
   Menu("mnuViewDetailsIcons")->trigger();
-  ASSERT_FALSE(Details().isColumnHidden(kColDisplay));
+  ASSERT_FALSE(Details().isColumnHidden(core::kColDisplay));
 
   Menu("mnuViewDetails")->trigger();
 
   EXPECT_TRUE(Details().isVisible());
-  EXPECT_TRUE(Details().isColumnHidden(kColDisplay));
-  EXPECT_EQ(Shown(1, kColDisplay).toString(), "");
-  EXPECT_FALSE(Shown(1, kColDisplay, Qt::DecorationRole).isValid());
+  EXPECT_TRUE(Details().isColumnHidden(core::kColDisplay));
+  EXPECT_EQ(Shown(1, core::kColDisplay).toString(), "");
+  EXPECT_FALSE(Shown(1, core::kColDisplay, Qt::DecorationRole).isValid());
   EXPECT_TRUE(Menu("mnuViewDetails")->isChecked());
 }
 
@@ -74,7 +74,7 @@ TEST_F(ViewTest, PictureOfAnImageFileShowsOnceLoaded) {
   Menu("mnuViewDetailsIcons")->trigger();
   ASSERT_GT(window->Thumbnails().Size(), 0);
 
-  Shown(1, kColDisplay, Qt::DecorationRole);  // as the view asks when it paints
+  Shown(1, core::kColDisplay, Qt::DecorationRole);  // as the view asks when it paints
   ASSERT_TRUE(WaitFor([&] { return window->Thumbnails().HasPicture(QString::fromStdString(path)); }));
 
   const QImage shown = ShownPicture(1);
@@ -88,7 +88,7 @@ TEST_F(ViewTest, FileThatIsNoPictureShowsNoPic) {
   AddFiles({"notes.txt"});
   Menu("mnuViewDetailsIcons")->trigger();
 
-  Shown(1, kColDisplay, Qt::DecorationRole);
+  Shown(1, core::kColDisplay, Qt::DecorationRole);
   const QString path = QString::fromStdString(files.Path() + "notes.txt");
   ASSERT_TRUE(WaitFor([&] { return window->Thumbnails().Failed(path); }));
 
@@ -125,7 +125,7 @@ TEST_F(ViewTest, ColumnEntryHidesAndShowsTheHeadAfterIt) {
 
   entry->trigger();
   EXPECT_FALSE(Details().isColumnHidden(2));
-  EXPECT_EQ(Details().columnWidth(2), TwipsToPixels(1800, window->logicalDpiX()));
+  EXPECT_EQ(Details().columnWidth(2), shell::TwipsToPixels(1800, window->logicalDpiX()));
 }
 
 TEST_F(ViewTest, GridLinesEntrySwitchesTheGrid) {

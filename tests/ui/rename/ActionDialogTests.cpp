@@ -28,7 +28,7 @@ class ActionDialogTest : public WindowTest {
     return CreateActionWindow(5, ActionWindowServices{window->Actions(), window->Catalog(), window.get(),
                                                       QStringLiteral("Nomra"), [this] { window->RefreshPreview(); }});
   }
-  QString NewName(const QString& oldName) const { return Shown(PositionOf(oldName), kColNewName).toString(); }
+  QString NewName(const QString& oldName) const { return Shown(PositionOf(oldName), core::kColNewName).toString(); }
   void Type(QWidget& dialog, const char* field, const QString& text) {
     auto* edit = dialog.findChild<QLineEdit*>(field);
     edit->clear();
@@ -45,7 +45,7 @@ TEST_F(ActionDialogTest, EveryInputOfPrefixAndSuffixHasItsWidget) {
 TEST_F(ActionDialogTest, EveryInputOfTheScriptDialogHasItsWidget) {
   Open();
   FrmScript dialog(window->Script(), system->Files(), window->FrontEnd(), window->Catalog(), window.get(), "Nomra");
-  ScriptChooser chooser(window->Script(), system->Files(), window->FrontEnd());
+  script::ScriptChooser chooser(window->Script(), system->Files(), window->FrontEnd());
   EXPECT_EQ(InputsWithoutWidget(chooser.Model(), dialog), QStringList());
 }
 

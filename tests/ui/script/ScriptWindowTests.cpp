@@ -26,7 +26,7 @@ std::string PrefixScript(const std::string& name, const std::string& prefix) {
 
 class ScriptWindowTest : public WindowTest {
  protected:
-  QString NewName(const QString& oldName) const { return Shown(PositionOf(oldName), kColNewName).toString(); }
+  QString NewName(const QString& oldName) const { return Shown(PositionOf(oldName), core::kColNewName).toString(); }
   QAction* ScriptTool(const char* key) const { return window->ToolAction("btnbarScript", key); }
   QMenu& ScriptMenu() const { return *ScriptTool("RunSelectedScript")->menu(); }
   std::string ScriptFolder() const { return data.Path() + "Script/"; }
@@ -182,7 +182,7 @@ TEST_F(ScriptWindowTest, DeletingAScriptAskedNoKeepsItAndYesRemovesIt) {
   data.WriteFile("Script/20261115023303.nrs", PrefixScript("Holiday", "x_"));
   Open();
   AddFiles({"a.jpg"});
-  answers = {Answer::No, Answer::Yes};
+  answers = {core::Answer::No, core::Answer::Yes};
   expectedModals << "frmScript";
   int rowsAfterNo = -1;
   int rowsAfterYes = -1;
@@ -211,7 +211,7 @@ TEST_F(ScriptWindowTest, DeletingAScriptAskedNoKeepsItAndYesRemovesIt) {
 TEST_F(ScriptWindowTest, RecordingSwitchesTheRecordButtonsAndStoresANamedScript) {
   Open();
   AddFiles({"a.txt"});
-  window->FrontEnd().SetInputAnswerer([](const Message&, const std::string&) { return std::string("My script"); });
+  window->FrontEnd().SetInputAnswerer([](const core::Message&, const std::string&) { return std::string("My script"); });
 
   window->RunMenuCommand("mnuStartRecordScript");
   EXPECT_FALSE(ScriptTool("StartRecordScript")->isEnabled());
@@ -242,7 +242,7 @@ TEST_F(ScriptWindowTest, RecordingSwitchesTheRecordButtonsAndStoresANamedScript)
 TEST_F(ScriptWindowTest, ClosingDuringARecordingAnsweredYesStoresTheScript) {
   Open();
   AddFiles({"a.txt"});
-  window->FrontEnd().SetInputAnswerer([](const Message&, const std::string&) { return std::string("At close"); });
+  window->FrontEnd().SetInputAnswerer([](const core::Message&, const std::string&) { return std::string("At close"); });
   window->RunMenuCommand("mnuStartRecordScript");
   expectedModals << "frmPrefixSuffix";
   modals.SetHandler([](QWidget& modal) {
@@ -251,7 +251,7 @@ TEST_F(ScriptWindowTest, ClosingDuringARecordingAnsweredYesStoresTheScript) {
   });
   window->RunMainToolKey("Rename05");
   // Yes to storing the recording, No to taking the pending names.
-  answers = {Answer::Yes, Answer::No};
+  answers = {core::Answer::Yes, core::Answer::No};
 
   EXPECT_TRUE(window->close());
 
@@ -266,7 +266,7 @@ TEST_F(ScriptWindowTest, ClosingDuringARecordingAnsweredNoLosesIt) {
   Open();
   AddFiles({"a.txt"});
   window->RunMenuCommand("mnuStartRecordScript");
-  answers = {Answer::No};
+  answers = {core::Answer::No};
 
   EXPECT_TRUE(window->close());
 
@@ -276,7 +276,7 @@ TEST_F(ScriptWindowTest, ClosingDuringARecordingAnsweredNoLosesIt) {
 TEST_F(ScriptWindowTest, ScriptRecordedHereGivesTheSameNamesInTheCommandLine) {
   Open();
   const std::vector<std::string> paths = AddFiles({"a.txt", "b", "c.tar.gz"});
-  window->FrontEnd().SetInputAnswerer([](const Message&, const std::string&) { return std::string("Both"); });
+  window->FrontEnd().SetInputAnswerer([](const core::Message&, const std::string&) { return std::string("Both"); });
   window->RunMenuCommand("mnuStartRecordScript");
   expectedModals << "frmPrefixSuffix" << "frmPrefixSuffix";
   int opened = 0;

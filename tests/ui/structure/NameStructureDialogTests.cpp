@@ -47,7 +47,7 @@ class NameStructureDialogTest : public WindowTest {
     QTest::keyClicks(&edit, text);
   }
 
-  QString NewName(const QString& oldName) const { return Shown(PositionOf(oldName), kColNewName).toString(); }
+  QString NewName(const QString& oldName) const { return Shown(PositionOf(oldName), core::kColNewName).toString(); }
   std::string StoredFile() const { return nomra::testing::ReadWholeFile(data.Path() + "structures.nrp"); }
 
   // Drops the tag of a list's row on txtStructure at x, as a drag would.
@@ -98,13 +98,13 @@ TEST_F(NameStructureDialogTest, WithoutStoredStructuresEditAndDeleteAreDisabled)
 TEST_F(NameStructureDialogTest, TagListsAreFilledFromTheLanguageFile) {
   OpenWithStructures();
   const auto dialog = Dialog();
-  const std::vector<TagChoice> elements = ElementChoices(window->Catalog());
+  const std::vector<structure::TagChoice> elements = structure::ElementChoices(window->Catalog());
   QTreeWidget& list = Tree(*dialog, "lstElements");
   ASSERT_EQ(list.topLevelItemCount(), static_cast<int>(elements.size()));
   EXPECT_EQ(list.topLevelItem(0)->text(0).toStdString(), elements.front().label);
   EXPECT_EQ(list.topLevelItem(0)->text(1), "<NAME>");
   EXPECT_EQ(Tree(*dialog, "lstFunctions").topLevelItemCount(),
-            static_cast<int>(FunctionChoices(window->Catalog()).size()));
+            static_cast<int>(structure::FunctionChoices(window->Catalog()).size()));
 }
 
 TEST_F(NameStructureDialogTest, ChoosingARowShowsItInThePreview) {
@@ -178,7 +178,7 @@ TEST_F(NameStructureDialogTest, BadSyntaxIsToldAndItsCharacterSelected) {
   EXPECT_EQ(asked.front().text,
             LanguageText("Messages", "msgErrorStructure1",
                          {"7", LanguageText("Messages", "msgCheckInput").toStdString()}));
-  EXPECT_EQ(asked.front().message.style, MessageStyle::OkWarning);
+  EXPECT_EQ(asked.front().message.style, core::MessageStyle::OkWarning);
   EXPECT_EQ(Edit(*dialog, "txtStructure").selectedText(), ">");
   EXPECT_EQ(Edit(*dialog, "txtStructure").selectionStart(), 6);
   EXPECT_TRUE(Shows(*dialog, "frameEdit"));
@@ -230,7 +230,7 @@ TEST_F(NameStructureDialogTest, DeleteRemovesTheRowOnlyOnYes) {
   ASSERT_EQ(asked.size(), 1u);
   EXPECT_EQ(asked.front().message.textKey, "msgRemoveStructure");
   EXPECT_EQ(Tree(*dialog, "lstStructures").topLevelItemCount(), 2);
-  answers = {Answer::Yes};
+  answers = {core::Answer::Yes};
   Click(*dialog, "cmdStructureDel");
   ASSERT_EQ(Tree(*dialog, "lstStructures").topLevelItemCount(), 1);
   EXPECT_EQ(Tree(*dialog, "lstStructures").topLevelItem(0)->text(0), "Marked");
@@ -258,7 +258,7 @@ TEST_F(NameStructureDialogTest, CancelClosesWithoutSaving) {
   OpenWithStructures();
   expectedModals << "frmNameStructure";
   modals.SetHandler([&](QWidget& modal) {
-    answers = {Answer::Yes};
+    answers = {core::Answer::Yes};
     Click(modal, "cmdStructureDel");
     Click(modal, "cmdCancel");
   });

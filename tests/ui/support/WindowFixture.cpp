@@ -22,22 +22,22 @@ void WindowTest::TearDown() {
 }
 
 MainWindow& WindowTest::Open(const std::string& languageFile) {
-  StartupPaths paths;
+  shell::StartupPaths paths;
   paths.appFolder = app.Path();
   paths.dataFolder = data.Path();
   paths.settingsPath = SettingsPath();
   paths.dataFolderUsable = true;
   window = std::make_unique<MainWindow>(
       MainWindow::Services{*system, exifDates, paths, languageFile, QStringLiteral("Nomra"), QStringLiteral("9.8.7")});
-  window->FrontEnd().SetAnswerer([this](const Message& message, const QString& caption, const QString& text) {
+  window->FrontEnd().SetAnswerer([this](const core::Message& message, const QString& caption, const QString& text) {
     // A fault is a message without a key: the text says what stopped.
     if (message.textKey.empty()) {
       faults.push_back(text.toStdString());
-      return Answer::Ok;
+      return core::Answer::Ok;
     }
     asked.push_back({message, caption, text});
-    if (answers.empty()) return Answer::No;
-    const Answer answer = answers.front();
+    if (answers.empty()) return core::Answer::No;
+    const core::Answer answer = answers.front();
     answers.pop_front();
     return answer;
   });
@@ -71,13 +71,13 @@ QVariant WindowTest::Shown(int position, int column, int role) const {
 
 int WindowTest::PositionOf(const QString& oldName) const {
   for (int position = 1; position <= ShownRows(); ++position) {
-    if (Shown(position, kColOldName).toString() == oldName) return position;
+    if (Shown(position, core::kColOldName).toString() == oldName) return position;
   }
   return 0;
 }
 
 void WindowTest::SetNewName(int position, const std::string& name) {
-  window->State().list.Item(position)[kColNewName] = name;
+  window->State().list.Item(position)[core::kColNewName] = name;
 }
 
 QAction* WindowTest::MainTool(const QString& key) const { return window->ToolAction("BtnBarMain", key); }
@@ -96,7 +96,7 @@ QString WindowTest::LanguageText(const char* section, const char* key, const std
 QString WindowTest::CountsText(int files, int folders, int changed) const {
   const std::string pattern = window->Catalog().GetText("Messages", "MsgStat01");
   return QString::fromStdString(
-      FormatMessage(pattern, {std::to_string(files), std::to_string(folders), std::to_string(changed)}));
+      base::FormatMessage(pattern, {std::to_string(files), std::to_string(folders), std::to_string(changed)}));
 }
 
 }  // namespace nomra::ui::testing

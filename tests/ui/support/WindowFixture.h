@@ -35,7 +35,7 @@ bool WaitFor(const std::function<bool()>& condition);
 
 // A question the window asked through its front end.
 struct AskedQuestion {
-  Message message;
+  core::Message message;
   QString caption;
   QString text;
 };
@@ -77,7 +77,7 @@ class WindowTest : public ::testing::Test {
   // Status text 1 with the three counts, as the status panel should show it.
   QString CountsText(int files, int folders, int changed) const;
 
-  std::deque<Answer> answers;  // taken in order; when none is left, No
+  std::deque<core::Answer> answers;  // taken in order; when none is left, No
   std::vector<AskedQuestion> asked;
   std::vector<std::string> faults;
 
@@ -85,7 +85,7 @@ class WindowTest : public ::testing::Test {
   nomra::testing::TempFolder data;
   nomra::testing::TempFolder files;
   std::unique_ptr<platform::Platform> system = platform::MakeSystemPlatform();
-  NoExifDates exifDates;
+  core::NoExifDates exifDates;
   ModalWatcher modals;
   // The dialogs a test opens on purpose, by object name.
   QStringList expectedModals;
