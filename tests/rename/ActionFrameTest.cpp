@@ -7,7 +7,7 @@
 #include "rename/ActionFixture.h"
 #include "rename/ActionScope.h"
 #include "rename/actions/BuiltInActions.h"
-#include "rename/actions/PrefixSuffix.h"
+#include "rename/actions/FrmPrefixSuffix.h"
 
 namespace nomra::rename {
 namespace {
@@ -61,7 +61,7 @@ class ActionFrameTest : public testing::ActionTest {
     data.WriteFile(settings::kSettingsFileName, "[FrmPS]\r\ntxtPr=" + prefix + "\r\n");
   }
 
-  PrefixSuffixDialog prefixSuffix;
+  FrmPrefixSuffix prefixSuffix;
 };
 
 TEST_F(ActionFrameTest, ApplyRemembersTheInputsUnderFrmPSWhenRememberingIsOn) {
@@ -145,7 +145,7 @@ TEST_F(ActionFrameTest, LoadRestoresTheRememberedInputsFromFrmPS) {
 TEST_F(ActionFrameTest, InputsRememberedOnApplyComeBackAtTheNextOpening) {
   script.saveDialogSettings = true;
   ASSERT_TRUE(Apply(" two  blanks ", "."));
-  PrefixSuffixDialog reopened;
+  FrmPrefixSuffix reopened;
   LoadActionDialog(reopened, Actions());
   EXPECT_EQ(reopened.Model().Text("txtPr"), " two  blanks ");
   EXPECT_EQ(reopened.Model().Text("txtSu"), ".");
@@ -161,7 +161,7 @@ TEST_F(ActionFrameTest, LoadDuringPlaybackTakesThePlayedStepAndNotTheSettings) {
   script.saveDialogSettings = true;
   WriteRememberedPrefix("mine");
   for (int runMode : {1, 2}) {
-    PrefixSuffixDialog dialog;
+    FrmPrefixSuffix dialog;
     PlayOneStepScript(runMode, "played");
     LoadActionDialog(dialog, Actions());
     EXPECT_EQ(dialog.Model().Text("txtPr"), "played") << runMode;

@@ -7,8 +7,8 @@
 #include "rename/ActionFixture.h"
 #include "rename/ActionFrame.h"
 #include "rename/actions/BuiltInActions.h"
-#include "rename/actions/CaseAction.h"
-#include "rename/actions/ExtensionAction.h"
+#include "rename/actions/FrmULCase.h"
+#include "rename/actions/FrmFileExtension.h"
 #include "script/ScriptPlayback.h"
 #include "support/RealFiles.h"
 
@@ -23,7 +23,7 @@ class CaseActionTest : public testing::ActionTest {
     dialog.Model().SetOption("opt1(" + std::to_string(conversion) + ")", true);
     dialog.Model().SetOption("opt2(" + std::to_string(appliesTo) + ")", true);
   }
-  CaseDialog dialog;
+  FrmULCase dialog;
 };
 
 TEST_F(CaseActionTest, FirstConversionOnTheNameIsChosenWhenNothingIsStored) {
@@ -96,7 +96,7 @@ class ExtensionActionTest : public testing::ActionTest {
     dialog.Model().SetNumber("chkAddOldFE", keepOld ? 1 : 0);
     dialog.Model().SetText("txtFE", extension);
   }
-  ExtensionDialog dialog;
+  FrmFileExtension dialog;
 };
 
 TEST_F(ExtensionActionTest, ChangeIsChosenAndKeepingTheOldOneIsOffWhenNothingIsStored) {

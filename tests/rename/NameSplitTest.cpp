@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "rename/actions/PrefixSuffix.h"
+#include "rename/actions/FrmPrefixSuffix.h"
 
 namespace nomra::rename {
 namespace {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "rename/ActionFrame.h"
-#include "rename/actions/PrefixSuffix.h"
+#include "rename/actions/FrmPrefixSuffix.h"
 #include "script/ScriptFixture.h"
 #include "support/RealFiles.h"
 
@@ -19,7 +19,7 @@ class ScriptRecordingTest : public testing::ScriptTest {
 
   // The user fills the prefix and suffix dialog and presses Apply.
   void ApplyPrefixSuffix(const std::string& prefix, const std::string& suffix = "") {
-    rename::PrefixSuffixDialog dialog;
+    rename::FrmPrefixSuffix dialog;
     dialog.Model().SetText("txtPr", prefix);
     dialog.Model().SetText("txtSu", suffix);
     rename::ApplyActionDialog(dialog, Actions());

@@ -3,9 +3,9 @@
 #include <functional>
 #include <map>
 
-#include "rename/actions/CaseAction.h"
-#include "rename/actions/ExtensionAction.h"
-#include "rename/actions/PrefixSuffix.h"
+#include "rename/actions/FrmULCase.h"
+#include "rename/actions/FrmFileExtension.h"
+#include "rename/actions/FrmPrefixSuffix.h"
 
 namespace nomra::rename {
 
@@ -14,9 +14,9 @@ namespace {
 // Adding an action dialog is one line here.
 const std::map<int, std::function<std::unique_ptr<ActionDialog>()>>& Factories() {
   static const std::map<int, std::function<std::unique_ptr<ActionDialog>()>> factories{
-      {3, [] { return std::make_unique<ExtensionDialog>(); }},
-      {4, [] { return std::make_unique<CaseDialog>(); }},
-      {5, [] { return std::make_unique<PrefixSuffixDialog>(); }},
+      {3, [] { return std::make_unique<FrmFileExtension>(); }},
+      {4, [] { return std::make_unique<FrmULCase>(); }},
+      {5, [] { return std::make_unique<FrmPrefixSuffix>(); }},
   };
   return factories;
 }

@@ -4,7 +4,7 @@
 #include "fileops/PermissionText.h"
 #include "lang/MessageKeys.h"
 #include "ui/fileops/FileOperationProgress.h"
-#include "ui/fileops/FrmSelAction.h"
+#include "ui/fileops/FrmSelActionWindow.h"
 #include "ui/fileops/PropertiesDialog.h"
 
 namespace nomra::ui {
@@ -12,7 +12,7 @@ namespace nomra::ui {
 bool RunSelAction(QWidget* parent, platform::Platform& system, const rename::ActionContext& context, core::RowCommitter* committer,
                   const lang::MessageCatalog& catalog,
                   const QString& tag) {
-  FrmSelAction dialog(tag, context, committer, catalog, system, parent);
+  FrmSelActionWindow dialog(tag, context, committer, catalog, system, parent);
   return dialog.exec() == QDialog::Accepted;
 }
 

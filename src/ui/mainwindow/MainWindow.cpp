@@ -38,7 +38,7 @@
 #include "ui/common/TextConversion.h"
 #include "ui/mainwindow/FileListModel.h"
 #include "ui/mainwindow/IconCellDelegate.h"
-#include "ui/mainwindow/StartWindow.h"
+#include "ui/mainwindow/FrmStartWindow.h"
 #include "ui/mainwindow/ThumbnailCache.h"
 #include "ui/rename/ActionWindows.h"
 
@@ -471,7 +471,7 @@ void MainWindow::CancelAction() { progress_.RequestStop(); }
 void MainWindow::ShowAtStart() {
   show();
   if (MenuAction(kShowSplashEntry)->isChecked()) {
-    StartWindow start(catalog_, appTitle_, version_, this);
+    FrmStartWindow start(catalog_, appTitle_, version_, this);
     start.exec();
   }
 }

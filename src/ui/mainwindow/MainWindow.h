@@ -49,7 +49,7 @@ enum class OpenMode;
 namespace nomra::ui {
 
 class FileListModel;
-class FrmOpen;
+class FrmOpenWindow;
 class IconCellDelegate;
 class ThumbnailCache;
 
@@ -267,7 +267,7 @@ class MainWindow final : public QMainWindow {
   QMenu* popup_ = nullptr;
   QMenu* iconSizeMenu_ = nullptr;
   QActionGroup* viewGroup_ = nullptr;
-  FrmOpen* frmOpen_ = nullptr;  // made at its first use, kept as long as the window
+  FrmOpenWindow* frmOpen_ = nullptr;  // made at its first use, kept as long as the window
 
   QHash<QString, QAction*> menuActions_;
   QHash<QString, QAction*> toolActions_;  // "bar/key"

@@ -20,15 +20,15 @@
 #include "core/SortFileList.h"
 #include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"
-#include "ui/common/InfoDialog.h"
+#include "ui/common/FrmInfoWindow.h"
 #include "ui/common/LanguageDialog.h"
 #include "ui/common/QtLocalisation.h"
 #include "ui/common/TextConversion.h"
 #include "ui/fileops/FileOperationCommands.h"
-#include "ui/mainwindow/EditManDialog.h"
+#include "ui/mainwindow/FrmEditManWindow.h"
 #include "ui/mainwindow/FileListModel.h"
 #include "ui/mainwindow/MainWindow.h"
-#include "ui/mainwindow/NotRenamedDialog.h"
+#include "ui/mainwindow/FrmNotRenamedWindow.h"
 #include "ui/mainwindow/ThumbnailCache.h"
 #include "shell/WindowPlacement.h"
 
@@ -81,7 +81,7 @@ void MainWindow::ConnectCommands() {
 void MainWindow::takeChanges() {
   commit::CommitServices services;
   services.showNotRenamed = [this](const commit::CommitResult& result) {
-    NotRenamedDialog dialog(result, catalog_, this);
+    FrmNotRenamedWindow dialog(result, catalog_, this);
     dialog.RememberChoiceIn(script_, system_.Files(), frontEnd_);
     dialog.exec();
     return dialog.Choice();
@@ -94,14 +94,14 @@ void MainWindow::takeChanges() {
 void MainWindow::mnuEditMan() {
   const int position = SelectedPosition();
   if (position <= 0) return;
-  EditManDialog dialog(ToQString(state_.list.Item(position)[core::kColNewName]), catalog_, this);
+  FrmEditManWindow dialog(ToQString(state_.list.Item(position)[core::kColNewName]), catalog_, this);
   if (dialog.exec() == QDialog::Accepted && core::ApplyManualEdit(List(), position, ToEngineText(dialog.Text()))) {
     RefreshPreview();
   }
 }
 
 void MainWindow::mnuInfo() {
-  InfoDialog dialog(catalog_, appTitle_, version_, MenuAction(kInfoEntry)->text(), this);
+  FrmInfoWindow dialog(catalog_, appTitle_, version_, MenuAction(kInfoEntry)->text(), this);
   dialog.exec();
 }
 

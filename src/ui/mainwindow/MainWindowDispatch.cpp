@@ -14,11 +14,11 @@
 #include "ui/common/RunShowingFault.h"
 #include "ui/common/TextConversion.h"
 #include "ui/fileops/FileOperationCommands.h"
-#include "ui/history/FrmHistory.h"
+#include "ui/history/FrmHistoryWindow.h"
 #include "ui/mainwindow/FileListModel.h"
 #include "ui/mainwindow/MainWindow.h"
 #include "ui/rename/ActionWindows.h"
-#include "ui/structure/FrmNameStructure.h"
+#include "ui/structure/FrmNameStructureWindow.h"
 
 namespace nomra::ui {
 

@@ -14,7 +14,7 @@
 #include "ui/common/RunShowingFault.h"
 #include "ui/common/TextConversion.h"
 #include "ui/mainwindow/MainWindow.h"
-#include "ui/open/FrmOpen.h"
+#include "ui/open/FrmOpenWindow.h"
 #include "ui/open/SystemOpenDialog.h"
 
 namespace nomra::ui {
@@ -92,7 +92,7 @@ void MainWindow::OpenFilesDialog(open::OpenMode mode) {
 }
 
 void MainWindow::ShowFrmOpen() {
-  if (frmOpen_ == nullptr) frmOpen_ = new FrmOpen({system_.Files(), frontEnd_, catalog_, SettingsFile()}, this);
+  if (frmOpen_ == nullptr) frmOpen_ = new FrmOpenWindow({system_.Files(), frontEnd_, catalog_, SettingsFile()}, this);
   frmOpen_->Prepare(settings_.chkAll == 1, settings_.chkSub == 1, settings_.showHiddenFiles,
                     open::InitialFolder(SettingsFile(), system_.Locations().HomeFolder()));
   if (frmOpen_->exec() != QDialog::Accepted) return;

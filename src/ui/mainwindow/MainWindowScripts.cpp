@@ -14,7 +14,7 @@
 #include "ui/common/TextConversion.h"
 #include "ui/mainwindow/MainWindow.h"
 #include "ui/rename/ActionWindows.h"
-#include "ui/script/FrmScript.h"
+#include "ui/script/FrmScriptWindow.h"
 
 namespace nomra::ui {
 
@@ -54,7 +54,7 @@ void MainWindow::EndRecording() {
 }
 
 void MainWindow::mnuStartRunScript() {
-  FrmScript chooser(script_, system_.Files(), frontEnd_, catalog_, this, appTitle_);
+  FrmScriptWindow chooser(script_, system_.Files(), frontEnd_, catalog_, this, appTitle_);
   chooser.exec();
   // Also after a cancel, which has left nothing to play.
   PlayScriptSteps();

@@ -3,9 +3,9 @@
 #include <functional>
 #include <map>
 
-#include "ui/rename/FrmFileExtension.h"
-#include "ui/rename/FrmPrefixSuffix.h"
-#include "ui/rename/FrmULCase.h"
+#include "ui/rename/FrmFileExtensionWindow.h"
+#include "ui/rename/FrmPrefixSuffixWindow.h"
+#include "ui/rename/FrmULCaseWindow.h"
 
 namespace nomra::ui {
 
@@ -16,9 +16,9 @@ using WindowFactory = std::function<std::unique_ptr<ActionDialogWindow>(ActionWi
 // Adding an action's window is one line here.
 const std::map<int, WindowFactory>& Factories() {
   static const std::map<int, WindowFactory> factories{
-      {3, [](ActionWindowServices services) { return std::make_unique<FrmFileExtension>(std::move(services)); }},
-      {4, [](ActionWindowServices services) { return std::make_unique<FrmULCase>(std::move(services)); }},
-      {5, [](ActionWindowServices services) { return std::make_unique<FrmPrefixSuffix>(std::move(services)); }},
+      {3, [](ActionWindowServices services) { return std::make_unique<FrmFileExtensionWindow>(std::move(services)); }},
+      {4, [](ActionWindowServices services) { return std::make_unique<FrmULCaseWindow>(std::move(services)); }},
+      {5, [](ActionWindowServices services) { return std::make_unique<FrmPrefixSuffixWindow>(std::move(services)); }},
   };
   return factories;
 }

@@ -21,7 +21,7 @@
 #include "ui/common/DialogBinder.h"
 #include "ui/fileops/FileOperationCommands.h"
 #include "ui/fileops/FileOperationProgress.h"
-#include "ui/fileops/FrmSelAction.h"
+#include "ui/fileops/FrmSelActionWindow.h"
 #include "ui/fileops/PropertiesDialog.h"
 #include "support/ListFixture.h"
 #include "ui/support/WindowFixture.h"
@@ -59,14 +59,14 @@ class FileOperationsDialogTest : public nomra::testing::ListTest {
 
 TEST_F(FileOperationsDialogTest, EveryInputOfEachUseHasItsWidget) {
   for (const char* tag : {"frmSelAction", "frmCopyFiles", "frmMoveFiles"}) {
-    FrmSelAction dialog(tag, Actions(), rowCommitter, english, *os);
+    FrmSelActionWindow dialog(tag, Actions(), rowCommitter, english, *os);
     EXPECT_EQ(dialog.objectName(), tag);
     EXPECT_TRUE(InputsWithoutWidget(dialog.Engine().Model(), dialog).isEmpty()) << tag;
   }
 }
 
 TEST_F(FileOperationsDialogTest, TakeChangesUseShowsTheFrameOfNamesInItsLanguage) {
-  FrmSelAction dialog("frmSelAction", Actions(), rowCommitter, english, *os);
+  FrmSelActionWindow dialog("frmSelAction", Actions(), rowCommitter, english, *os);
 
   EXPECT_FALSE(Child<QGroupBox>(dialog, "frameCopy")->isHidden());
   EXPECT_TRUE(Child<QCheckBox>(dialog, "chkUpdateList")->isHidden());
@@ -76,7 +76,7 @@ TEST_F(FileOperationsDialogTest, TakeChangesUseShowsTheFrameOfNamesInItsLanguage
 }
 
 TEST_F(FileOperationsDialogTest, CopyUseOffersTheUpdateOfTheList) {
-  FrmSelAction dialog("frmCopyFiles", Actions(), rowCommitter, english, *os);
+  FrmSelActionWindow dialog("frmCopyFiles", Actions(), rowCommitter, english, *os);
 
   auto* update = Child<QCheckBox>(dialog, "chkUpdateList");
   EXPECT_TRUE(Child<QGroupBox>(dialog, "frameCopy")->isHidden());
@@ -86,7 +86,7 @@ TEST_F(FileOperationsDialogTest, CopyUseOffersTheUpdateOfTheList) {
 }
 
 TEST_F(FileOperationsDialogTest, MoveUseKeepsTheUpdateCheckedAndDisabled) {
-  FrmSelAction dialog("frmMoveFiles", Actions(), rowCommitter, english, *os);
+  FrmSelActionWindow dialog("frmMoveFiles", Actions(), rowCommitter, english, *os);
 
   auto* update = Child<QCheckBox>(dialog, "chkUpdateList");
   EXPECT_TRUE(update->isChecked());
@@ -94,7 +94,7 @@ TEST_F(FileOperationsDialogTest, MoveUseKeepsTheUpdateCheckedAndDisabled) {
 }
 
 TEST_F(FileOperationsDialogTest, OkFollowsWhetherTheTypedPathIsAFolder) {
-  FrmSelAction dialog("frmCopyFiles", Actions(), rowCommitter, english, *os);
+  FrmSelActionWindow dialog("frmCopyFiles", Actions(), rowCommitter, english, *os);
   auto* ok = Child<QPushButton>(dialog, "cmdOK");
   auto* path = Child<QLineEdit>(dialog, "txtTargetPath");
   ASSERT_FALSE(ok->isEnabled());
@@ -108,7 +108,7 @@ TEST_F(FileOperationsDialogTest, OkFollowsWhetherTheTypedPathIsAFolder) {
 TEST_F(FileOperationsDialogTest, OkCopiesTheSelectedFilesAndCloses) {
   Add("a.txt");
   state.list.Item(1).selected = true;
-  FrmSelAction dialog("frmCopyFiles", Actions(), rowCommitter, english, *os);
+  FrmSelActionWindow dialog("frmCopyFiles", Actions(), rowCommitter, english, *os);
   QTest::keyClicks(Child<QLineEdit>(dialog, "txtTargetPath"), QString::fromStdString(target));
   Child<QCheckBox>(dialog, "chkUpdateList")->setChecked(true);
 
@@ -120,7 +120,7 @@ TEST_F(FileOperationsDialogTest, OkCopiesTheSelectedFilesAndCloses) {
 }
 
 TEST_F(FileOperationsDialogTest, FolderBrowserPutsItsChoiceIntoTheTargetPath) {
-  FrmSelAction dialog("frmMoveFiles", Actions(), rowCommitter, english, *os);
+  FrmSelActionWindow dialog("frmMoveFiles", Actions(), rowCommitter, english, *os);
   ModalWatcher modals;
   QString title;
   modals.SetHandler([&](QWidget& modal) {

@@ -16,7 +16,7 @@
 #include "support/TempFolder.h"
 #include "support/RealFiles.h"
 #include "ui/common/QtFrontEnd.h"
-#include "ui/history/FrmHistory.h"
+#include "ui/history/FrmHistoryWindow.h"
 #include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
@@ -51,12 +51,12 @@ class RenameHistoryDialog : public ::testing::Test {
   void CreateFiles(const std::vector<std::string>& names) const { nomra::testing::CreateNamedFiles(files, names); }
   std::set<std::string> NamesOnDisk() const { return nomra::testing::NamesIn(files.Path()); }
 
-  std::unique_ptr<FrmHistory> Open(QWidget* mainWindow = nullptr) {
-    return std::make_unique<FrmHistory>(fileSystem, options.dataFolder, frontEnd, catalog, "Nomra", mainWindow);
+  std::unique_ptr<FrmHistoryWindow> Open(QWidget* mainWindow = nullptr) {
+    return std::make_unique<FrmHistoryWindow>(fileSystem, options.dataFolder, frontEnd, catalog, "Nomra", mainWindow);
   }
-  static QTreeWidget& Files(FrmHistory& dialog) { return *dialog.findChild<QTreeWidget*>("lstFiles"); }
-  static QPushButton& Button(FrmHistory& dialog, const char* name) { return *dialog.findChild<QPushButton*>(name); }
-  static QStringList Column(FrmHistory& dialog, int column) {
+  static QTreeWidget& Files(FrmHistoryWindow& dialog) { return *dialog.findChild<QTreeWidget*>("lstFiles"); }
+  static QPushButton& Button(FrmHistoryWindow& dialog, const char* name) { return *dialog.findChild<QPushButton*>(name); }
+  static QStringList Column(FrmHistoryWindow& dialog, int column) {
     QStringList texts;
     QTreeWidget& files = Files(dialog);
     for (int i = 0; i < files.topLevelItemCount(); ++i) texts << files.topLevelItem(i)->text(column);
@@ -272,7 +272,7 @@ TEST_F(RenameHistoryDialog, TitleJoinsItsCaptionTheMenuEntryAndTheProgram) {
 
 TEST_F(RenameHistoryDialog, HeadsAndButtonsSpeakTheLanguageOfTheFile) {
   const lang::MessageCatalog german(nomra::testing::RealFiles(), GermanFile());
-  FrmHistory dialog(fileSystem, options.dataFolder, frontEnd, german, "Nomra");
+  FrmHistoryWindow dialog(fileSystem, options.dataFolder, frontEnd, german, "Nomra");
 
   QTreeWidgetItem& heads = *Files(dialog).headerItem();
   for (int column = 0; column < 4; ++column) {

@@ -11,8 +11,8 @@
 #include "support/RealFiles.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
-#include "ui/mainwindow/NotRenamedDialog.h"
-#include "ui/mainwindow/StartWindow.h"
+#include "ui/mainwindow/FrmNotRenamedWindow.h"
+#include "ui/mainwindow/FrmStartWindow.h"
 #include "ui/support/WindowFixture.h"
 
 using nomra::testing::Ini;
@@ -23,7 +23,7 @@ namespace {
 using nomra::testing::TempFolder;
 
 TEST(StartWindowTest, ClosesItselfByItsTimer) {
-  StartWindow start(lang::MessageCatalog(), "Nomra", "1.2.3");
+  FrmStartWindow start(lang::MessageCatalog(), "Nomra", "1.2.3");
   start.Zeit1().setInterval(10);
   start.Zeit1().start();
   start.show();
@@ -33,7 +33,7 @@ TEST(StartWindowTest, ClosesItselfByItsTimer) {
 }
 
 TEST(StartWindowTest, ShowsTheProgramsVersion) {
-  StartWindow start(lang::MessageCatalog(nomra::testing::RealFiles(), EnglishFile()), "Nomra", "1.2.3");
+  FrmStartWindow start(lang::MessageCatalog(nomra::testing::RealFiles(), EnglishFile()), "Nomra", "1.2.3");
   start.Zeit1().stop();
   EXPECT_EQ(start.findChild<QLabel*>("lblVers")->text(), "Version 1.2.3");
 }
@@ -66,7 +66,7 @@ TEST_F(NotRenamedDialogTest, ChoiceOfTheLastOkIsShownNextTime) {
   session.settingsPath = data.Path() + "settings.nrp";
   nomra::testing::ScriptedFrontEnd frontEnd;
   {
-    NotRenamedDialog first(result, catalog);
+    FrmNotRenamedWindow first(result, catalog);
     first.RememberChoiceIn(session, nomra::testing::RealFiles(), frontEnd);
     ASSERT_TRUE(first.findChild<QRadioButton*>("optNoAction")->isChecked());
     first.findChild<QRadioButton*>("optRemoveRenamed")->setChecked(true);
@@ -75,7 +75,7 @@ TEST_F(NotRenamedDialogTest, ChoiceOfTheLastOkIsShownNextTime) {
   EXPECT_EQ(Ini(session.settingsPath).ReadString("frmNotRenamed", "optRemoveRenamed"), "-1");
   EXPECT_EQ(Ini(session.settingsPath).ReadString("frmNotRenamed", "optNoAction"), "");
 
-  NotRenamedDialog second(result, catalog);
+  FrmNotRenamedWindow second(result, catalog);
   second.RememberChoiceIn(session, nomra::testing::RealFiles(), frontEnd);
   EXPECT_TRUE(second.findChild<QRadioButton*>("optRemoveRenamed")->isChecked());
   EXPECT_FALSE(second.findChild<QRadioButton*>("optNoAction")->isChecked());
@@ -87,7 +87,7 @@ TEST_F(NotRenamedDialogTest, CancelStoresNoChoice) {
   session.dataFolder = data.Path();
   session.settingsPath = data.Path() + "settings.nrp";
   nomra::testing::ScriptedFrontEnd frontEnd;
-  NotRenamedDialog dialog(result, catalog);
+  FrmNotRenamedWindow dialog(result, catalog);
   dialog.RememberChoiceIn(session, nomra::testing::RealFiles(), frontEnd);
   dialog.findChild<QRadioButton*>("optRemoveRenamed")->setChecked(true);
   dialog.findChild<QPushButton*>("cmdCancel")->click();
@@ -95,7 +95,7 @@ TEST_F(NotRenamedDialogTest, CancelStoresNoChoice) {
 }
 
 TEST_F(NotRenamedDialogTest, ListsEachRowWithNumberAndMessage) {
-  NotRenamedDialog dialog(result, catalog);
+  FrmNotRenamedWindow dialog(result, catalog);
   auto* rows = dialog.findChild<QTreeWidget*>("lstNotRenamed");
   ASSERT_EQ(rows->topLevelItemCount(), 2);
 
@@ -108,14 +108,14 @@ TEST_F(NotRenamedDialogTest, ListsEachRowWithNumberAndMessage) {
 }
 
 TEST_F(NotRenamedDialogTest, LeavingTheRowsIsChosenAtOpen) {
-  NotRenamedDialog dialog(result, catalog);
+  FrmNotRenamedWindow dialog(result, catalog);
   EXPECT_TRUE(dialog.findChild<QRadioButton*>("optNoAction")->isChecked());
   EXPECT_FALSE(dialog.findChild<QRadioButton*>("optRemoveRenamed")->isChecked());
   EXPECT_EQ(dialog.Choice(), commit::NotRenamedChoice::NoAction);
 }
 
 TEST_F(NotRenamedDialogTest, OkWithRemoveChosenRemovesTheRenamed) {
-  NotRenamedDialog dialog(result, catalog);
+  FrmNotRenamedWindow dialog(result, catalog);
   dialog.findChild<QRadioButton*>("optRemoveRenamed")->setChecked(true);
 
   dialog.findChild<QPushButton*>("cmdOK")->click();
@@ -124,7 +124,7 @@ TEST_F(NotRenamedDialogTest, OkWithRemoveChosenRemovesTheRenamed) {
 }
 
 TEST_F(NotRenamedDialogTest, CancelLeavesTheRowsWhateverWasChosen) {
-  NotRenamedDialog dialog(result, catalog);
+  FrmNotRenamedWindow dialog(result, catalog);
   dialog.findChild<QRadioButton*>("optRemoveRenamed")->setChecked(true);
 
   dialog.findChild<QPushButton*>("cmdCancel")->click();

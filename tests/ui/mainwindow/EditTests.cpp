@@ -10,7 +10,7 @@
 
 #include "core/FileEntry.h"
 #include "lang/MessageCatalog.h"
-#include "ui/mainwindow/EditManDialog.h"
+#include "ui/mainwindow/FrmEditManWindow.h"
 #include "ui/mainwindow/FileListModel.h"
 #include "ui/support/WindowFixture.h"
 
@@ -39,7 +39,7 @@ class EditTest : public WindowTest {
 };
 
 TEST(EditManDialogTest, DiscardsTheNineForbiddenCharactersWhenTyped) {
-  EditManDialog dialog(QString(), lang::MessageCatalog(), nullptr);
+  FrmEditManWindow dialog(QString(), lang::MessageCatalog(), nullptr);
   dialog.show();
   auto* name = dialog.findChild<QLineEdit*>("txtFileName");
   ASSERT_NE(name, nullptr);
@@ -50,7 +50,7 @@ TEST(EditManDialogTest, DiscardsTheNineForbiddenCharactersWhenTyped) {
 }
 
 TEST(EditManDialogTest, ShowsThePendingNameWithTheStemSelected) {
-  EditManDialog dialog("holiday.jpg", lang::MessageCatalog(), nullptr);
+  FrmEditManWindow dialog("holiday.jpg", lang::MessageCatalog(), nullptr);
   auto* name = dialog.findChild<QLineEdit*>("txtFileName");
 
   EXPECT_EQ(name->text(), "holiday.jpg");

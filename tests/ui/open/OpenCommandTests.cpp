@@ -7,7 +7,7 @@
 #include <QPushButton>
 
 #include "support/RealFiles.h"
-#include "ui/open/FrmOpen.h"
+#include "ui/open/FrmOpenWindow.h"
 #include "ui/open/SystemOpenDialog.h"
 #include "ui/support/WindowFixture.h"
 
@@ -27,15 +27,15 @@ class OpenCommandTest : public WindowTest {
       answer(*dialog);
     });
   }
-  void AnswerFrmOpen(const std::function<void(FrmOpen&)>& answer) {
+  void AnswerFrmOpen(const std::function<void(FrmOpenWindow&)>& answer) {
     expectedModals << "FrmOpen";
     modals.SetHandler([answer](QWidget& modal) {
-      auto* dialog = qobject_cast<FrmOpen*>(&modal);
+      auto* dialog = qobject_cast<FrmOpenWindow*>(&modal);
       ASSERT_NE(dialog, nullptr);
       answer(*dialog);
     });
   }
-  static void SelectRow(FrmOpen& dialog, const QString& text) {
+  static void SelectRow(FrmOpenWindow& dialog, const QString& text) {
     const auto found = dialog.findChild<QListWidget*>("lstFiles")->findItems(text, Qt::MatchExactly);
     ASSERT_EQ(found.size(), 1);
     found.first()->setSelected(true);
@@ -139,7 +139,7 @@ TEST_F(OpenCommandTest, SecondVariantShowsNomrasDialogAndLoadsASelectedFolderWit
   files.WriteFile("loose.txt");
   const std::string shown = files.Path();
   QString title;
-  AnswerFrmOpen([shown, &title](FrmOpen& dialog) {
+  AnswerFrmOpen([shown, &title](FrmOpenWindow& dialog) {
     title = dialog.windowTitle();
     dialog.setPath(shown);
     SelectRow(dialog, "tree");
@@ -166,7 +166,7 @@ TEST_F(OpenCommandTest, NomrasDialogStartsWithTheStoredBoxesAndHandsItsOwnBack) 
   Open();
   bool allFiles = false;
   bool subFolders = false;
-  AnswerFrmOpen([&](FrmOpen& dialog) {
+  AnswerFrmOpen([&](FrmOpenWindow& dialog) {
     allFiles = dialog.AllFiles();
     subFolders = dialog.SubFolders();
     dialog.findChild<QCheckBox*>("chkAllFiles")->setChecked(false);

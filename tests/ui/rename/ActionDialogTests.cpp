@@ -11,8 +11,8 @@
 #include "support/RealFiles.h"
 #include "ui/common/DialogBinder.h"
 #include "ui/rename/ActionWindows.h"
-#include "ui/rename/FrmPrefixSuffix.h"
-#include "ui/script/FrmScript.h"
+#include "ui/rename/FrmPrefixSuffixWindow.h"
+#include "ui/script/FrmScriptWindow.h"
 #include "ui/support/WindowFixture.h"
 
 using nomra::testing::Ini;
@@ -44,8 +44,8 @@ TEST_F(ActionDialogTest, EveryInputOfPrefixAndSuffixHasItsWidget) {
 
 TEST_F(ActionDialogTest, EveryInputOfTheScriptDialogHasItsWidget) {
   Open();
-  FrmScript dialog(window->Script(), system->Files(), window->FrontEnd(), window->Catalog(), window.get(), "Nomra");
-  script::ScriptChooser chooser(window->Script(), system->Files(), window->FrontEnd());
+  FrmScriptWindow dialog(window->Script(), system->Files(), window->FrontEnd(), window->Catalog(), window.get(), "Nomra");
+  script::FrmScript chooser(window->Script(), system->Files(), window->FrontEnd());
   EXPECT_EQ(InputsWithoutWidget(chooser.Model(), dialog), QStringList());
 }
 

@@ -14,8 +14,8 @@
 
 #include "structure/TagChoices.h"
 #include "ui/common/DialogBinder.h"
-#include "ui/structure/FrmNameStructure.h"
-#include "ui/structure/FrmSelNamePart.h"
+#include "ui/structure/FrmNameStructureWindow.h"
+#include "ui/structure/FrmSelNamePartWindow.h"
 #include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {
@@ -35,7 +35,7 @@ class NameStructureDialogTest : public WindowTest {
     return ActionWindowServices{window->Actions(), window->Catalog(), window.get(), QStringLiteral("Nomra"),
                                 [this] { window->RefreshPreview(); }};
   }
-  std::unique_ptr<FrmNameStructure> Dialog() { return std::make_unique<FrmNameStructure>(Services()); }
+  std::unique_ptr<FrmNameStructureWindow> Dialog() { return std::make_unique<FrmNameStructureWindow>(Services()); }
 
   static QLineEdit& Edit(QWidget& dialog, const char* name) { return *dialog.findChild<QLineEdit*>(name); }
   static QTreeWidget& Tree(QWidget& dialog, const char* name) { return *dialog.findChild<QTreeWidget*>(name); }
@@ -68,7 +68,7 @@ TEST_F(NameStructureDialogTest, EveryInputOfBothDialogsHasItsWidget) {
   const auto dialog = Dialog();
   EXPECT_EQ(InputsWithoutWidget(dialog->Editor().Model(), *dialog), QStringList());
   QLineEdit target;
-  FrmSelNamePart picker(target, Services());
+  FrmSelNamePartWindow picker(target, Services());
   EXPECT_EQ(InputsWithoutWidget(picker.Picker().Model(), picker), QStringList());
 }
 
@@ -287,7 +287,7 @@ TEST_F(SelNamePartDialogTest, ReadsTheTargetsTagAndShowsThePart) {
   AddFiles({"a - b - c.mp3"});
   QLineEdit target;
   target.setText("<NamePart(\"-\",2,0)>");
-  FrmSelNamePart dialog(target, Services());
+  FrmSelNamePartWindow dialog(target, Services());
   EXPECT_EQ(dialog.windowTitle(), LanguageText("frmSelNamePart", "Caption"));
   EXPECT_EQ(Edit(dialog, "txtSeparator").text(), "-");
   EXPECT_EQ(dialog.findChild<QComboBox*>("cmbPartCount")->currentIndex(), 1);
@@ -301,7 +301,7 @@ TEST_F(SelNamePartDialogTest, OkWritesTheTagIntoTheTarget) {
   Open();
   AddFiles({"x_y_z.jpg"});
   QLineEdit target;
-  FrmSelNamePart dialog(target, Services());
+  FrmSelNamePartWindow dialog(target, Services());
   QTest::keyClicks(&Edit(dialog, "txtSeparator"), "_");
   dialog.findChild<QComboBox*>("cmbPartCount")->setCurrentIndex(2);
   EXPECT_EQ(Edit(dialog, "txtResult").text(), "z");
@@ -314,7 +314,7 @@ TEST_F(SelNamePartDialogTest, WithoutASeparatorOkIsDisabled) {
   AddFiles({"x_y.jpg"});
   QLineEdit target;
   target.setText("keep");
-  FrmSelNamePart dialog(target, Services());
+  FrmSelNamePartWindow dialog(target, Services());
   EXPECT_FALSE(dialog.findChild<QPushButton*>("cmdOK")->isEnabled());
   QTest::keyClicks(&Edit(dialog, "txtSeparator"), "_");
   EXPECT_TRUE(dialog.findChild<QPushButton*>("cmdOK")->isEnabled());
@@ -323,7 +323,7 @@ TEST_F(SelNamePartDialogTest, WithoutASeparatorOkIsDisabled) {
 TEST_F(SelNamePartDialogTest, SeparatorRefusesTheCharactersNoNameHolds) {
   Open();
   QLineEdit target;
-  FrmSelNamePart dialog(target, Services());
+  FrmSelNamePartWindow dialog(target, Services());
   QTest::keyClicks(&Edit(dialog, "txtSeparator"), "a\\/:?*<>|\"b");
   EXPECT_EQ(Edit(dialog, "txtSeparator").text(), "ab");
 }
