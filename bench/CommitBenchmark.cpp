@@ -62,7 +62,7 @@ struct Move {
 
 struct Fixture {
   std::string title;
-  std::string root;             // walked by AddFile; removed and built again per run
+  std::string root;  // walked by AddFile; removed and built again per run
   std::vector<std::string> folders;
   std::vector<Move> moves;
   // Cycles of the permutation as indices into moves: moves[c[i]].to is
@@ -72,7 +72,7 @@ struct Fixture {
   bool permutation = false;
   std::string mmvFolder;  // where mmv runs; empty: mmv is not measured
   std::string mmvFrom, mmvTo;
-  double target = 0;      // at most this times the floor
+  double target = 0;  // at most this times the floor
 };
 
 Fixture PlainOneFolder(const std::string& root, int files) {
@@ -95,8 +95,8 @@ Fixture PlainSpread(const std::string& root, int files, int folders) {
   fixture.root = root + "/spread";
   for (int f = 0; f < folders; ++f) fixture.folders.push_back(fixture.root + Numbered("/d%03d/", f));
   for (int i = 0; i < files; ++i) {
-    fixture.moves.push_back({fixture.folders[static_cast<std::size_t>(i % folders)], Numbered("f%06d.dat", i),
-                             Numbered("g%06d.dat", i)});
+    fixture.moves.push_back(
+        {fixture.folders[static_cast<std::size_t>(i % folders)], Numbered("f%06d.dat", i), Numbered("g%06d.dat", i)});
   }
   fixture.mmvFolder = fixture.root;
   fixture.mmvFrom = "d*/f*.dat";
@@ -134,7 +134,8 @@ Fixture Permutation(const std::string& root, int files) {
     swap = !swap;
   }
   // A single file left over keeps its name.
-  for (int i = start; i < files; ++i) fixture.moves[static_cast<std::size_t>(i)].to = fixture.moves[static_cast<std::size_t>(i)].from;
+  for (int i = start; i < files; ++i)
+    fixture.moves[static_cast<std::size_t>(i)].to = fixture.moves[static_cast<std::size_t>(i)].from;
   return fixture;
 }
 
@@ -150,7 +151,8 @@ void Build(const Fixture& fixture) {
       std::perror(path.c_str());
       std::exit(1);
     }
-    if (fixture.permutation && write(fd, move.from.data(), move.from.size()) != static_cast<ssize_t>(move.from.size())) {
+    if (fixture.permutation &&
+        write(fd, move.from.data(), move.from.size()) != static_cast<ssize_t>(move.from.size())) {
       std::perror(path.c_str());
     }
     close(fd);
@@ -304,7 +306,8 @@ bool RunCase(const Fixture& fixture, const std::string& dataFolder, bool mmv, co
   PrintLine("Nomra", nomra, files);
   if (!mmvTimes.empty()) PrintLine("mmv", Median(mmvTimes), files);
   else if (!mmv) std::printf("  mmv: not installed (apt-get install mmv)\n");
-  else if (fixture.mmvFolder.empty()) std::printf("  mmv: not measured (no single mmv pattern expresses this permutation)\n");
+  else if (fixture.mmvFolder.empty())
+    std::printf("  mmv: not measured (no single mmv pattern expresses this permutation)\n");
   std::printf("  ratio Nomra/floor: %.2f (target at most %.2f)%s\n", nomra / floor, fixture.target,
               nomra / floor <= fixture.target ? "" : "  MISSED");
   if (!mmvTimes.empty()) std::printf("  ratio mmv/floor:   %.2f\n", Median(mmvTimes) / floor);

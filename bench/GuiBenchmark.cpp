@@ -5,14 +5,13 @@
 //   nomra-bench-gui [--quick] [--files N] [--folders F] [--runs R] [--dir PATH] [--keep]
 //
 // Runs on the offscreen platform unless QT_QPA_PLATFORM names another one.
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QObject>
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
@@ -25,11 +24,11 @@
 #include <vector>
 
 #include "BenchTree.h"
-#include "shell/CommandLine.h"
 #include "core/ExifDateReader.h"
 #include "core/FileEntry.h"
-#include "shell/Startup.h"
 #include "platform/Platform.h"
+#include "shell/CommandLine.h"
+#include "shell/Startup.h"
 #include "ui/mainwindow/MainWindow.h"
 
 namespace {
@@ -83,7 +82,8 @@ class DataFolder {
     path_ = std::filesystem::temp_directory_path() / ("nomra-bench-gui-data-" + std::to_string(getpid()));
     std::filesystem::remove_all(path_);
     std::filesystem::create_directories(path_);
-    std::ofstream(path_ / "settings.nrp") << "[Settings]\r\nlng=English\r\nsplash=0\r\nbtnbarMain=1\r\nbtnbarScript=1\r\n";
+    std::ofstream(path_ / "settings.nrp")
+        << "[Settings]\r\nlng=English\r\nsplash=0\r\nbtnbarMain=1\r\nbtnbarScript=1\r\n";
   }
   ~DataFolder() { std::filesystem::remove_all(path_); }
   std::string Path() const { return path_.string(); }
@@ -203,7 +203,8 @@ double TimeRefreshAndRepaint(nomra::ui::MainWindow& window) {
 // so that each refresh pushes a history level.
 void MakeEveryRowPending(nomra::core::FileList& list, int round) {
   const std::string suffix = round % 2 == 0 ? "_a" : "_b";
-  list.ForEach([&](nomra::core::FileEntry& row) { row[nomra::core::kColNewName] = row[nomra::core::kColOldName] + suffix; });
+  list.ForEach(
+      [&](nomra::core::FileEntry& row) { row[nomra::core::kColNewName] = row[nomra::core::kColOldName] + suffix; });
 }
 
 struct RefreshSummary {

@@ -15,8 +15,8 @@
 #include <string>
 #include <vector>
 
-#include "BenchTree.h"
 #include "BenchList.h"
+#include "BenchTree.h"
 #include "core/AddFile.h"
 
 namespace {

@@ -54,7 +54,8 @@ void RefreshAfterTenPercentChanged(benchmark::State& state, int sortColumn) {
     state.PauseTiming();
     ++round;
     f.state.list.ForEach([&](nomra::core::FileEntry& row) {
-      if (row.selected) row[nomra::core::kColNewName] = "new_" + std::to_string(round) + "_" + row[nomra::core::kColOldName];
+      if (row.selected)
+        row[nomra::core::kColNewName] = "new_" + std::to_string(round) + "_" + row[nomra::core::kColOldName];
     });
     state.ResumeTiming();
     f.preview.Refresh();
@@ -64,7 +65,9 @@ void RefreshAfterTenPercentChanged(benchmark::State& state, int sortColumn) {
 }
 
 void BM_RefreshFolderOrder(benchmark::State& state) { RefreshAfterTenPercentChanged(state, 0); }
-void BM_RefreshSortedByNewName(benchmark::State& state) { RefreshAfterTenPercentChanged(state, nomra::core::kColNewName); }
+void BM_RefreshSortedByNewName(benchmark::State& state) {
+  RefreshAfterTenPercentChanged(state, nomra::core::kColNewName);
+}
 BENCHMARK(BM_RefreshFolderOrder)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_RefreshSortedByNewName)->Unit(benchmark::kMillisecond);
 

@@ -37,8 +37,8 @@ void EvaluateAllRows(benchmark::State& state, const std::string& structure) {
   }
   benchmark::DoNotOptimize(bytes);
   state.counters["rows"] = kRows;
-  state.counters["rows_per_second"] =
-      benchmark::Counter(static_cast<double>(kRows) * static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
+  state.counters["rows_per_second"] = benchmark::Counter(
+      static_cast<double>(kRows) * static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
 }
 
 void BM_NameFamilyAndCaseBrackets(benchmark::State& state) {

@@ -2,14 +2,15 @@
 // main window, carries out the command line, and shows the window.
 #include <QApplication>
 #include <QMessageBox>
+
 #include <memory>
 
-#include "shell/CommandLine.h"
 #include "core/ExifDateReader.h"
-#include "shell/Startup.h"
-#include "lang/ChooseLanguage.h"
 #include "formats/IniFile.h"
+#include "lang/ChooseLanguage.h"
 #include "platform/Platform.h"
+#include "shell/CommandLine.h"
+#include "shell/Startup.h"
 #include "ui/common/LanguageDialog.h"
 #include "ui/mainwindow/MainWindow.h"
 
@@ -23,8 +24,7 @@ std::string PickLanguage(nomra::platform::FileSystem& fileSystem, const nomra::s
   const nomra::formats::IniFile settingsFile(fileSystem, paths.settingsPath);
   const LanguageChoice choice = ChooseLanguage(paths.appFolder, settingsFile);
   switch (choice.outcome) {
-    case LanguageOutcome::Chosen:
-      return choice.file;
+    case LanguageOutcome::Chosen: return choice.file;
     case LanguageOutcome::NoLanguageFiles:
       QMessageBox::critical(nullptr, kNoLanguageFilesCaption, QString::fromStdString(NoLanguageFilesText(kAppTitle)));
       return {};
@@ -49,7 +49,8 @@ int main(int argc, char** argv) {
   // The one place the window's program picks the system it runs on.
   const std::unique_ptr<nomra::platform::Platform> system = nomra::platform::MakeSystemPlatform();
   nomra::core::NoExifDates exifDates;
-  const nomra::shell::StartupPaths paths = nomra::shell::PrepareStartup(system->Files(), system->Locations(), std::string());
+  const nomra::shell::StartupPaths paths =
+      nomra::shell::PrepareStartup(system->Files(), system->Locations(), std::string());
   const std::string languageFile = PickLanguage(system->Files(), paths);
   if (languageFile.empty()) return 1;
 

@@ -29,8 +29,8 @@ std::string ReplaceHits(std::string_view text, std::size_t findLength, std::stri
 
 // Compares character by character, each lower-cased on its own, so that a
 // match always covers whole characters of the text as it stands.
-std::string ReplaceIgnoringCase(std::string_view text, std::string_view find, std::string_view with,
-                                std::size_t from, long count) {
+std::string ReplaceIgnoringCase(std::string_view text, std::string_view find, std::string_view with, std::size_t from,
+                                long count) {
   std::u32string needle = base::ToChars(find);
   for (char32_t& c : needle) c = base::ToLowerChar(c);
 

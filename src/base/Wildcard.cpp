@@ -61,12 +61,9 @@ std::vector<Token> Compile(const std::u32string& p) {
 
 bool MatchesOne(const Token& t, char32_t lowered) {
   switch (t.kind) {
-    case TokenKind::AnyOne:
-      return true;
-    case TokenKind::Digit:
-      return lowered >= U'0' && lowered <= U'9';
-    case TokenKind::Literal:
-      return lowered == t.literal;
+    case TokenKind::AnyOne: return true;
+    case TokenKind::Digit: return lowered >= U'0' && lowered <= U'9';
+    case TokenKind::Literal: return lowered == t.literal;
     case TokenKind::Set: {
       bool inSet = false;
       for (std::size_t k = 0; k + 1 < t.set.size(); k += 2) {
@@ -74,8 +71,7 @@ bool MatchesOne(const Token& t, char32_t lowered) {
       }
       return inSet != t.negated;
     }
-    case TokenKind::AnyRun:
-      break;
+    case TokenKind::AnyRun: break;
   }
   return false;
 }

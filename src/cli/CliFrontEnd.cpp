@@ -6,20 +6,15 @@ namespace {
 
 bool IsQuestion(core::MessageStyle style) {
   return style == core::MessageStyle::YesNo || style == core::MessageStyle::YesNoDefaultNo ||
-         style == core::MessageStyle::YesNoCancelDefaultNo ||
-         style == core::MessageStyle::YesNoWarningDefaultNo;
+         style == core::MessageStyle::YesNoCancelDefaultNo || style == core::MessageStyle::YesNoWarningDefaultNo;
 }
 
 const char* AnswerName(core::Answer answer) {
   switch (answer) {
-    case core::Answer::Ok:
-      return "Ok";
-    case core::Answer::Cancel:
-      return "Cancel";
-    case core::Answer::Yes:
-      return "Yes";
-    case core::Answer::No:
-      return "No";
+    case core::Answer::Ok: return "Ok";
+    case core::Answer::Cancel: return "Cancel";
+    case core::Answer::Yes: return "Yes";
+    case core::Answer::No: return "No";
   }
   return "?";
 }
@@ -28,16 +23,13 @@ const char* AnswerName(core::Answer answer) {
 
 core::Answer DefaultAnswer(core::MessageStyle style) {
   switch (style) {
-    case core::MessageStyle::YesNo:
-      return core::Answer::Yes;
+    case core::MessageStyle::YesNo: return core::Answer::Yes;
     case core::MessageStyle::YesNoDefaultNo:
     case core::MessageStyle::YesNoCancelDefaultNo:
-    case core::MessageStyle::YesNoWarningDefaultNo:
-      return core::Answer::No;
+    case core::MessageStyle::YesNoWarningDefaultNo: return core::Answer::No;
     case core::MessageStyle::OkWarning:
     case core::MessageStyle::OkStop:
-    case core::MessageStyle::OkInformation:
-      return core::Answer::Ok;
+    case core::MessageStyle::OkInformation: return core::Answer::Ok;
   }
   return core::Answer::Ok;
 }
@@ -46,8 +38,7 @@ core::Answer CliFrontEnd::Ask(const core::Message& message) {
   const bool question = IsQuestion(message.style);
   const core::Answer answer = question && answerYes_ ? core::Answer::Yes : DefaultAnswer(message.style);
   // Until the language texts are read, the key names the message.
-  messages_ << (question ? "question " : "message ") << message.textKey << ": answered " << AnswerName(answer)
-            << '\n';
+  messages_ << (question ? "question " : "message ") << message.textKey << ": answered " << AnswerName(answer) << '\n';
   return answer;
 }
 

@@ -31,8 +31,7 @@ void RunSteps(CliSession& session, const std::vector<Step>& steps, std::ostream&
 
 }  // namespace
 
-int RunInvocation(platform::Platform& system, const Invocation& invocation, std::ostream& out,
-                  std::ostream& messages) {
+int RunInvocation(platform::Platform& system, const Invocation& invocation, std::ostream& out, std::ostream& messages) {
   CliFrontEnd frontEnd(messages, invocation.answerYes);
   const shell::StartupPaths paths = shell::PrepareStartup(system.Files(), system.Locations(), invocation.dataFolder);
   CliSession session(system.Files(), frontEnd);

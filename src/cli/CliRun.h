@@ -10,7 +10,6 @@ namespace nomra::cli {
 // over the data folder, loads every path, runs the steps in order and prints
 // the list to `out`. Questions, notes and faults go to `messages`. Returns
 // the exit status.
-int RunInvocation(platform::Platform& system, const Invocation& invocation, std::ostream& out,
-                  std::ostream& messages);
+int RunInvocation(platform::Platform& system, const Invocation& invocation, std::ostream& out, std::ostream& messages);
 
 }  // namespace nomra::cli

@@ -27,7 +27,9 @@ class CliSession {
   CliSession& operator=(const CliSession&) = delete;
 
   // Reads the options and the script session's files from the settings.
-  void Start(const shell::StartupPaths& paths) { shell::LoadStartupSettings(paths, {fileSystem, frontEnd, options, script}); }
+  void Start(const shell::StartupPaths& paths) {
+    shell::LoadStartupSettings(paths, {fileSystem, frontEnd, options, script});
+  }
 
   core::ListContext List() { return {state, frontEnd, preview}; }
   rename::ActionContext Actions() { return {List(), texts, script, fileSystem}; }

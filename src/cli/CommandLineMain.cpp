@@ -14,7 +14,7 @@
 namespace nomra::cli {
 
 int RunCliArguments(platform::Platform& system, const std::vector<std::string>& arguments, std::ostream& out,
-                   std::ostream& messages) {
+                    std::ostream& messages) {
   if (!arguments.empty() && arguments.front() == kEvalCommand) {
     return RunEvalCommand(system, {arguments.begin() + 1, arguments.end()}, out, messages);
   }

@@ -11,6 +11,6 @@ namespace nomra::cli {
 // on `system`, prints on `out` and `messages`, and returns the exit status.
 // Whatever the engine didn't expect still ends with a message, not an abort.
 int RunCliArguments(platform::Platform& system, const std::vector<std::string>& arguments, std::ostream& out,
-                   std::ostream& messages);
+                    std::ostream& messages);
 
 }  // namespace nomra::cli

@@ -2,8 +2,8 @@
 #include <ostream>
 #include <vector>
 
-#include "commit/ReportRow.h"
 #include "cli/CliSession.h"
+#include "commit/ReportRow.h"
 
 namespace nomra::cli {
 

@@ -2,6 +2,7 @@
 #include <ostream>
 #include <string>
 #include <vector>
+
 #include "platform/Platform.h"
 
 namespace nomra::cli {

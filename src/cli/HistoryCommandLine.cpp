@@ -70,8 +70,8 @@ HistoryInvocation ParseHistoryCommandLine(const std::vector<std::string>& argume
     const std::string_view name = joined ? std::string_view(argument).substr(0, equals) : std::string_view(argument);
     const HistoryOptionSpec* option = FindHistoryOption(name);
     if (option == nullptr) {
-      throw UsageError("history takes no " + std::string(argument.starts_with("-") ? "option '" : "path '") +
-                       argument + "'");
+      throw UsageError("history takes no " + std::string(argument.starts_with("-") ? "option '" : "path '") + argument +
+                       "'");
     }
     std::optional<std::string> value;
     if (joined) value = argument.substr(equals + 1);

@@ -10,7 +10,7 @@ namespace nomra::cli {
 inline constexpr std::string_view kHistoryCommand = "history";
 
 struct HistoryInvocation {
-  std::vector<int> undo;   // record numbers from 1, in file order
+  std::vector<int> undo;  // record numbers from 1, in file order
   bool clear = false;
   bool json = false;
   std::string dataFolder;  // empty: NOMRA_DATA_DIR or the default folder
@@ -22,7 +22,7 @@ struct HistoryOptionSpec {
   std::string_view name;
   std::string_view argument;  // empty: takes nothing
   std::string_view help;
-  std::string_view example;   // the arguments after "nomra-cli "
+  std::string_view example;  // the arguments after "nomra-cli "
   std::function<void(HistoryInvocation& invocation, const std::string& argument)> apply;
 };
 

@@ -21,8 +21,8 @@ std::string Grouped(std::size_t count) { return base::FormatGrouped(static_cast<
 void WriteRecord(std::ostream& out, std::size_t number, const history::HistoryRow& row) {
   out << "{\"number\":" << number << ",\"time\":" << JsonString(row.time)
       << ",\"date\":" << JsonString(row.ColumnText(0)) << ",\"folder\":" << JsonString(row.folder)
-      << ",\"oldName\":" << JsonString(row.oldName) << ",\"newName\":" << JsonString(row.newName)
-      << ",\"state\":\"" << HistoryState(row) << "\"}";
+      << ",\"oldName\":" << JsonString(row.oldName) << ",\"newName\":" << JsonString(row.newName) << ",\"state\":\""
+      << HistoryState(row) << "\"}";
 }
 
 }  // namespace
@@ -35,15 +35,16 @@ void WriteHistoryTable(std::ostream& out, const history::HistoryList& list) {
     const history::HistoryRow& row = list.rows[i];
     const std::string number = std::to_string(i + 1);
     out << std::string(width - number.size(), ' ') << number << "  " << HistoryState(row)
-        << (row.present ? "  " : "    ") << row.ColumnText(0) << "  " << row.folder << "  " << row.oldName
-        << " -> " << row.newName << '\n';
+        << (row.present ? "  " : "    ") << row.ColumnText(0) << "  " << row.folder << "  " << row.oldName << " -> "
+        << row.newName << '\n';
   }
   const std::size_t black = static_cast<std::size_t>(BlackCount(list));
   out << Grouped(list.rows.size()) << (list.rows.size() == 1 ? " record, " : " records, ") << Grouped(black)
       << " black, " << Grouped(list.rows.size() - black) << " red\n";
 }
 
-void WriteHistoryJson(std::ostream& out, const history::HistoryList& list, const std::vector<commit::ReportRow>& failures) {
+void WriteHistoryJson(std::ostream& out, const history::HistoryList& list,
+                      const std::vector<commit::ReportRow>& failures) {
   out << "{\"records\":[";
   for (std::size_t i = 0; i < list.rows.size(); ++i) {
     if (i > 0) out << ",\n";

@@ -19,6 +19,7 @@ void WriteHistoryTable(std::ostream& out, const history::HistoryList& list);
 // {"records":[{"number":N,"time":…,"date":…,"folder":…,"oldName":…,
 //   "newName":…,"state":"black"|"red"},…],"black":B,"red":R,"failures":[…]}
 // `failures` holds the undos that didn't happen, as the commit's report rows.
-void WriteHistoryJson(std::ostream& out, const history::HistoryList& list, const std::vector<commit::ReportRow>& failures);
+void WriteHistoryJson(std::ostream& out, const history::HistoryList& list,
+                      const std::vector<commit::ReportRow>& failures);
 
 }  // namespace nomra::cli

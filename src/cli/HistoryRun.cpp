@@ -50,9 +50,9 @@ int RunHistoryCommand(platform::Platform& system, const HistoryInvocation& invoc
   platform::FileSystem& fileSystem = system.Files();
   const std::string dataFolder =
       invocation.dataFolder.empty() ? system.Locations().DataFolder() : base::AddBackslash(invocation.dataFolder);
-  const history::HistoryServices services{fileSystem, frontEnd, dataFolder, [&messages](const commit::ReportRow& failure) {
-                                             messages << "nomra-cli: " << failure.Describe() << '\n';
-                                           }};
+  const history::HistoryServices services{
+      fileSystem, frontEnd, dataFolder,
+      [&messages](const commit::ReportRow& failure) { messages << "nomra-cli: " << failure.Describe() << '\n'; }};
   std::vector<commit::ReportRow> failures;
 
   history::HistoryList list;

@@ -17,10 +17,10 @@ struct LoadSource {
 
 // What one command line asks for.
 struct Invocation {
-  std::vector<LoadSource> sources;  // loaded first, in command-line order
-  std::vector<Step> steps;         // then run in this order
-  std::string dataFolder;          // empty: NOMRA_DATA_DIR or the default folder
-  bool commit = false;             // take the pending names to disk after every step
+  std::vector<LoadSource> sources;      // loaded first, in command-line order
+  std::vector<Step> steps;              // then run in this order
+  std::string dataFolder;               // empty: NOMRA_DATA_DIR or the default folder
+  bool commit = false;                  // take the pending names to disk after every step
   std::optional<bool> protocolRenames;  // overrides the setting when given
   bool json = false;
   bool answerYes = false;

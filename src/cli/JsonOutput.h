@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "commit/ReportRow.h"
 #include "cli/CliSession.h"
+#include "commit/ReportRow.h"
 
 namespace nomra::cli {
 

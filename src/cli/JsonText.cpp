@@ -22,29 +22,14 @@ std::string JsonString(std::string_view text) {
   out += '"';
   base::ForEachChar(text, [&](char32_t character, std::size_t offset, std::size_t length) {
     switch (character) {
-      case '"':
-        out += "\\\"";
-        return;
-      case '\\':
-        out += "\\\\";
-        return;
-      case '\b':
-        out += "\\b";
-        return;
-      case '\f':
-        out += "\\f";
-        return;
-      case '\n':
-        out += "\\n";
-        return;
-      case '\r':
-        out += "\\r";
-        return;
-      case '\t':
-        out += "\\t";
-        return;
-      default:
-        break;
+      case '"': out += "\\\""; return;
+      case '\\': out += "\\\\"; return;
+      case '\b': out += "\\b"; return;
+      case '\f': out += "\\f"; return;
+      case '\n': out += "\\n"; return;
+      case '\r': out += "\\r"; return;
+      case '\t': out += "\\t"; return;
+      default: break;
     }
     if (character < 0x20 || base::IsRawByte(character)) {
       AppendUnicodeEscape(out, character);

@@ -18,7 +18,8 @@ bool MatchesAny(const std::string& name, const std::vector<std::string>& pattern
 }  // namespace
 
 void SelectMatching(CliSession& session, const std::vector<std::string>& patterns) {
-  session.state.list.ForEach([&](core::FileEntry& row) { row.selected = MatchesAny(row[core::kColOldName], patterns); });
+  session.state.list.ForEach(
+      [&](core::FileEntry& row) { row.selected = MatchesAny(row[core::kColOldName], patterns); });
   session.preview.Refresh();
 }
 

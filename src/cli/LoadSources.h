@@ -1,8 +1,8 @@
 #pragma once
 #include <vector>
 
-#include "cli/Invocation.h"
 #include "cli/CliSession.h"
+#include "cli/Invocation.h"
 
 namespace nomra::cli {
 

@@ -15,14 +15,16 @@ void AddStep(Invocation& invocation, std::string_view option, std::function<void
 }
 
 void AddSelect(Invocation& invocation, const std::string& argument) {
-  AddStep(invocation, "--select",
-          [patterns = SplitPatterns(argument)](CliSession& session, std::ostream&) { SelectMatching(session, patterns); });
+  AddStep(invocation, "--select", [patterns = SplitPatterns(argument)](CliSession& session, std::ostream&) {
+    SelectMatching(session, patterns);
+  });
 }
 
 void AddScope(Invocation& invocation, const std::string& argument) {
   const std::optional<int> scope = ParseApplyScope(argument);
   if (!scope) throw UsageError("--scope takes all, selected or unselected, not '" + argument + "'");
-  AddStep(invocation, "--scope", [scope = *scope](CliSession& session, std::ostream&) { SetApplyScope(session, scope); });
+  AddStep(invocation, "--scope",
+          [scope = *scope](CliSession& session, std::ostream&) { SetApplyScope(session, scope); });
 }
 
 void AddSort(Invocation& invocation, const std::string& argument) {
@@ -37,9 +39,7 @@ void AddSort(Invocation& invocation, const std::string& argument) {
 
 void AddUndo(Invocation& invocation, const std::string&) { AddStep(invocation, "--undo", UndoOneStep); }
 
-void AddReject(Invocation& invocation, const std::string&) {
-  AddStep(invocation, "--reject", RejectPendingChanges);
-}
+void AddReject(Invocation& invocation, const std::string&) { AddStep(invocation, "--reject", RejectPendingChanges); }
 
 void AddEdit(Invocation& invocation, const std::string& argument) {
   AddStep(invocation, "--edit",
@@ -114,7 +114,8 @@ const std::vector<OptionSpec>& OptionTable() {
        "setting protren says.",
        "--edit 'Report.txt' --commit --protocol ./docs/report.txt",
        [](Invocation& invocation, const std::string&) { invocation.protocolRenames = true; }},
-      {"--no-protocol", "", "", "Keeps the renames of --commit out of the rename protocol, whatever the setting "
+      {"--no-protocol", "", "",
+       "Keeps the renames of --commit out of the rename protocol, whatever the setting "
        "protren says.",
        "--edit 'Report.txt' --commit --no-protocol ./docs/report.txt",
        [](Invocation& invocation, const std::string&) { invocation.protocolRenames = false; }},

@@ -15,7 +15,7 @@ struct OptionSpec {
   std::string_view shortName;  // "-h", or empty
   std::string_view argument;   // what it takes, as the help names it; empty: nothing
   std::string_view help;
-  std::string_view example;    // the arguments after "nomra-cli "
+  std::string_view example;  // the arguments after "nomra-cli "
   // Appends a step or sets a setting; throws UsageError for a bad value.
   std::function<void(Invocation& invocation, const std::string& argument)> apply;
 };

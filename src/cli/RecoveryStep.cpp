@@ -5,7 +5,8 @@
 namespace nomra::cli {
 
 void RecoverAtStart(CliSession& session, std::ostream& messages) {
-  const commit::InterruptedCommit commit = commit::RecoverInterruptedCommit(session.fileSystem, session.options.dataFolder);
+  const commit::InterruptedCommit commit =
+      commit::RecoverInterruptedCommit(session.fileSystem, session.options.dataFolder);
   for (const std::string& names : commit.finished) {
     messages << "nomra-cli: interrupted commit: finished " << names << '\n';
   }

@@ -3,19 +3,21 @@
 #include "base/Fault.h"
 #include "cli/ExitStatus.h"
 #include "cli/JsonText.h"
-#include "shell/Startup.h"
-#include "structure/ApplyStructure.h"
 #include "script/ScriptFiles.h"
 #include "script/ScriptPlayback.h"
+#include "shell/Startup.h"
+#include "structure/ApplyStructure.h"
 
 namespace nomra::cli {
 
 void PlayScriptFile(CliSession& session, const std::string& file, std::ostream&) {
   const rename::ActionContext actions = session.Actions();
-  const bool played = script::RunScriptArgument(session.script, session.fileSystem, file,
-                                        [&actions](int stepType) { script::PlayStepWithoutWindow(actions, stepType); });
+  const bool played = script::RunScriptArgument(session.script, session.fileSystem, file, [&actions](int stepType) {
+    script::PlayStepWithoutWindow(actions, stepType);
+  });
   if (!played) {
-    throw base::RuntimeFault("no script '" + file + "', neither as a path nor in " + script::ScriptFolder(session.script.dataFolder));
+    throw base::RuntimeFault("no script '" + file + "', neither as a path nor in " +
+                             script::ScriptFolder(session.script.dataFolder));
   }
 }
 

@@ -1,14 +1,13 @@
 #include "commit/CommitBatch.h"
-#include "base/Quoting.h"
-#include "lang/MessageKeys.h"
 
 #include <cerrno>
 
+#include "base/Quoting.h"
+#include "lang/MessageKeys.h"
+
 namespace nomra::commit {
 
-namespace {
-
-}  // namespace
+namespace {}  // namespace
 
 void CommitBatch::Fail(const std::string& rowKey, const base::Failure& failure, const std::string& src,
                        const std::string& dst) {
@@ -22,8 +21,7 @@ void CommitBatch::BeginJournal(const std::vector<JournalPlanEntry>& plan,
   if (const int error = journal_.Begin(context.options.dataFolder, plan, temporaries); error != 0) FailJournal(error);
 }
 
-void CommitBatch::JournalTemporary(const std::string& source, const std::string& temporary,
-                                   const std::string& final) {
+void CommitBatch::JournalTemporary(const std::string& source, const std::string& temporary, const std::string& final) {
   if (!journal_.IsOpen()) return;
   if (const int error = journal_.RecordTemporary(source, temporary, final); error != 0) FailJournal(error);
 }
@@ -37,7 +35,8 @@ void CommitBatch::FailJournal(int error) {
   const std::string why = error == EEXIST ? "one is there already, left by an interrupted commit or held by a "
                                             "commit in another Nomra"
                                           : base::SystemErrorText(error);
-  row.systemText = "not written (" + why + "); the renames went on, but one cut short by a crash could not be "
+  row.systemText = "not written (" + why +
+                   "); the renames went on, but one cut short by a crash could not be "
                    "repaired at the next start";
   result.notRenamed.push_back(std::move(row));
 }

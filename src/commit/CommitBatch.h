@@ -2,13 +2,13 @@
 #include <string>
 #include <vector>
 
+#include "base/LocalClock.h"
+#include "commit/CommitContext.h"
 #include "commit/CommitJournal.h"
 #include "commit/CommitResult.h"
-#include "base/LocalClock.h"
 #include "commit/PathKeys.h"
 #include "commit/ProtocolWriter.h"
 #include "commit/RenameFailure.h"
-#include "commit/CommitContext.h"
 
 namespace nomra::commit {
 
@@ -18,7 +18,12 @@ class CommitBatch {
  public:
   CommitBatch(const CommitContext& context, CommitResult& result, ProtocolWriter& protocol, CommitJournal& journal,
               const base::LocalClock& clock)
-      : context(context), result(result), keys(context.fileSystem), protocol_(protocol), journal_(journal), clock_(clock) {}
+      : context(context),
+        result(result),
+        keys(context.fileSystem),
+        protocol_(protocol),
+        journal_(journal),
+        clock_(clock) {}
 
   // The failure handler: one numbered report row; the commit goes on.
   void Fail(const std::string& rowKey, const base::Failure& failure, const std::string& src, const std::string& dst);

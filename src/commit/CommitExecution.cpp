@@ -180,7 +180,8 @@ void ReportBlockedRows(CommitBatch& batch, const OrderedPathMap& blocked) {
   blocked.ForEach([&](const std::string& key) {
     ++number;
     const core::FileEntry* row = list.Find(key);
-    const std::string dst = row == nullptr ? std::string() : base::AddBackslash((*row)[core::kColPath]) + (*row)[core::kColNewName];
+    const std::string dst =
+        row == nullptr ? std::string() : base::AddBackslash((*row)[core::kColPath]) + (*row)[core::kColNewName];
     const std::string reportKey = number <= list.Count() ? list.Item(number).key : key;
     batch.Fail(reportKey, base::Failure{base::FailureKind::TargetExists, {}}, key, dst);
   });

@@ -40,8 +40,8 @@ class CommitJournal {
   bool IsOpen() const { return file_ != nullptr; }
 
   // Appends a "T" record and flushes it before a move to a temporary name
-  // that Begin didn't foresee happens (the disk changed since the plan). Returns 0 or the errno of the failure; after a failure the
-  // journal is closed (and stays on disk with what it holds).
+  // that Begin didn't foresee happens (the disk changed since the plan). Returns 0 or the errno of the failure; after a
+  // failure the journal is closed (and stays on disk with what it holds).
   int RecordTemporary(std::string_view source, std::string_view temporary, std::string_view final);
 
   // The batch ended: the journal goes. Its removal isn't flushed: a journal

@@ -9,13 +9,13 @@
 #include <utility>
 #include <vector>
 
+#include "base/DateText.h"
 #include "base/Failure.h"
 #include "base/Paths.h"
 #include "base/Quoting.h"
 #include "commit/CommitExecution.h"
 #include "commit/CommitJournal.h"
 #include "commit/JournalFormat.h"
-#include "base/DateText.h"
 
 namespace nomra::commit {
 
@@ -54,7 +54,8 @@ void FinishTemporary(platform::FileSystem& fileSystem, const JournalTemporaryEnt
     // Moved on to the final name already, or never moved away from the
     // source: both leave the file under a name of its own.
     if (!planned && !IsThere(fileSystem, entry.final) && !IsThere(fileSystem, entry.source)) {
-      commit.unresolved.push_back(base::Quoted(entry.source) + " -> " + names + ": the file is under none of these names");
+      commit.unresolved.push_back(base::Quoted(entry.source) + " -> " + names +
+                                  ": the file is under none of these names");
     }
     return;
   }
@@ -149,7 +150,8 @@ InterruptedCommit RecoverInterruptedCommit(platform::FileSystem& fileSystem, con
   const platform::ExistingLock journal = fileSystem.LockExisting(path);
   if (journal.state == platform::ExistingLock::State::Failed) {
     commit.found = true;
-    commit.unresolved.push_back("the journal " + base::Quoted(path) + " can't be read: " + base::SystemErrorText(journal.error));
+    commit.unresolved.push_back("the journal " + base::Quoted(path) +
+                                " can't be read: " + base::SystemErrorText(journal.error));
     return commit;
   }
   // A commit of another Nomra is running, or there is nothing to do.

@@ -23,10 +23,9 @@ struct InterruptedCommit {
 // names: a file under a temporary name goes to its final name when that is
 // free, else back to its old name when that is free, never replacing
 // anything. Nothing else is renamed: a plain rename of the batch either
-// happened or didn't, and either way each file has one of its two names. The journal is then removed or, when something stayed
-// unresolved, renamed to "commit.journal.<yyyymmddhhnnss>.left" so that it
-// is kept for the user and not read again. A journal locked by a commit
-// running in another Nomra is left alone.
+// happened or didn't, and either way each file has one of its two names. The journal is then removed or, when something
+// stayed unresolved, renamed to "commit.journal.<yyyymmddhhnnss>.left" so that it is kept for the user and not read
+// again. A journal locked by a commit running in another Nomra is left alone.
 InterruptedCommit RecoverInterruptedCommit(platform::FileSystem& fileSystem, const std::string& dataFolder,
                                            const base::LocalClock& clock = base::LocalTimeNow);
 

@@ -1,8 +1,8 @@
 #pragma once
 #include <functional>
 
-#include "commit/CommitResult.h"
 #include "base/LocalClock.h"
+#include "commit/CommitResult.h"
 
 namespace nomra::commit {
 

@@ -1,9 +1,9 @@
 #pragma once
 #include <utility>
 
+#include "commit/CommitContext.h"
 #include "commit/CommitResult.h"
 #include "commit/CommitServices.h"
-#include "commit/CommitContext.h"
 #include "core/RowCommitter.h"
 
 namespace nomra::commit {

@@ -2,8 +2,8 @@
 #include <optional>
 #include <string>
 
-#include "commit/RenameFailure.h"
 #include "commit/CommitContext.h"
+#include "commit/RenameFailure.h"
 
 namespace nomra::commit {
 
@@ -12,8 +12,8 @@ namespace nomra::commit {
 // A name another row of the list still holds is refused as taken even when
 // no file is there (that row's file has vanished): the list could not give
 // two rows one key, and the other row's rename would take this file along.
-std::optional<base::Failure> RenameOnDisk(const CommitContext& context, const core::FileEntry& row, const std::string& from,
-                                    const std::string& to);
+std::optional<base::Failure> RenameOnDisk(const CommitContext& context, const core::FileEntry& row,
+                                          const std::string& from, const std::string& to);
 
 // The reason recorded when the file system reports success and the old name
 // is still there.

@@ -1,7 +1,7 @@
 #pragma once
+#include "commit/CommitContext.h"
 #include "commit/CommitResult.h"
 #include "commit/CommitServices.h"
-#include "commit/CommitContext.h"
 
 namespace nomra::commit {
 

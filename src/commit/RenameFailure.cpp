@@ -21,8 +21,7 @@ base::Failure OfKind(base::FailureKind kind, int error) {
 base::Failure FailureOfError(int error) {
   switch (error) {
     case EEXIST:
-    case ENOTEMPTY:
-      return OfKind(base::FailureKind::TargetExists, error);
+    case ENOTEMPTY: return OfKind(base::FailureKind::TargetExists, error);
     case EACCES:
     case EPERM:
     case EROFS:
@@ -31,8 +30,7 @@ base::Failure FailureOfError(int error) {
     case ENAMETOOLONG:
     case EINVAL:  // a name the volume can't hold
       return OfKind(base::FailureKind::PathNotUsable, error);
-    default:
-      return base::SystemFailure(error);
+    default: return base::SystemFailure(error);
   }
 }
 

@@ -33,7 +33,9 @@ class CommitScope {
 
 // Without a data folder there is no protocol to open.
 std::string ProtocolPath(const CommitContext& context) {
-  return context.options.dataFolder.empty() ? std::string() : base::AddBackslash(context.options.dataFolder) + settings::kProtocolFileName;
+  return context.options.dataFolder.empty()
+             ? std::string()
+             : base::AddBackslash(context.options.dataFolder) + settings::kProtocolFileName;
 }
 
 }  // namespace

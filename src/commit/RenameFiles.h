@@ -1,7 +1,7 @@
 #pragma once
-#include "commit/CommitResult.h"
 #include "base/LocalClock.h"
 #include "commit/CommitContext.h"
+#include "commit/CommitResult.h"
 
 namespace nomra::commit {
 
@@ -14,6 +14,7 @@ inline constexpr int kWholeList = -1;
 // alone. No file is ever replaced. Each rename is written to the protocol
 // when renames are logged. Returns the rows not renamed and the keys renamed;
 // the caller refreshes the list.
-CommitResult mdlRenameFiles(const CommitContext& context, int position, const base::LocalClock& clock = base::LocalTimeNow);
+CommitResult mdlRenameFiles(const CommitContext& context, int position,
+                            const base::LocalClock& clock = base::LocalTimeNow);
 
 }  // namespace nomra::commit

@@ -1,8 +1,9 @@
 #include "commit/ReportRow.h"
-#include "base/Quoting.h"
-#include "lang/MessageKeys.h"
 
 #include <utility>
+
+#include "base/Quoting.h"
+#include "lang/MessageKeys.h"
 
 namespace nomra::commit {
 
@@ -28,12 +29,9 @@ std::string Names(const ReportRow& row) {
 
 const char* TextKeyOf(base::FailureKind kind) {
   switch (kind) {
-    case base::FailureKind::TargetExists:
-      return lang::kTargetExistsText;
-    case base::FailureKind::PathNotUsable:
-      return lang::kPathNotUsableText;
-    default:
-      break;
+    case base::FailureKind::TargetExists: return lang::kTargetExistsText;
+    case base::FailureKind::PathNotUsable: return lang::kPathNotUsableText;
+    default: break;
   }
   return lang::kOtherFailureText;
 }

@@ -11,7 +11,9 @@ namespace {
 
 bool UserAgrees(const CommitContext& context) {
   if (!context.options.securityQuestions[1]) return true;
-  return context.frontEnd.Ask({lang::kTakeChangesQuestion, lang::kPendingChangesCaption, core::MessageStyle::YesNo, {}}) == core::Answer::Yes;
+  return context.frontEnd.Ask(
+             {lang::kTakeChangesQuestion, lang::kPendingChangesCaption, core::MessageStyle::YesNo, {}}) ==
+         core::Answer::Yes;
 }
 
 }  // namespace

@@ -2,9 +2,9 @@
 #include <optional>
 #include <string_view>
 
+#include "commit/CommitContext.h"
 #include "commit/CommitResult.h"
 #include "commit/CommitServices.h"
-#include "commit/CommitContext.h"
 #include "core/Preview.h"
 
 namespace nomra::commit {

@@ -3,12 +3,12 @@
 #include <cerrno>
 #include <vector>
 
-#include "base/Failure.h"
 #include "base/CaseMap.h"
 #include "base/DateText.h"
+#include "base/Failure.h"
 #include "base/Fault.h"
-#include "base/Paths.h"
 #include "base/NumberText.h"
+#include "base/Paths.h"
 
 namespace nomra::core {
 

@@ -13,14 +13,12 @@ FileList::FileList(platform::FileSystem& caseRules) : caseRules_(caseRules) {}
 FileEntry& FileList::Item(int position) {
   if (position < 1 || position > Count()) {
     throw base::RuntimeFault("There is no row " + std::to_string(position) + " in a list of " +
-                       std::to_string(Count()) + " rows");
+                             std::to_string(Count()) + " rows");
   }
   return *rows_[static_cast<std::size_t>(position - 1)];
 }
 
-const FileEntry& FileList::Item(int position) const {
-  return const_cast<FileList*>(this)->Item(position);
-}
+const FileEntry& FileList::Item(int position) const { return const_cast<FileList*>(this)->Item(position); }
 
 std::string_view FileList::IndexKeyOf(FileEntry& entry) {
   entry.foldedKey_.clear();

@@ -4,14 +4,10 @@ namespace nomra::core {
 
 bool InScope(int applyScope, const FileEntry& row) {
   switch (applyScope) {
-    case kScopeAll:
-      return true;
-    case kScopeSelected:
-      return row.selected;
-    case kScopeUnselected:
-      return !row.selected;
-    default:
-      return false;
+    case kScopeAll: return true;
+    case kScopeSelected: return row.selected;
+    case kScopeUnselected: return !row.selected;
+    default: return false;
   }
 }
 

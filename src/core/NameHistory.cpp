@@ -21,8 +21,10 @@ bool mnuUndo(const ListContext& context, bool askFirst) {
 }
 
 bool mnuRejectChanges(const ListContext& context, bool askFirst) {
-  if (askFirst && context.frontEnd.Ask({lang::kRejectChangesQuestion, lang::kRejectChangesCaption,
-                                        MessageStyle::YesNoWarningDefaultNo, {}}) != Answer::Yes) {
+  if (askFirst &&
+      context.frontEnd.Ask(
+          {lang::kRejectChangesQuestion, lang::kRejectChangesCaption, MessageStyle::YesNoWarningDefaultNo, {}}) !=
+          Answer::Yes) {
     return false;
   }
   context.List().ForEach([](FileEntry& row) {

@@ -11,7 +11,7 @@ struct ProgressStep {
   const char* task = "";
   int index = 0;  // the item at work, from 1; 0 where items aren't counted
   int count = 0;
-  std::string path;  // the item at work
+  std::string path;             // the item at work
   std::uint64_t bytesDone = 0;  // of all items together
   std::uint64_t bytesTotal = 0;
 };

@@ -91,7 +91,7 @@ void RefreshList(ListState& state) {
 
 std::string ListSummaryText(const StatusTexts& texts, const ListState& state) {
   return base::FormatMessage(texts.listSummary, {std::to_string(state.list.Count()), std::to_string(state.folderCount),
-                                           std::to_string(state.changedCount)});
+                                                 std::to_string(state.changedCount)});
 }
 
 }  // namespace nomra::core

@@ -19,7 +19,8 @@ class Removal {
   Removal(const ListContext& context, RowCommitter* committer) : context_(context), committer_(committer) {}
 
   RowCommitter& Committer() const {
-    if (committer_ == nullptr) throw base::RuntimeFault("Pending changes can't be taken here; the rows stay in the list");
+    if (committer_ == nullptr)
+      throw base::RuntimeFault("Pending changes can't be taken here; the rows stay in the list");
     return *committer_;
   }
 

@@ -67,9 +67,7 @@ DialogInput* DialogModel::Find(std::string_view key) {
   return nullptr;
 }
 
-const DialogInput* DialogModel::Find(std::string_view key) const {
-  return const_cast<DialogModel*>(this)->Find(key);
-}
+const DialogInput* DialogModel::Find(std::string_view key) const { return const_cast<DialogModel*>(this)->Find(key); }
 
 DialogInput& DialogModel::At(std::string_view key) {
   DialogInput* input = Find(key);
@@ -118,8 +116,7 @@ bool DialogModel::SetNumber(DialogInput& input, int number) {
     case InputKind::MultiSelectionList:
       if (number < -1 || number >= static_cast<int>(input.rows.size())) return false;
       break;
-    default:
-      return false;
+    default: return false;
   }
   input.number = number;
   return true;

@@ -3,9 +3,9 @@
 #include <limits>
 
 #include "base/Fault.h"
-#include "settings/CompactIniFile.h"
 #include "formats/IniFile.h"
 #include "formats/IniNumber.h"
+#include "settings/CompactIniFile.h"
 #include "settings/SettingsKeys.h"
 
 namespace nomra::dialog {
@@ -70,9 +70,7 @@ void RestoreMultiSelection(DialogInput& input, std::string_view value, core::Fro
 
 void RestoreInput(DialogModel& dialog, DialogInput& input, std::string_view value, core::FrontEnd& frontEnd) {
   switch (input.kind) {
-    case InputKind::Text:
-      input.text = DecodeStoredText(value);
-      return;
+    case InputKind::Text: input.text = DecodeStoredText(value); return;
     case InputKind::OptionButton:
       if (const std::optional<int> number = NumberOf(value)) dialog.SetOption(input, *number != 0);
       return;
@@ -82,11 +80,8 @@ void RestoreInput(DialogModel& dialog, DialogInput& input, std::string_view valu
     case InputKind::SingleSelectionList:
       if (const std::optional<int> number = NumberOf(value)) dialog.SetNumber(input, *number);
       return;
-    case InputKind::MultiSelectionList:
-      RestoreMultiSelection(input, value, frontEnd);
-      return;
-    case InputKind::NoValue:
-      return;
+    case InputKind::MultiSelectionList: RestoreMultiSelection(input, value, frontEnd); return;
+    case InputKind::NoValue: return;
   }
 }
 
@@ -121,19 +116,14 @@ std::string DecodeStoredText(std::string_view value) {
 
 std::string StoredValueOf(const DialogInput& input) {
   switch (input.kind) {
-    case InputKind::Text:
-      return input.text;
-    case InputKind::OptionButton:
-      return input.selected ? "-1" : "";
+    case InputKind::Text: return input.text;
+    case InputKind::OptionButton: return input.selected ? "-1" : "";
     case InputKind::CheckBox:
     case InputKind::VerticalScrollBar:
     case InputKind::ComboBox:
-    case InputKind::SingleSelectionList:
-      return std::to_string(input.number);
-    case InputKind::MultiSelectionList:
-      return JoinSelectedRows(input);
-    case InputKind::NoValue:
-      return "";
+    case InputKind::SingleSelectionList: return std::to_string(input.number);
+    case InputKind::MultiSelectionList: return JoinSelectedRows(input);
+    case InputKind::NoValue: return "";
   }
   return "";
 }

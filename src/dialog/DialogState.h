@@ -2,9 +2,9 @@
 #include <string_view>
 
 #include "core/FrontEnd.h"
+#include "dialog/DialogModel.h"
 #include "dialog/ScriptSession.h"
 #include "platform/FileSystem.h"
-#include "dialog/DialogModel.h"
 
 namespace nomra::dialog {
 

@@ -1,7 +1,7 @@
 #include "fileops/DeleteFiles.h"
 
-#include "lang/MessageKeys.h"
 #include "fileops/OperationFailures.h"
+#include "lang/MessageKeys.h"
 
 namespace nomra::fileops {
 
@@ -28,7 +28,8 @@ Step DeleteAtOnce(const std::string& path, std::size_t left, DeleteOutcome& outc
   const int error = services.fileSystem.RemoveFile(path);
   if (error == 0) return Step::Next;
   Record(outcome, error);
-  services.frontEnd.Ask({lang::kDeleteFailed, lang::kAttentionCaption, core::MessageStyle::OkStop, {path, base::SystemErrorText(error)}});
+  services.frontEnd.Ask(
+      {lang::kDeleteFailed, lang::kAttentionCaption, core::MessageStyle::OkStop, {path, base::SystemErrorText(error)}});
   return AskGoOn(services.frontEnd, static_cast<int>(left)) ? Step::Next : Step::Stop;
 }
 
@@ -36,16 +37,14 @@ Step SendToTrash(const std::string& path, std::size_t left, DeleteOutcome& outco
   const int error = services.trash.MoveToTrash(path, services.clock());
   if (error == 0) return Step::Next;
   // Deleting for good instead is the user's choice, never ours.
-  const core::Message offer{lang::kTrashFailed, lang::kAttentionCaption, core::MessageStyle::YesNoCancelDefaultNo,
-                      {path, base::SystemErrorText(error), kLineBreak}};
+  const core::Message offer{lang::kTrashFailed,
+                            lang::kAttentionCaption,
+                            core::MessageStyle::YesNoCancelDefaultNo,
+                            {path, base::SystemErrorText(error), kLineBreak}};
   switch (services.frontEnd.Ask(offer)) {
-    case core::Answer::Yes:
-      return DeleteAtOnce(path, left, outcome, services);
-    case core::Answer::Cancel:
-      Record(outcome, error);
-      return Step::Stop;
-    default:
-      return Record(outcome, error);
+    case core::Answer::Yes: return DeleteAtOnce(path, left, outcome, services);
+    case core::Answer::Cancel: Record(outcome, error); return Step::Stop;
+    default: return Record(outcome, error);
   }
 }
 

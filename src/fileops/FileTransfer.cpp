@@ -69,8 +69,8 @@ std::optional<base::Failure> EnsureFolder(platform::FileSystem& fileSystem, cons
   return failure;
 }
 
-FileResult PutFile(platform::FileSystem& fileSystem, const std::string& from, const std::string& to, const platform::FileStatus& source,
-                   bool move, bool replace, const platform::CopyTick& tick) {
+FileResult PutFile(platform::FileSystem& fileSystem, const std::string& from, const std::string& to,
+                   const platform::FileStatus& source, bool move, bool replace, const platform::CopyTick& tick) {
   const std::string folder = base::FolderOf(to);
   if (auto failure = EnsureFolder(fileSystem, folder)) {
     failure->path = from;

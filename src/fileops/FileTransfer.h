@@ -25,7 +25,7 @@ std::optional<base::Failure> EnsureFolder(platform::FileSystem& fileSystem, cons
 // source. A move within one volume is a rename; across volumes it is such
 // a copy, and the source goes only after it. With `replace` the file there
 // is replaced, which the caller may do only on the user's word.
-FileResult PutFile(platform::FileSystem& fileSystem, const std::string& from, const std::string& to, const platform::FileStatus& source,
-                   bool move, bool replace, const platform::CopyTick& tick);
+FileResult PutFile(platform::FileSystem& fileSystem, const std::string& from, const std::string& to,
+                   const platform::FileStatus& source, bool move, bool replace, const platform::CopyTick& tick);
 
 }  // namespace nomra::fileops

@@ -8,8 +8,8 @@
 #include "base/Paths.h"
 #include "core/BusyPointer.h"
 #include "dialog/DialogState.h"
-#include "fileops/FilePaths.h"
 #include "fileops/FileListOperations.h"
+#include "fileops/FilePaths.h"
 #include "fileops/PathList.h"
 #include "fileops/ShellOperation.h"
 #include "lang/MessageKeys.h"
@@ -32,7 +32,9 @@ SelActionMode ModeOf(const std::string& tag) {
   throw std::invalid_argument("frmSelAction has no mode " + tag);
 }
 
-std::string SourceOf(const core::FileEntry& row) { return base::AddBackslash(row[core::kColPath]) + row[core::kColOldName]; }
+std::string SourceOf(const core::FileEntry& row) {
+  return base::AddBackslash(row[core::kColPath]) + row[core::kColOldName];
+}
 
 // Whether a picked row has a later row, picked or not, with the same name
 // in `column`. The copies of the two would land on one name.
@@ -90,7 +92,8 @@ void FrmSelAction::cmdSelPath(const std::string& chosenFolder, platform::FileSys
   txtTargetPath_Change(fileSystem);
 }
 
-bool FrmSelAction::cmdOK(const rename::ActionContext& context, core::RowCommitter* committer, OperationServices& services) {
+bool FrmSelAction::cmdOK(const rename::ActionContext& context, core::RowCommitter* committer,
+                         OperationServices& services) {
   core::BusyPointer busy(context.User());
   const bool done = mode_ == SelActionMode::TakeChanges2 ? CopyForTakeChanges(context, committer, services)
                                                          : CopyOrMoveSelected(context, services);

@@ -3,9 +3,9 @@
 #include <string_view>
 
 #include "core/RowCommitter.h"
-#include "rename/ActionContext.h"
 #include "dialog/DialogModel.h"
 #include "fileops/OperationServices.h"
+#include "rename/ActionContext.h"
 
 namespace nomra::fileops {
 
@@ -59,7 +59,8 @@ class FrmSelAction {
 
  private:
   bool CopyOrMoveSelected(const rename::ActionContext& context, OperationServices& services);
-  bool CopyForTakeChanges(const rename::ActionContext& context, core::RowCommitter* committer, OperationServices& services);
+  bool CopyForTakeChanges(const rename::ActionContext& context, core::RowCommitter* committer,
+                          OperationServices& services);
 
   std::string tag_;
   SelActionMode mode_;

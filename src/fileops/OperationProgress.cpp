@@ -6,14 +6,10 @@ namespace nomra::fileops {
 
 const char* ProgressTaskOf(OperationKind kind) {
   switch (kind) {
-    case OperationKind::Copy:
-      return lang::kCopying;
-    case OperationKind::Move:
-      return lang::kMoving;
-    case OperationKind::Trash:
-      return lang::kTrashing;
-    case OperationKind::Delete:
-      return lang::kDeleting;
+    case OperationKind::Copy: return lang::kCopying;
+    case OperationKind::Move: return lang::kMoving;
+    case OperationKind::Trash: return lang::kTrashing;
+    case OperationKind::Delete: return lang::kDeleting;
   }
   return lang::kCopying;
 }

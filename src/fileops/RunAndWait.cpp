@@ -2,7 +2,8 @@
 
 namespace nomra::fileops {
 
-int RunAndWait(const std::vector<std::string>& command, bool pump, core::FrontEnd& frontEnd, platform::Processes& processes) {
+int RunAndWait(const std::vector<std::string>& command, bool pump, core::FrontEnd& frontEnd,
+               platform::Processes& processes) {
   const long handle = processes.Start(command);
   if (handle < 0) return -1;
   for (;;) {

@@ -113,18 +113,16 @@ int RunShellOperation(ShellOperation& record, OperationServices& services) {
   record.fAnyOperationsAborted = false;
   switch (record.wFunc) {
     case FO_COPY:
-    case FO_MOVE:
-      return RunTransfer(record, services);
+    case FO_MOVE: return RunTransfer(record, services);
     case FO_DELETE: {
       const bool toTrash = (record.fFlags & FOF_ALLOWUNDO) != 0;
       const bool confirm = (record.fFlags & FOF_NOCONFIRMATION) == 0;
-      const DeleteOutcome outcome = DeleteFiles(ExpandSources(record.pFrom, services.fileSystem), toTrash, confirm,
-                                                services);
+      const DeleteOutcome outcome =
+          DeleteFiles(ExpandSources(record.pFrom, services.fileSystem), toTrash, confirm, services);
       record.fAnyOperationsAborted = outcome.aborted;
       return outcome.result;
     }
-    default:
-      return EINVAL;
+    default: return EINVAL;
   }
 }
 

@@ -15,12 +15,12 @@ inline constexpr std::uint32_t FO_COPY = 2;
 inline constexpr std::uint32_t FO_DELETE = 3;
 
 // The flags, by the names callers know them under.
-inline constexpr std::uint16_t FOF_MULTIDESTFILES = 1;     // one target per source
-inline constexpr std::uint16_t FOF_RENAMEONCOLLISION = 8;  // a taken name: keep both, unasked
-inline constexpr std::uint16_t FOF_NOCONFIRMATION = 16;    // delete without asking
-inline constexpr std::uint16_t FOF_WANTMAPPINGHANDLE = 32; // report the names given on collision
-inline constexpr std::uint16_t FOF_ALLOWUNDO = 64;         // delete to the trash
-inline constexpr std::uint16_t FOF_FILESONLY = 128;        // a wildcard picks files, never folders
+inline constexpr std::uint16_t FOF_MULTIDESTFILES = 1;      // one target per source
+inline constexpr std::uint16_t FOF_RENAMEONCOLLISION = 8;   // a taken name: keep both, unasked
+inline constexpr std::uint16_t FOF_NOCONFIRMATION = 16;     // delete without asking
+inline constexpr std::uint16_t FOF_WANTMAPPINGHANDLE = 32;  // report the names given on collision
+inline constexpr std::uint16_t FOF_ALLOWUNDO = 64;          // delete to the trash
+inline constexpr std::uint16_t FOF_FILESONLY = 128;         // a wildcard picks files, never folders
 
 // One file operation, field by field as callers fill it.
 struct ShellOperation {
@@ -56,8 +56,7 @@ std::vector<TransferPair> PairTargets(const std::vector<std::string>& sources, s
                                       bool multipleTargets, platform::FileSystem& fileSystem);
 
 // The record of a copy (FO_COPY) or move (FO_MOVE) between two path lists.
-ShellOperation TransferRecord(std::uint32_t function, std::string sources, std::string targets,
-                              bool renameOnCollision);
+ShellOperation TransferRecord(std::uint32_t function, std::string sources, std::string targets, bool renameOnCollision);
 
 // Carries out the operation. 0 when every file went through (or was
 // skipped at the user's word), else the errno of the first failure.

@@ -10,14 +10,19 @@ namespace nomra::fileops {
 
 namespace {
 
-bool SameFile(const platform::FileStatus& a, const platform::FileStatus& b) { return a.device == b.device && a.inode == b.inode; }
+bool SameFile(const platform::FileStatus& a, const platform::FileStatus& b) {
+  return a.device == b.device && a.inode == b.inode;
+}
 
 // One run over the pairs, with what it needs to know across files.
 class TransferRun {
  public:
   TransferRun(OperationKind kind, const std::vector<TransferPair>& pairs, bool renameOnCollision,
               OperationServices& services)
-      : kind_(kind), pairs_(pairs), renameOnCollision_(renameOnCollision), services_(services),
+      : kind_(kind),
+        pairs_(pairs),
+        renameOnCollision_(renameOnCollision),
+        services_(services),
         questions_(services.frontEnd) {}
 
   TransferOutcome Run();
@@ -93,7 +98,8 @@ bool TransferRun::Handle(std::size_t index) {
     step_.bytesDone = before + copied;
     return services_.progress.Tick(step_);
   };
-  FileResult result = PutFile(services_.fileSystem, pair.from, target, source, kind_ == OperationKind::Move, replace, tick);
+  FileResult result =
+      PutFile(services_.fileSystem, pair.from, target, source, kind_ == OperationKind::Move, replace, tick);
   step_.bytesDone = before;
   if (result.stopped) return false;
   if (result.done) {
@@ -124,17 +130,10 @@ bool TransferRun::ChooseTarget(std::size_t index, std::string& target, bool& rep
   }
   const Collision collision{pairs_[index].from, target, source, there, KeepBothTarget(target)};
   switch (questions_.Ask(collision, collisionsLeft_ > 0)) {
-    case CollisionChoice::Replace:
-      replace = true;
-      return true;
-    case CollisionChoice::KeepBoth:
-      target = collision.keepBothTarget;
-      return true;
-    case CollisionChoice::Skip:
-      target.clear();
-      return true;
-    case CollisionChoice::Stop:
-      break;
+    case CollisionChoice::Replace: replace = true; return true;
+    case CollisionChoice::KeepBoth: target = collision.keepBothTarget; return true;
+    case CollisionChoice::Skip: target.clear(); return true;
+    case CollisionChoice::Stop: break;
   }
   return false;
 }

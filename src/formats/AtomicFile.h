@@ -15,7 +15,7 @@ int MoveFileOver(platform::FileSystem& fileSystem, const std::string& source, co
 // Writes `content` whole into `temporary` (with the permission bits of
 // `target`), then moves it over `target`: a crash or a failure leaves the
 // old file whole, and the temporary file is removed again. 0 or the errno.
-int WriteThroughTemporary(platform::FileSystem& fileSystem, const std::string& target,
-                          const std::string& temporary, std::string_view content);
+int WriteThroughTemporary(platform::FileSystem& fileSystem, const std::string& target, const std::string& temporary,
+                          std::string_view content);
 
 }  // namespace nomra::formats

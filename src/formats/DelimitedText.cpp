@@ -57,11 +57,10 @@ std::string Unquoted(std::string_view text) {
 
 // A quoted field whose opening quote stands at `start`. `next` becomes the
 // position of the separator behind it, or npos when none follows.
-std::string ReadQuotedField(std::string_view line, std::size_t start, std::string_view separator,
-                            std::size_t& next) {
+std::string ReadQuotedField(std::string_view line, std::size_t start, std::string_view separator, std::size_t& next) {
   const std::size_t from = start + 1;
-  const std::size_t closing = FindLoneQuote(
-      line, from, [&](std::size_t quote) { return line.substr(quote + 1).starts_with(separator); });
+  const std::size_t closing =
+      FindLoneQuote(line, from, [&](std::size_t quote) { return line.substr(quote + 1).starts_with(separator); });
   if (closing != std::string_view::npos) {
     next = closing + 1;
     return Unquoted(line.substr(from, closing - from));

@@ -46,7 +46,8 @@ std::vector<std::string> SplitDelimitedLine(std::string_view line, std::string_v
 // text is field 0 from behind its first "|", its key "K" and the line
 // number. A field that is a number has its "," and "." turned into the
 // locale's decimal separator.
-void LoadListFromFile(platform::FileSystem& fileSystem, const std::string& file, bool firstLineIsData, DelimitedList& list);
+void LoadListFromFile(platform::FileSystem& fileSystem, const std::string& file, bool firstLineIsData,
+                      DelimitedList& list);
 
 // Writes the header (unless empty) and every row, each field followed by the
 // separator, into file + ".tmp", which then takes the file's place: a failure

@@ -28,7 +28,7 @@ long IniFile::ReadInt(std::string_view section, std::string_view key) const {
   if (value.empty()) return -1;
   if (const auto number = ParseIniNumber(value)) return *number;
   throw base::RuntimeFault("The setting \"" + std::string(key) + "\" in section [" + std::string(section) + "] of \"" +
-                     path_ + "\" is not a number: \"" + value + "\"");
+                           path_ + "\" is not a number: \"" + value + "\"");
 }
 
 bool IniFile::Write(std::string_view section, std::string_view key, std::string_view value) const {

@@ -1,8 +1,7 @@
 #include "formats/IniLines.h"
 
-#include "base/Utf8.h"
-
 #include "base/CaseMap.h"
+#include "base/Utf8.h"
 
 namespace nomra::formats {
 
@@ -96,8 +95,7 @@ std::optional<std::string> FindValue(const std::vector<std::string>& lines, std:
   return std::nullopt;
 }
 
-void SetValue(std::vector<std::string>& lines, std::string_view section, std::string_view key,
-              std::string_view value) {
+void SetValue(std::vector<std::string>& lines, std::string_view section, std::string_view key, std::string_view value) {
   const auto range = FindSection(lines, section);
   if (!range) {
     if (!lines.empty() && !base::TrimBlanks(lines.back()).empty()) lines.emplace_back();

@@ -46,7 +46,6 @@ std::optional<std::string> FindValue(const std::vector<std::string>& lines, std:
 // Replaces the value of an existing key (keeping the key's spelling), else
 // adds "key=value" after the last non-empty line of the section, else adds
 // the section and the entry at the end.
-void SetValue(std::vector<std::string>& lines, std::string_view section, std::string_view key,
-              std::string_view value);
+void SetValue(std::vector<std::string>& lines, std::string_view section, std::string_view key, std::string_view value);
 
 }  // namespace nomra::formats

@@ -14,16 +14,11 @@ enum Column { kDate = 0, kFolder = 1, kOldName = 2, kNewName = 3 };
 
 std::string HistoryRow::ColumnText(int column) const {
   switch (column) {
-    case kDate:
-      return FormatHistoryDate(time);
-    case kFolder:
-      return folder;
-    case kOldName:
-      return oldName;
-    case kNewName:
-      return newName;
-    default:
-      return {};
+    case kDate: return FormatHistoryDate(time);
+    case kFolder: return folder;
+    case kOldName: return oldName;
+    case kNewName: return newName;
+    default: return {};
   }
 }
 

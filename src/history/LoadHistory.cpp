@@ -2,8 +2,8 @@
 
 #include <cerrno>
 
-#include "base/Failure.h"
 #include "base/Cp1252.h"
+#include "base/Failure.h"
 #include "base/Fault.h"
 #include "base/Paths.h"
 #include "base/Utf8.h"

@@ -1,5 +1,4 @@
 #include "history/UndoRenamings.h"
-#include "lang/MessageKeys.h"
 
 #include <optional>
 
@@ -7,21 +6,23 @@
 #include "commit/DiskRename.h"
 #include "commit/RenameFailure.h"
 #include "history/WriteHistory.h"
+#include "lang/MessageKeys.h"
 
 namespace nomra::history {
 
 namespace {
 
 bool Confirmed(core::FrontEnd& frontEnd, const char* question) {
-  const core::Message message{question, lang::kAttentionCaption, core::MessageStyle::YesNoWarningDefaultNo, {kParagraphBreak}};
+  const core::Message message{
+      question, lang::kAttentionCaption, core::MessageStyle::YesNoWarningDefaultNo, {kParagraphBreak}};
   return frontEnd.Ask(message) == core::Answer::Yes;
 }
 
 // Renames the file back; nothing when that worked. An old name that no file
 // may have is refused before the disk is touched, so a damaged record can't
 // move a file into another folder.
-std::optional<base::Failure> RenameBack(platform::FileSystem& fileSystem, const HistoryRow& row, const std::string& from,
-                                  const std::string& to) {
+std::optional<base::Failure> RenameBack(platform::FileSystem& fileSystem, const HistoryRow& row,
+                                        const std::string& from, const std::string& to) {
   if (std::optional<base::Failure> refused = commit::RefuseName(row.oldName)) return refused;
   const platform::RenameResult renamed = fileSystem.RenameNoReplace(from, to);
   if (!renamed.ok) return commit::FailureOfError(renamed.error);
@@ -39,7 +40,8 @@ bool UndoRow(const HistoryRow& row, const HistoryServices& services, UndoOutcome
     ++outcome.undone;
     return true;
   }
-  outcome.failures.push_back(commit::FailedRenameRow(*failure, static_cast<int>(outcome.failures.size()) + 1, from, from, to));
+  outcome.failures.push_back(
+      commit::FailedRenameRow(*failure, static_cast<int>(outcome.failures.size()) + 1, from, from, to));
   if (services.showFailure) {
     services.showFailure(outcome.failures.back());
   } else {

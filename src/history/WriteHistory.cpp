@@ -17,7 +17,7 @@ constexpr char kLineEnd[] = "\r\n";
 
 [[noreturn]] void Fail(const std::string& path, int error) {
   throw base::RuntimeFault("the rename history " + path + " could not be written" +
-                     (error != 0 ? std::string(": ") + base::SystemErrorText(error) : std::string()));
+                           (error != 0 ? std::string(": ") + base::SystemErrorText(error) : std::string()));
 }
 
 }  // namespace

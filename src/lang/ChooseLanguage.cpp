@@ -12,8 +12,7 @@ namespace {
 bool HasLanguageEnding(std::string_view name) {
   const std::string_view ending = settings::kLanguageFileEnding;
   // A file named only ".lng" still matches "*.lng", as on Windows.
-  return name.size() >= ending.size() &&
-         base::EqualsNoCase(name.substr(name.size() - ending.size()), ending);
+  return name.size() >= ending.size() && base::EqualsNoCase(name.substr(name.size() - ending.size()), ending);
 }
 
 void Take(platform::FileSystem& fileSystem, LanguageChoice& choice, const std::string& path) {

@@ -21,8 +21,8 @@ struct LanguageFile {
 
 struct LanguageChoice {
   LanguageOutcome outcome = LanguageOutcome::NoLanguageFiles;
-  std::string file;                    // set when Chosen
-  int charset = 0;                     // Main/charset of the chosen file
+  std::string file;                      // set when Chosen
+  int charset = 0;                       // Main/charset of the chosen file
   std::vector<LanguageFile> candidates;  // every "*.lng" of the program folder, in the order found
 };
 

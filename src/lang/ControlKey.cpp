@@ -18,8 +18,7 @@ std::optional<TextKey> SplitKeyAndSection(std::string_view tag) {
 
 }  // namespace
 
-TextKey KeyOfControl(ControlKind kind, std::string_view name, std::string_view tag,
-                     std::string_view dialogSection) {
+TextKey KeyOfControl(ControlKind kind, std::string_view name, std::string_view tag, std::string_view dialogSection) {
   if (tag.empty()) {
     const std::string_view section = kind == ControlKind::CommandButton ? kButtonsSection : dialogSection;
     return TextKey{std::string(name), std::string(section)};

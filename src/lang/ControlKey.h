@@ -15,8 +15,7 @@ struct TextKey {
 // The key and section of a control, from its tag: an empty tag gives the
 // control's own name (in "Buttons" for command buttons), "key|section" names
 // both, a tag starting with "frm" names the section, any other tag the key.
-TextKey KeyOfControl(ControlKind kind, std::string_view name, std::string_view tag,
-                     std::string_view dialogSection);
+TextKey KeyOfControl(ControlKind kind, std::string_view name, std::string_view tag, std::string_view dialogSection);
 
 // The key and section of a list view's column head: "key|section", or the
 // key alone in the dialog's section.

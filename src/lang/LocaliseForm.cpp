@@ -64,21 +64,12 @@ void LocaliseControl(LocalisableControl& control, std::string_view dialogSection
   if (!text.empty()) SetOwnText(control, text);
 
   switch (kind) {
-    case ControlKind::ListView:
-      LocaliseColumnHeads(control, dialogSection, catalog);
-      break;
-    case ControlKind::Toolbar:
-      LocaliseToolbar(control, dialogSection, catalog);
-      break;
-    case ControlKind::TabStrip:
-      LocaliseTabs(control, dialogSection, catalog);
-      break;
+    case ControlKind::ListView: LocaliseColumnHeads(control, dialogSection, catalog); break;
+    case ControlKind::Toolbar: LocaliseToolbar(control, dialogSection, catalog); break;
+    case ControlKind::TabStrip: LocaliseTabs(control, dialogSection, catalog); break;
     case ControlKind::ComboBox:
-    case ControlKind::ListBox:
-      LocaliseRows(control, where, catalog);
-      break;
-    default:
-      break;
+    case ControlKind::ListBox: LocaliseRows(control, where, catalog); break;
+    default: break;
   }
 }
 
@@ -87,8 +78,7 @@ void LocaliseControl(LocalisableControl& control, std::string_view dialogSection
 void LocaliseForm(LocalisableForm& form, std::string_view section, const MessageCatalog& catalog,
                   const CaptionSources& sources) {
   const std::string dialogSection = section.empty() ? form.Name() : std::string(section);
-  form.ForEachControl(
-      [&](LocalisableControl& control) { LocaliseControl(control, dialogSection, catalog); });
+  form.ForEachControl([&](LocalisableControl& control) { LocaliseControl(control, dialogSection, catalog); });
   LocaliseDialogCaption(form, dialogSection, catalog, sources);
 }
 

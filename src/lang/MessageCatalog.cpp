@@ -5,9 +5,9 @@
 #include "base/Cp1252.h"
 #include "base/MessageText.h"
 #include "base/Utf8.h"
-#include "lang/LanguageKeys.h"
 #include "formats/IniLines.h"
 #include "formats/IniNumber.h"
+#include "lang/LanguageKeys.h"
 
 namespace nomra::lang {
 

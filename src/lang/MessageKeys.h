@@ -10,7 +10,7 @@ inline constexpr char kListSummaryStatus[] = "MsgStat01";  // %1 files, %2 folde
 inline constexpr char kAddingStatus[] = "MsgStat02";       // followed by the running number
 inline constexpr char kRenamedStatus[] = "MsgStat03";      // followed by the running number
 inline constexpr char kNoScriptStatus[] = "MsgStat05";
-inline constexpr char kRowOfCountStatus[] = "MsgStat06";   // %1 the row, %2 how many
+inline constexpr char kRowOfCountStatus[] = "MsgStat06";  // %1 the row, %2 how many
 
 // --- Captions --------------------------------------------------------------
 inline constexpr char kPendingChangesCaption[] = "MsgCap03";

@@ -30,10 +30,8 @@ bool CarriesToolTip(int style) {
 // toolbar and as a menu entry, and last the shared button texts.
 std::string ToolTipOf(const std::string& key, const std::string& toolbarName, std::string_view section,
                       const MessageCatalog& catalog) {
-  return WithoutAmpersands(FirstText(catalog, {{section, key},
-                                               {section, toolbarName + key},
-                                               {section, kMenuPrefix + key},
-                                               {kButtonsSection, key}}));
+  return WithoutAmpersands(FirstText(
+      catalog, {{section, key}, {section, toolbarName + key}, {section, kMenuPrefix + key}, {kButtonsSection, key}}));
 }
 
 std::string EntryTextOf(const std::string& key, const std::string& toolbarName, std::string_view section,

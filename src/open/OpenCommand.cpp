@@ -4,8 +4,8 @@
 #include "base/Paths.h"
 #include "core/AddFile.h"
 #include "core/BusyPointer.h"
-#include "open/FolderWalk.h"
 #include "formats/IniFile.h"
+#include "open/FolderWalk.h"
 #include "settings/SettingsKeys.h"
 
 namespace nomra::open {
@@ -49,22 +49,22 @@ std::string FolderToTake(platform::FileSystem& fileSystem, const std::string& ch
 bool AddAllFiles(core::ListLoad& load, const std::string& folder, const OpenChoice& choice,
                  const std::vector<FilterRow>& filters, bool showHiddenFiles) {
   const std::string pattern = PatternOf(filters, choice.filterIndex);
-  const bool walked = WalkFolders(
-      load.fileSystem, {folder}, choice.subFolders,
-      [&](std::size_t, const std::string& current, const std::vector<std::string>& fileNames) {
-        for (const std::string& name : fileNames) {
-          if (load.stopAsked) return false;
-          if (!PassesFilter(name, pattern)) continue;
-          if (IsHiddenName(name) && !showHiddenFiles) continue;
-          std::string path = current + name;
-          try {
-            core::AddFile(load, path);
-          } catch (const base::RuntimeFault&) {
-            // A file that went away during the walk is passed over.
-          }
-        }
-        return true;
-      });
+  const bool walked =
+      WalkFolders(load.fileSystem, {folder}, choice.subFolders,
+                  [&](std::size_t, const std::string& current, const std::vector<std::string>& fileNames) {
+                    for (const std::string& name : fileNames) {
+                      if (load.stopAsked) return false;
+                      if (!PassesFilter(name, pattern)) continue;
+                      if (IsHiddenName(name) && !showHiddenFiles) continue;
+                      std::string path = current + name;
+                      try {
+                        core::AddFile(load, path);
+                      } catch (const base::RuntimeFault&) {
+                        // A file that went away during the walk is passed over.
+                      }
+                    }
+                    return true;
+                  });
   // A stop pressed while the very last file was added counts as well, so
   // the stop never outlives the load.
   return walked && !load.stopAsked;
@@ -72,8 +72,9 @@ bool AddAllFiles(core::ListLoad& load, const std::string& folder, const OpenChoi
 
 }  // namespace
 
-LoadOutcome RunOpenChoice(core::ListLoad& load, core::Preview& preview, const OpenChoice& choice, const std::vector<FilterRow>& filters,
-                          const formats::IniFile& settingsFile, bool showHiddenFiles) {
+LoadOutcome RunOpenChoice(core::ListLoad& load, core::Preview& preview, const OpenChoice& choice,
+                          const std::vector<FilterRow>& filters, const formats::IniFile& settingsFile,
+                          bool showHiddenFiles) {
   if (choice.paths.empty()) return LoadOutcome::Finished;  // nothing chosen is a dialog cancelled
   core::BusyPointer busy(load.frontEnd);
 

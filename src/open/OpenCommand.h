@@ -2,10 +2,9 @@
 #include <string>
 #include <vector>
 
-#include "formats/IniFile.h"
-
 #include "core/AddFile.h"
 #include "core/Preview.h"
+#include "formats/IniFile.h"
 #include "open/FilterList.h"
 #include "open/Playlist.h"
 

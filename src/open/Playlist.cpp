@@ -40,22 +40,19 @@ std::string MarkerOf(std::string_view line) {
 // What a line gives as an entry; empty when it gives none.
 std::string EntryOf(const std::string& line, PlaylistKind kind) {
   switch (kind) {
-    case PlaylistKind::M3u:
-      return MarkerOf(line) == "#EXT" ? std::string() : line;
+    case PlaylistKind::M3u: return MarkerOf(line) == "#EXT" ? std::string() : line;
     case PlaylistKind::Pls: {
       if (MarkerOf(line) != "FILE") return {};
       // A "File" line without "=" has nothing after it to take.
       const std::size_t equals = line.find('=');
       return equals == std::string::npos ? std::string() : line.substr(equals + 1);
     }
-    case PlaylistKind::Plain:
-      break;
+    case PlaylistKind::Plain: break;
   }
   return line;
 }
 
-std::optional<std::vector<std::string>> ReadEntries(const std::string& playlistPath,
-                                                    platform::FileSystem& fileSystem) {
+std::optional<std::vector<std::string>> ReadEntries(const std::string& playlistPath, platform::FileSystem& fileSystem) {
   if (fileSystem.Status(playlistPath).kind != platform::EntryKind::File) return std::nullopt;
   const auto bytes = fileSystem.ReadFile(playlistPath);
   if (!bytes) return std::nullopt;

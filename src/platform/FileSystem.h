@@ -195,8 +195,7 @@ class FileSystem {
   // long as the handle lives. The lock goes with the process, so a killed
   // program leaves the file free. The draft is meant to take `path`'s name
   // once it is whole; on failure the caller removes it.
-  virtual std::unique_ptr<OpenFile> CreateLockedDraft(const std::string& path, std::string& draftPath,
-                                                      int& error) = 0;
+  virtual std::unique_ptr<OpenFile> CreateLockedDraft(const std::string& path, std::string& draftPath, int& error) = 0;
 
   // Opens an existing file and takes its lock without waiting.
   virtual ExistingLock LockExisting(const std::string& path) = 0;

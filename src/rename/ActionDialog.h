@@ -1,8 +1,8 @@
 #pragma once
 #include <string>
 
-#include "rename/ActionContext.h"
 #include "dialog/DialogModel.h"
+#include "rename/ActionContext.h"
 
 namespace nomra::rename {
 
@@ -13,10 +13,10 @@ enum class RestoreMoment { OnLoad, OnFirstActivation };
 // What the frame needs to know of an action dialog. The sections are kept
 // as the dialogs have always used them, odd ones included.
 struct ActionTraits {
-  std::string dialogName;    // "frmPrefixSuffix"
-  std::string storeSection;  // settings section written on apply; "" for none
+  std::string dialogName;      // "frmPrefixSuffix"
+  std::string storeSection;    // settings section written on apply; "" for none
   std::string restoreSection;  // settings section read on opening; "" for none
-  int stepType = 0;          // the script step type; 0 for none
+  int stepType = 0;            // the script step type; 0 for none
   bool disablesButtonsWhileRunning = false;
   RestoreMoment restoreMoment = RestoreMoment::OnLoad;
 };

@@ -9,12 +9,14 @@ namespace {
 void RestoreInputs(ActionDialog& dialog, const ActionContext& context) {
   const dialog::ScriptSession& session = context.script;
   if (session.runMode == 1 || session.runMode == 2) {
-    dialog::RestoreDialogState(dialog.Model(), std::to_string(session.runStep), dialog::kScriptMode, session, context.fileSystem, context.User());
+    dialog::RestoreDialogState(dialog.Model(), std::to_string(session.runStep), dialog::kScriptMode, session,
+                               context.fileSystem, context.User());
     return;
   }
   const std::string& section = dialog.Traits().restoreSection;
   if (session.runMode == 0 && session.saveDialogSettings && !section.empty()) {
-    dialog::RestoreDialogState(dialog.Model(), section, dialog::kSettingsMode, session, context.fileSystem, context.User());
+    dialog::RestoreDialogState(dialog.Model(), section, dialog::kSettingsMode, session, context.fileSystem,
+                               context.User());
   }
 }
 
@@ -39,7 +41,8 @@ bool ApplyActionDialog(ActionDialog& dialog, const ActionContext& context) {
     dialog::StoreDialogState(dialog.Model(), traits.storeSection, dialog::kSettingsMode, session, context.fileSystem);
   }
   if (session.recording == 1 && traits.stepType != 0) {
-    dialog::StoreDialogState(dialog.Model(), std::to_string(traits.stepType), dialog::kScriptMode, session, context.fileSystem);
+    dialog::StoreDialogState(dialog.Model(), std::to_string(traits.stepType), dialog::kScriptMode, session,
+                             context.fileSystem);
   }
   dialog.Run(context);
   return true;

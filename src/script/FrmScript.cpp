@@ -69,8 +69,8 @@ void FrmScript::Cancel() { session_.runMode = 0; }
 
 void FrmScript::DeleteChosen(int row) {
   dialog::DialogInput& list = dialog_.At(kScriptList);
-  const core::Answer answer =
-      frontEnd_.Ask({lang::kDeleteScriptQuestion, lang::kAttentionCaption, core::MessageStyle::YesNoDefaultNo, {list.rows[row]}});
+  const core::Answer answer = frontEnd_.Ask(
+      {lang::kDeleteScriptQuestion, lang::kAttentionCaption, core::MessageStyle::YesNoDefaultNo, {list.rows[row]}});
   if (answer != core::Answer::Yes) return;
   RemoveScriptFile(fileSystem_, ScriptFolder(session_.dataFolder) + fileNames_[row]);
   list.rows.erase(list.rows.begin() + row);

@@ -3,9 +3,9 @@
 #include <vector>
 
 #include "core/FrontEnd.h"
+#include "dialog/DialogModel.h"
 #include "dialog/ScriptSession.h"
 #include "platform/FileSystem.h"
-#include "dialog/DialogModel.h"
 
 namespace nomra::script {
 

@@ -5,10 +5,10 @@
 
 #include "base/Fault.h"
 #include "base/Quoting.h"
+#include "formats/IniFile.h"
 #include "rename/ActionFrame.h"
 #include "rename/actions/BuiltInActions.h"
 #include "script/ScriptFiles.h"
-#include "formats/IniFile.h"
 
 namespace nomra::script {
 

@@ -39,14 +39,15 @@ bool PendingNamesAllowClose(const ClosingList& closing) {
 
 }  // namespace
 
-CloseDecision AskBeforeClose(const ClosingList& closing, bool recordingRuns, const std::function<void()>& stopRecording) {
+CloseDecision AskBeforeClose(const ClosingList& closing, bool recordingRuns,
+                             const std::function<void()>& stopRecording) {
   if (!RecordingAllowsClose(closing.frontEnd, recordingRuns, stopRecording)) return CloseDecision::Refuse;
   return PendingNamesAllowClose(closing) ? CloseDecision::Close : CloseDecision::Refuse;
 }
 
 CloseDecision RunCloseSequence(const MainWindowSettings& settings, const ClosingList& closing,
-                               const core::ListOptions& options, const formats::IniFile& settingsFile, bool recordingRuns,
-                               const std::function<void()>& stopRecording) {
+                               const core::ListOptions& options, const formats::IniFile& settingsFile,
+                               bool recordingRuns, const std::function<void()>& stopRecording) {
   WriteLayoutOnClose(settings, settingsFile);
   if (!RecordingAllowsClose(closing.frontEnd, recordingRuns, stopRecording)) return CloseDecision::Refuse;
   const bool close = PendingNamesAllowClose(closing);

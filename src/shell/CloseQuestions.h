@@ -25,7 +25,8 @@ struct ClosingList {
 // stops the recording. Then, with pending names in the list, the user is
 // asked whether to take them: Cancel refuses the close, Yes renames the
 // whole list through the committer. The close goes ahead otherwise.
-CloseDecision AskBeforeClose(const ClosingList& closing, bool recordingRuns, const std::function<void()>& stopRecording);
+CloseDecision AskBeforeClose(const ClosingList& closing, bool recordingRuns,
+                             const std::function<void()>& stopRecording);
 
 // The whole close of the main window in one call: the layout is written, the
 // questions are asked, and the remaining settings are written, also when the
@@ -34,7 +35,7 @@ CloseDecision AskBeforeClose(const ClosingList& closing, bool recordingRuns, con
 // remaining settings are written. The caller releases its services when the
 // result is Close.
 CloseDecision RunCloseSequence(const MainWindowSettings& settings, const ClosingList& closing,
-                               const core::ListOptions& options, const formats::IniFile& settingsFile, bool recordingRuns,
-                               const std::function<void()>& stopRecording);
+                               const core::ListOptions& options, const formats::IniFile& settingsFile,
+                               bool recordingRuns, const std::function<void()>& stopRecording);
 
 }  // namespace nomra::shell

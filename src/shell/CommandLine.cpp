@@ -71,7 +71,8 @@ std::vector<std::string> ArgumentsFromArgv(int argc, char** argv) {
   return arguments;
 }
 
-void RunCommandLine(const std::vector<std::string>& arguments, core::ListLoad& load, const CommandLineSwitches& switches) {
+void RunCommandLine(const std::vector<std::string>& arguments, core::ListLoad& load,
+                    const CommandLineSwitches& switches) {
   if (arguments.empty()) return;
   const std::size_t endMark = arguments.size() - 1;
   for (std::size_t i = 0; i < endMark; ++i) {
@@ -80,7 +81,8 @@ void RunCommandLine(const std::vector<std::string>& arguments, core::ListLoad& l
       std::string path = argument;
       core::AddFile(load, path);
     } else if (HasSwitch(argument, kOpenFromFileSwitch)) {
-      if (switches.openFromFile) switches.openFromFile(base::WithoutDoubleQuotes(argument.substr(kOpenFromFileSwitch.size())));
+      if (switches.openFromFile)
+        switches.openFromFile(base::WithoutDoubleQuotes(argument.substr(kOpenFromFileSwitch.size())));
     } else if (HasSwitch(argument, kRunScriptSwitch)) {
       if (switches.runScript) switches.runScript(base::WithoutDoubleQuotes(argument.substr(kRunScriptSwitch.size())));
     }

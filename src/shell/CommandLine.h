@@ -43,6 +43,7 @@ struct CommandLineSwitches {
 // "/runscript=", in any case and with at least one character behind the
 // "=", go to their switch; anything else is passed over in silence. No
 // refresh runs here. A fault of AddFile ends the run and goes to the caller.
-void RunCommandLine(const std::vector<std::string>& arguments, core::ListLoad& load, const CommandLineSwitches& switches);
+void RunCommandLine(const std::vector<std::string>& arguments, core::ListLoad& load,
+                    const CommandLineSwitches& switches);
 
 }  // namespace nomra::shell

@@ -36,7 +36,9 @@ class SettingsReader {
     }
   }
 
-  bool Flag(const char* section, const char* key, bool fallback) { return base::ToBoolean(Number(section, key), fallback); }
+  bool Flag(const char* section, const char* key, bool fallback) {
+    return base::ToBoolean(Number(section, key), fallback);
+  }
 
   long NumberOr(const char* section, const char* key, long fallback) {
     const long value = Number(section, key);
@@ -153,8 +155,6 @@ std::array<bool, 7> ColumnMenuChecks(const std::array<long, kColumnHeadCount>& w
 
 std::string OpenFileTagFromStyle(long dialogueStyle) { return dialogueStyle == 2 ? "OpenFile2" : "OpenFile1"; }
 
-std::string TakeChangesTagFromStyle(long renameStyle) {
-  return renameStyle == 2 ? "TakeChanges2" : "TakeChanges1";
-}
+std::string TakeChangesTagFromStyle(long renameStyle) { return renameStyle == 2 ? "TakeChanges2" : "TakeChanges1"; }
 
 }  // namespace nomra::shell

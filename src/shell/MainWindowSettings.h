@@ -3,8 +3,8 @@
 #include <string>
 
 #include "core/FrontEnd.h"
-#include "formats/IniFile.h"
 #include "core/ListOptions.h"
+#include "formats/IniFile.h"
 
 namespace nomra::shell {
 

@@ -14,6 +14,7 @@ namespace nomra::shell {
 // meanwhile, or none chosen), the selected-script label says so and nothing
 // plays. True when it played.
 bool PlaySelectedScript(WindowState& window, const core::StatusTexts& texts, dialog::ScriptSession& session,
-                        platform::FileSystem& fileSystem, std::string_view fileName, const script::StepOpener& openStep);
+                        platform::FileSystem& fileSystem, std::string_view fileName,
+                        const script::StepOpener& openStep);
 
 }  // namespace nomra::shell

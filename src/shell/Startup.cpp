@@ -1,8 +1,8 @@
 #include "shell/Startup.h"
 
 #include "base/Fault.h"
-#include "base/Paths.h"
 #include "base/Flags.h"
+#include "base/Paths.h"
 #include "formats/IniFile.h"
 #include "settings/DataFolder.h"
 #include "settings/SettingsKeys.h"
@@ -13,7 +13,8 @@ namespace {
 
 // A flag of the settings; a value that isn't a number is shown and the
 // default stands, so one bad line can't stop the program.
-bool ReadFlag(core::FrontEnd& frontEnd, const formats::IniFile& file, const char* section, const char* key, bool fallback) {
+bool ReadFlag(core::FrontEnd& frontEnd, const formats::IniFile& file, const char* section, const char* key,
+              bool fallback) {
   try {
     return base::ToBoolean(file.ReadInt(section, key), fallback);
   } catch (const base::RuntimeFault& fault) {

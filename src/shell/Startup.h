@@ -10,9 +10,9 @@
 namespace nomra::shell {
 
 struct StartupPaths {
-  std::string appFolder;     // holds the language files; ends with the separator
-  std::string dataFolder;    // per-user data; ends with the separator
-  std::string settingsPath;  // dataFolder + "settings.nrp"
+  std::string appFolder;          // holds the language files; ends with the separator
+  std::string dataFolder;         // per-user data; ends with the separator
+  std::string settingsPath;       // dataFolder + "settings.nrp"
   bool dataFolderUsable = false;  // false: nothing is stored, reads give defaults
 };
 
@@ -24,7 +24,7 @@ StartupPaths PrepareStartup(platform::FileSystem& fileSystem, platform::DataLoca
 // Where the start-up settings go, and what reading them needs.
 struct StartupTarget {
   platform::FileSystem& fileSystem;
-  core::FrontEnd& frontEnd;   // a value that isn't a number is shown as a fault
+  core::FrontEnd& frontEnd;  // a value that isn't a number is shown as a fault
   core::ListOptions& options;
   dialog::ScriptSession& script;
 };

@@ -17,8 +17,8 @@ void ComputeCommandState(CommandState& commands, const WindowState& window, cons
     }
   }
   if (state.list.Empty()) return;
-  for (const char* name : {"lstApplyTo", "mnuDelList", "mnuEdit", "mnuFindDuplications", "mnuSpecial",
-                           "mnuScript", "mnuRename", "StartRunScript"}) {
+  for (const char* name : {"lstApplyTo", "mnuDelList", "mnuEdit", "mnuFindDuplications", "mnuSpecial", "mnuScript",
+                           "mnuRename", "StartRunScript"}) {
     enabled.insert(name);
   }
   if (script.recording == 0) enabled.insert("StartRecordScript");

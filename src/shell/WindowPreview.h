@@ -17,8 +17,8 @@ void RefreshWindowState(WindowState& window, const core::ListState& state, const
 // the window's state. The window repaints its views after it.
 class WindowPreview : public core::Preview {
  public:
-  WindowPreview(core::ListState& state, WindowState& window, const dialog::ScriptSession& script, core::FrontEnd& frontEnd,
-                const core::StatusTexts& texts)
+  WindowPreview(core::ListState& state, WindowState& window, const dialog::ScriptSession& script,
+                core::FrontEnd& frontEnd, const core::StatusTexts& texts)
       : state_(state), window_(window), script_(script), frontEnd_(frontEnd), texts_(texts) {}
   void Refresh() override;
 

@@ -43,7 +43,8 @@ void ResolveCaseBrackets(std::string& s) {
       const std::size_t close = FindTagNoCase(s, closing);
       if (open == std::string::npos || close == std::string::npos) break;
       if (close < open) {
-        throw base::RuntimeFault("the case mark " + std::string(closing) + " stands before its " + std::string(opening));
+        throw base::RuntimeFault("the case mark " + std::string(closing) + " stands before its " +
+                                 std::string(opening));
       }
       const std::size_t innerStart = open + opening.size();
       const std::string converted = ConvertCase(code, std::string_view(s).substr(innerStart, close - innerStart));

@@ -59,10 +59,8 @@ bool IsWordCharacter(char32_t c) {
     case UTF8PROC_CATEGORY_LL:
     case UTF8PROC_CATEGORY_LT:
     case UTF8PROC_CATEGORY_LM:
-    case UTF8PROC_CATEGORY_LO:
-      return true;
-    default:
-      return false;
+    case UTF8PROC_CATEGORY_LO: return true;
+    default: return false;
   }
 }
 

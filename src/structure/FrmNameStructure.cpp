@@ -1,14 +1,14 @@
-#include "base/Trim.h"
 #include "structure/FrmNameStructure.h"
 
 #include <algorithm>
 
 #include "base/Fault.h"
+#include "base/Trim.h"
+#include "formats/IniLines.h"
 #include "lang/LanguageKeys.h"
 #include "lang/MessageKeys.h"
 #include "rename/ActionDialog.h"
 #include "structure/ApplyStructure.h"
-#include "formats/IniLines.h"
 #include "structure/PreviewRow.h"
 #include "structure/StructureEngine.h"
 
@@ -99,7 +99,8 @@ void FrmNameStructure::RefreshPreview() {
   // key typed would be in the way of mending it.
   std::string result;
   try {
-    result = EvaluateStructure(context_.State().list.Item(dialog_.Number(kPreviewScrollBar)), dialog_.Text(kStructureInput));
+    result =
+        EvaluateStructure(context_.State().list.Item(dialog_.Number(kPreviewScrollBar)), dialog_.Text(kStructureInput));
   } catch (const base::RuntimeFault& fault) {
     result = fault.what();
   }
@@ -119,8 +120,10 @@ void FrmNameStructure::Edit() {
 
 void FrmNameStructure::Delete() {
   if (chosen_ < 0) return;
-  const core::Answer answer = context_.User().Ask(
-      {lang::kRemoveStructureQuestion, lang::kRemoveStructureCaption, core::MessageStyle::YesNoDefaultNo, {structures_[chosen_].name}});
+  const core::Answer answer = context_.User().Ask({lang::kRemoveStructureQuestion,
+                                                   lang::kRemoveStructureCaption,
+                                                   core::MessageStyle::YesNoDefaultNo,
+                                                   {structures_[chosen_].name}});
   if (answer != core::Answer::Yes) return;
   structures_.erase(structures_.begin() + chosen_);
   Choose(std::min(chosen_, static_cast<int>(structures_.size()) - 1));

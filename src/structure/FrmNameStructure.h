@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "rename/ActionContext.h"
 #include "dialog/DialogModel.h"
 #include "lang/MessageCatalog.h"
+#include "rename/ActionContext.h"
 #include "structure/StoredStructures.h"
 #include "structure/SyntaxCheck.h"
 #include "structure/TagChoices.h"

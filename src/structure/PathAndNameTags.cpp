@@ -3,9 +3,9 @@
 #include <optional>
 
 #include "base/Fault.h"
+#include "base/NameSplit.h"
 #include "base/Paths.h"
 #include "base/Quoting.h"
-#include "base/NameSplit.h"
 #include "base/ReplaceText.h"
 #include "structure/BracketLoop.h"
 #include "structure/CharacterSlices.h"

@@ -14,9 +14,7 @@ constexpr int kColumns = 2;
 
 }  // namespace
 
-std::string StructuresFilePath(const std::string& dataFolder) {
-  return dataFolder + settings::kStructuresFileName;
-}
+std::string StructuresFilePath(const std::string& dataFolder) { return dataFolder + settings::kStructuresFileName; }
 
 std::vector<StoredStructure> LoadStoredStructures(platform::FileSystem& fileSystem, const std::string& file) {
   formats::DelimitedList list{kColumns, {}};

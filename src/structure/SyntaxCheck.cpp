@@ -16,7 +16,8 @@ constexpr char kLineBreaks[] = "\n\n";
 constexpr std::string_view kCheckedCaseCodes[] = {"UC", "LC"};
 
 SyntaxFailure Failure(const char* textKey, std::vector<std::string> arguments) {
-  return {core::Message{textKey, lang::kStructureErrorCaption, core::MessageStyle::OkWarning, std::move(arguments)}, 0, 0};
+  return {core::Message{textKey, lang::kStructureErrorCaption, core::MessageStyle::OkWarning, std::move(arguments)}, 0,
+          0};
 }
 
 std::vector<std::size_t> MarkPositions(std::string_view text, std::string_view mark) {
@@ -49,14 +50,14 @@ std::optional<SyntaxFailure> CheckBracketWalk(std::string_view structure, const 
     failure.selectionLength = 1;
     return failure;
   }
-  if (open) return Failure(lang::kStructureError2, {std::string(structure.substr(structure.rfind('<'))), texts.checkInput});
+  if (open)
+    return Failure(lang::kStructureError2, {std::string(structure.substr(structure.rfind('<'))), texts.checkInput});
   return std::nullopt;
 }
 
 }  // namespace
 
-std::optional<SyntaxFailure> CheckCaseBrackets(std::string_view text, std::string_view code,
-                                               const SyntaxTexts& texts) {
+std::optional<SyntaxFailure> CheckCaseBrackets(std::string_view text, std::string_view code, const SyntaxTexts& texts) {
   const std::string opening = "<" + std::string(code) + ">";
   const std::string closing = "</" + std::string(code) + ">";
   const std::vector<std::size_t> opened = MarkPositions(text, opening);

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/FrontEnd.h"
 #include "core/FileList.h"
+#include "core/FrontEnd.h"
 
 namespace nomra::structure {
 
@@ -27,8 +27,7 @@ struct SyntaxFailure {
 // Opening marks <code> and closing marks </code> (case ignored) must pair
 // up in order: as many of each, and each opening mark behind the closing
 // mark before it and before its own. No marks at all is fine.
-std::optional<SyntaxFailure> CheckCaseBrackets(std::string_view text, std::string_view code,
-                                               const SyntaxTexts& texts);
+std::optional<SyntaxFailure> CheckCaseBrackets(std::string_view text, std::string_view code, const SyntaxTexts& texts);
 
 // The editor's check of a structure, the first failure ending it: the angle
 // brackets must alternate, the last tag must be closed, the <UC> and <LC>

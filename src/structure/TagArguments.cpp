@@ -136,7 +136,8 @@ std::string NamePart(std::string_view stem, std::string_view delimiter, long ind
     start = next + delimiter.size();
     ++field;
   }
-  if (index < 1) throw base::RuntimeFault("<NAMEPART(: the part number must be 1 or more, not " + std::to_string(index));
+  if (index < 1)
+    throw base::RuntimeFault("<NAMEPART(: the part number must be 1 or more, not " + std::to_string(index));
   return {};
 }
 

@@ -1,11 +1,10 @@
-#include "base/CaseMap.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
 #include <vector>
 
+#include "base/CaseMap.h"
 #include "base/Utf8.h"
 
 namespace nomra::base {
@@ -17,7 +16,10 @@ TEST(BaseCaseMap, AsciiLettersChangeCaseOtherAsciiStays) {
 }
 
 TEST(BaseCaseMap, UpperCaseKeepsSharpS) {
-  EXPECT_EQ(ToUpper("stra\xC3\x9F" "e"), "STRA\xC3\x9F" "E");  // "straße" -> "STRAßE", not "STRAẞE"
+  EXPECT_EQ(ToUpper("stra\xC3\x9F"
+                    "e"),
+            "STRA\xC3\x9F"
+            "E");  // "straße" -> "STRAßE", not "STRAẞE"
   EXPECT_EQ(ToUpperChar(0xDF), char32_t{0xDF});
 }
 
@@ -53,8 +55,8 @@ TEST(BaseCaseMap, Latin1AccentedLettersPairExceptDivisionAndMultiplication) {
     EXPECT_EQ(ToUpperChar(lower), lower - 0x20) << "U+" << std::hex << static_cast<unsigned>(lower);
     EXPECT_EQ(ToLowerChar(lower - 0x20), lower) << "U+" << std::hex << static_cast<unsigned>(lower - 0x20);
   }
-  EXPECT_EQ(ToUpperChar(0xF7), char32_t{0xF7});  // ÷
-  EXPECT_EQ(ToLowerChar(0xD7), char32_t{0xD7});  // ×
+  EXPECT_EQ(ToUpperChar(0xF7), char32_t{0xF7});                // ÷
+  EXPECT_EQ(ToLowerChar(0xD7), char32_t{0xD7});                // ×
   EXPECT_EQ(ToUpper("\xC3\xA0\xC3\xBE"), "\xC3\x80\xC3\x9E");  // àþ -> ÀÞ
 }
 
@@ -82,19 +84,33 @@ TEST(BaseCaseMap, LatinExtendedOutsideTheCodePageFollowsUnicode) {
 }
 
 TEST(BaseCaseMap, StrayBytesNeverChange) {
-  const std::string text = "ab\xE9" "cd\xFF\xC0\xAF";
-  EXPECT_EQ(ToUpper(text), "AB\xE9" "CD\xFF\xC0\xAF");
-  EXPECT_EQ(ToLower("AB\xE9" "CD\xFF"), "ab\xE9" "cd\xFF");
+  const std::string text =
+      "ab\xE9"
+      "cd\xFF\xC0\xAF";
+  EXPECT_EQ(ToUpper(text),
+            "AB\xE9"
+            "CD\xFF\xC0\xAF");
+  EXPECT_EQ(ToLower("AB\xE9"
+                    "CD\xFF"),
+            "ab\xE9"
+            "cd\xFF");
   EXPECT_EQ(ToUpperChar(kRawByteBase + 0xE9), kRawByteBase + 0xE9);
   EXPECT_EQ(ToLowerChar(kRawByteBase + 0xC9), kRawByteBase + 0xC9);
 }
 
 TEST(BaseCaseMap, EmojiPassesThrough) {
-  EXPECT_EQ(ToUpper("a\xF0\x9F\x98\x80" "b"), "A\xF0\x9F\x98\x80" "B");
+  EXPECT_EQ(ToUpper("a\xF0\x9F\x98\x80"
+                    "b"),
+            "A\xF0\x9F\x98\x80"
+            "B");
 }
 
 TEST(BaseCaseMap, EqualsNoCaseMatchesAcrossCase) {
-  EXPECT_TRUE(EqualsNoCase("\xC3\x84" "BC", "\xC3\xA4" "bc"));  // ÄBC = äbc
+  EXPECT_TRUE(
+      EqualsNoCase("\xC3\x84"
+                   "BC",
+                   "\xC3\xA4"
+                   "bc"));  // ÄBC = äbc
   EXPECT_TRUE(EqualsNoCase("Photo.JPG", "photo.jpg"));
   EXPECT_TRUE(EqualsNoCase("\xC5\xB8", "\xC3\xBF"));  // Ÿ = ÿ
   EXPECT_TRUE(EqualsNoCase("", ""));
@@ -104,7 +120,10 @@ TEST(BaseCaseMap, EqualsNoCaseMatchesAcrossCase) {
 }
 
 TEST(BaseCaseMap, SharpSIsNotEqualToDoubleS) {
-  EXPECT_FALSE(EqualsNoCase("stra\xC3\x9F" "e", "STRASSE"));
+  EXPECT_FALSE(
+      EqualsNoCase("stra\xC3\x9F"
+                   "e",
+                   "STRASSE"));
 }
 
 TEST(BaseCaseMap, StrayByteEqualsOnlyItself) {
@@ -122,10 +141,14 @@ TEST(BaseCaseMap, CompareNoCaseOrdersByLowerCasedCodePoints) {
   // "_" (U+005F) lies between the capitals and the small letters; comparing
   // lower-cased code points puts it before every letter.
   EXPECT_LT(CompareNoCase("B_", "ba"), 0);
-  EXPECT_LT(CompareNoCase("z", "\xC3\xA4"), 0);           // z (U+007A) before ä (U+00E4)
-  EXPECT_LT(CompareNoCase("\xC3\x84", "\xC3\xB6"), 0);    // Ä as ä (U+00E4) before ö (U+00F6)
-  EXPECT_GT(CompareNoCase("\xC3\x96", "\xC3\xA4"), 0);    // Ö as ö after ä
-  EXPECT_EQ(CompareNoCase("\xD0\x96" "x", "\xD0\xB6" "X"), 0);  // Жx = жX
+  EXPECT_LT(CompareNoCase("z", "\xC3\xA4"), 0);         // z (U+007A) before ä (U+00E4)
+  EXPECT_LT(CompareNoCase("\xC3\x84", "\xC3\xB6"), 0);  // Ä as ä (U+00E4) before ö (U+00F6)
+  EXPECT_GT(CompareNoCase("\xC3\x96", "\xC3\xA4"), 0);  // Ö as ö after ä
+  EXPECT_EQ(CompareNoCase("\xD0\x96"
+                          "x",
+                          "\xD0\xB6"
+                          "X"),
+            0);  // Жx = жX
 }
 
 TEST(BaseCaseMap, CompareNoCaseSortsAMixedListConsistently) {

@@ -1,9 +1,8 @@
-#include "base/Cp1252.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 
+#include "base/Cp1252.h"
 #include "base/Utf8.h"
 
 namespace nomra::base {
@@ -56,29 +55,38 @@ TEST(BaseCp1252, EveryByteSurvivesDecodeAndEncode) {
 }
 
 TEST(BaseCp1252, StoredBlankStandInSurvives) {
-  const std::string stored = "a\x90" "b";
-  EXPECT_EQ(DecodeCp1252(stored), "a\xC2\x90" "b");
+  const std::string stored =
+      "a\x90"
+      "b";
+  EXPECT_EQ(DecodeCp1252(stored),
+            "a\xC2\x90"
+            "b");
   EXPECT_EQ(EncodeCp1252(DecodeCp1252(stored)), stored);
 }
 
 TEST(BaseCp1252, EncodesCodePageCharacters) {
-  EXPECT_EQ(EncodeCp1252("\xE2\x82\xAC" "5"), "\x80" "5");
+  EXPECT_EQ(EncodeCp1252("\xE2\x82\xAC"
+                         "5"),
+            "\x80"
+            "5");
   EXPECT_EQ(EncodeCp1252("\xC5\xB8"), Byte(0x9F));
   EXPECT_EQ(EncodeCp1252("caf\xC3\xA9"), "caf\xE9");
   EXPECT_EQ(EncodeCp1252("ab"), "ab");
 }
 
 TEST(BaseCp1252, EncodingWritesQuestionMarkForMissingCharacters) {
-  EXPECT_EQ(EncodeCp1252("\xD0\x96"), "?");                    // Ж
-  EXPECT_EQ(EncodeCp1252("a\xF0\x9F\x98\x80" "b"), "a?b");     // emoji
-  EXPECT_EQ(EncodeCp1252("\xC4\x9F" "x"), "?x");               // ğ
-  EXPECT_EQ(EncodeCp1252("\xC2\x80"), "?");                    // U+0080 has no byte: 0x80 is €
-  EXPECT_EQ(EncodeCp1252("\xC2\x9F"), "?");                    // U+009F neither: 0x9F is Ÿ
+  EXPECT_EQ(EncodeCp1252("\xD0\x96"), "?");  // Ж
+  EXPECT_EQ(EncodeCp1252("a\xF0\x9F\x98\x80"
+                         "b"),
+            "a?b");  // emoji
+  EXPECT_EQ(EncodeCp1252("\xC4\x9F"
+                         "x"),
+            "?x");                           // ğ
+  EXPECT_EQ(EncodeCp1252("\xC2\x80"), "?");  // U+0080 has no byte: 0x80 is €
+  EXPECT_EQ(EncodeCp1252("\xC2\x9F"), "?");  // U+009F neither: 0x9F is Ÿ
 }
 
-TEST(BaseCp1252, EncodingWritesStrayBytesBackAsTheyWere) {
-  EXPECT_EQ(EncodeCp1252("bad\xE9name"), "bad\xE9name");
-}
+TEST(BaseCp1252, EncodingWritesStrayBytesBackAsTheyWere) { EXPECT_EQ(EncodeCp1252("bad\xE9name"), "bad\xE9name"); }
 
 TEST(BaseCp1252, TextFileThatIsUtf8PassesUnchanged) {
   EXPECT_EQ(DecodeTextFile("caf\xC3\xA9\r\nline"), "caf\xC3\xA9\r\nline");
@@ -86,7 +94,9 @@ TEST(BaseCp1252, TextFileThatIsUtf8PassesUnchanged) {
 }
 
 TEST(BaseCp1252, TextFileDropsALeadingByteOrderMark) {
-  EXPECT_EQ(DecodeTextFile("\xEF\xBB\xBF" "abc"), "abc");
+  EXPECT_EQ(DecodeTextFile("\xEF\xBB\xBF"
+                           "abc"),
+            "abc");
   EXPECT_EQ(DecodeTextFile("\xEF\xBB\xBF"), "");
 }
 

@@ -1,11 +1,11 @@
-#include "base/DateText.h"
-
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <ctime>
 #include <optional>
 #include <string>
+
+#include "base/DateText.h"
 
 namespace nomra::base {
 namespace {
@@ -53,6 +53,17 @@ TEST(BaseDateText, UsesLocalTime) {
 TEST(BaseDateText, DefaultListDateHasTheListForm) {
   ScopedTimeZone zone("UTC");
   EXPECT_EQ(FormatListDate(315532800), kDefaultListDate);  // 1980-01-01 00:00:00 UTC
+}
+
+TEST(BaseDateText, TimeStampIsFourteenDigitsWithLeadingZeros) {
+  std::tm when{};
+  when.tm_year = 1999 - 1900;
+  when.tm_mon = 0;
+  when.tm_mday = 2;
+  when.tm_hour = 3;
+  when.tm_min = 4;
+  when.tm_sec = 5;
+  EXPECT_EQ(FormatTimeStamp(when), "19990102030405");
 }
 
 }  // namespace

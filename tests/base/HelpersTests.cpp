@@ -1,14 +1,14 @@
-#include "base/Paths.h"
-#include "base/MessageText.h"
-#include "base/FileNames.h"
-#include "base/Quoting.h"
-#include "base/Trim.h"
-#include "base/Flags.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
+
+#include "base/FileNames.h"
+#include "base/Flags.h"
+#include "base/MessageText.h"
+#include "base/Paths.h"
+#include "base/Quoting.h"
+#include "base/Trim.h"
 
 namespace nomra::base {
 namespace {
@@ -35,13 +35,9 @@ TEST(BaseHelpers, FormatMessageReplacesEveryOccurrenceOfAMarker) {
   EXPECT_EQ(FormatMessage("%1 and %1", {"x"}), "x and x");
 }
 
-TEST(BaseHelpers, FormatMessageWithNoValuesLeavesTheText) {
-  EXPECT_EQ(FormatMessage("%1 of %2", {}), "%1 of %2");
-}
+TEST(BaseHelpers, FormatMessageWithNoValuesLeavesTheText) { EXPECT_EQ(FormatMessage("%1 of %2", {}), "%1 of %2"); }
 
-TEST(BaseHelpers, FormatMessageLeavesMarkersWithoutValue) {
-  EXPECT_EQ(FormatMessage("%1 of %2", {"3"}), "3 of %2");
-}
+TEST(BaseHelpers, FormatMessageLeavesMarkersWithoutValue) { EXPECT_EQ(FormatMessage("%1 of %2", {"3"}), "3 of %2"); }
 
 TEST(BaseHelpers, FormatMessageTakesPercentTenAsMarkerOneAndADigit) {
   EXPECT_EQ(FormatMessage("%10", {"v"}), "v0");

@@ -1,11 +1,10 @@
-#include "base/NumberText.h"
-
 #include <gtest/gtest.h>
 
 #include <clocale>
 #include <cstdint>
 #include <string>
 
+#include "base/NumberText.h"
 #include "support/ScopedEnvironment.h"
 
 namespace nomra::base {
@@ -49,8 +48,8 @@ TEST(BaseNumberText, GroupsWithTheLocalesCharacter) {
   // locales the machine has generated.
   const ScopedEnvironment builtLocales("LOCPATH", NOMRA_TEST_LOCALES);
   ScopedNumericLocale locale;
-  const char* const candidates[] = {"de_DE.UTF-8", "de_DE.utf8", "de_AT.UTF-8", "de_DE", "nl_NL.UTF-8",
-                                    "it_IT.UTF-8", "es_ES.UTF-8"};
+  const char* const candidates[] = {"de_DE.UTF-8", "de_DE.utf8",  "de_AT.UTF-8", "de_DE",
+                                    "nl_NL.UTF-8", "it_IT.UTF-8", "es_ES.UTF-8"};
   const char* used = nullptr;
   for (const char* name : candidates) {
     if (locale.Use(name)) {
@@ -58,7 +57,8 @@ TEST(BaseNumberText, GroupsWithTheLocalesCharacter) {
       break;
     }
   }
-  if (used == nullptr) GTEST_SKIP() << "no locale that groups with \".\" is installed, and the locales package is missing to build one";
+  if (used == nullptr)
+    GTEST_SKIP() << "no locale that groups with \".\" is installed, and the locales package is missing to build one";
   ASSERT_STREQ(std::localeconv()->thousands_sep, ".") << used;
   EXPECT_EQ(FormatGrouped(999), "999");
   EXPECT_EQ(FormatGrouped(1000), "1.000");

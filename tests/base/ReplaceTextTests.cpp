@@ -1,6 +1,6 @@
-#include "base/ReplaceText.h"
-
 #include <gtest/gtest.h>
+
+#include "base/ReplaceText.h"
 
 namespace nomra::base {
 namespace {
@@ -65,9 +65,23 @@ TEST(ReplaceTextTest, CaseOfMultibyteLettersFollowsTheWesternCodePage) {
 }
 
 TEST(ReplaceTextTest, BytesThatAreNoUtf8StayAsTheyAre) {
-  EXPECT_EQ(ReplaceText("a\xFF" "b", "b", "c"), "a\xFF" "c");
-  EXPECT_EQ(ReplaceText("A\xFF" "B", "b", "c", 1, kReplaceAll, kIgnoreCase), "A\xFF" "c");
-  EXPECT_EQ(ReplaceText("\xFF" "a\xFF" "a", "a", "b", 3), "\xFF" "a\xFF" "b");
+  EXPECT_EQ(ReplaceText("a\xFF"
+                        "b",
+                        "b", "c"),
+            "a\xFF"
+            "c");
+  EXPECT_EQ(ReplaceText("A\xFF"
+                        "B",
+                        "b", "c", 1, kReplaceAll, kIgnoreCase),
+            "A\xFF"
+            "c");
+  EXPECT_EQ(ReplaceText("\xFF"
+                        "a\xFF"
+                        "a",
+                        "a", "b", 3),
+            "\xFF"
+            "a\xFF"
+            "b");
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
-#include "base/Utf8.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <tuple>
 #include <vector>
+
+#include "base/Utf8.h"
 
 namespace nomra::base {
 namespace {
@@ -34,9 +34,7 @@ TEST(BaseUtf8, DecodeAtGivesTheByteLengthOfTheCharacter) {
 TEST(BaseUtf8, ForEachCharReportsOffsetsThatNeverCutACharacter) {
   const std::string text = "x\xC3\xA9\xFFy\xF0\x9F\x98\x80";
   std::vector<std::tuple<char32_t, std::size_t, std::size_t>> seen;
-  ForEachChar(text, [&](char32_t c, std::size_t offset, std::size_t length) {
-    seen.emplace_back(c, offset, length);
-  });
+  ForEachChar(text, [&](char32_t c, std::size_t offset, std::size_t length) { seen.emplace_back(c, offset, length); });
   const std::vector<std::tuple<char32_t, std::size_t, std::size_t>> expected = {
       {U'x', 0, 1}, {0xE9, 1, 2}, {Raw(0xFF), 3, 1}, {U'y', 4, 1}, {0x1F600, 5, 4}};
   EXPECT_EQ(seen, expected);

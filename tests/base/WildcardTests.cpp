@@ -1,10 +1,10 @@
-#include "base/Wildcard.h"
-
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <ostream>
 #include <string>
+
+#include "base/Wildcard.h"
 
 namespace nomra::base {
 namespace {
@@ -54,8 +54,8 @@ const WildcardCase kCases[] = {
     {"xphoto.jpg", "photo.jpg", false},
     {"photo.jpeg", "*.jpg", false},
     {"\xC3\x84pfel", "\xC3\xA4PFEL", true},  // Äpfel / äPFEL
-    {"\xC5\xB8", "\xC3\xBF", true},           // Ÿ / ÿ
-    {"\xC3\x9F", "SS", false},                // ß is not "SS"
+    {"\xC5\xB8", "\xC3\xBF", true},          // Ÿ / ÿ
+    {"\xC3\x9F", "SS", false},               // ß is not "SS"
     // "*": any run, the empty one included.
     {"", "*", true},
     {"anything at all", "*", true},
@@ -80,12 +80,12 @@ const WildcardCase kCases[] = {
     {"a", "?", true},
     {"", "?", false},
     {"ab", "?", false},
-    {"\xC3\xA9", "?", true},                 // é is one character
-    {"\xE2\x82\xAC", "?", true},             // € is one character
-    {"\xF0\x9F\x98\x80", "?", true},         // 😀 is one character
+    {"\xC3\xA9", "?", true},          // é is one character
+    {"\xE2\x82\xAC", "?", true},      // € is one character
+    {"\xF0\x9F\x98\x80", "?", true},  // 😀 is one character
     {"\xF0\x9F\x98\x80", "??", false},
     {"x\xC3\xA9y", "x?y", true},
-    {"\xE9", "?", true},                     // a stray byte is one character too
+    {"\xE9", "?", true},  // a stray byte is one character too
     {"bad\xE9name", "bad?name", true},
     {"file1.txt", "file?.txt", true},
     {"file12.txt", "file?.txt", false},
@@ -95,12 +95,12 @@ const WildcardCase kCases[] = {
     {"0", "#", true},
     {"5", "#", true},
     {"9", "#", true},
-    {"/", "#", false},                       // the characters either side of 0-9
+    {"/", "#", false},  // the characters either side of 0-9
     {":", "#", false},
     {"a", "#", false},
     {"", "#", false},
     {"12", "#", false},
-    {"\xD9\xA5", "#", false},                // Arabic-Indic five is not one of 0-9
+    {"\xD9\xA5", "#", false},  // Arabic-Indic five is not one of 0-9
     // "[...]": one of the listed characters.
     {"a", "[abc]", true},
     {"C", "[abc]", true},
@@ -115,10 +115,10 @@ const WildcardCase kCases[] = {
     {"x", "[0-9]", false},
     {"m", "[a-cx-z]", false},
     {"y", "[a-cx-z]", true},
-    {"-", "[a-]", true},                     // a "-" at the end is itself
+    {"-", "[a-]", true},  // a "-" at the end is itself
     {"b", "[a-]", false},
-    {"\xC3\xA9", "[\xC3\xA9\xC3\xA8]", true},   // é in [éè]
-    {"\xC3\x89", "[\xC3\xA9\xC3\xA8]", true},   // É in [éè]
+    {"\xC3\xA9", "[\xC3\xA9\xC3\xA8]", true},  // é in [éè]
+    {"\xC3\x89", "[\xC3\xA9\xC3\xA8]", true},  // É in [éè]
     {"e", "[\xC3\xA9\xC3\xA8]", false},
     {"file_b.txt", "file_[abc].txt", true},
     // "[!...]": none of the listed characters.

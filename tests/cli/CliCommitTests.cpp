@@ -131,8 +131,7 @@ TEST_F(CliCommit, JsonCarriesTheReport) {
   // A blocked row's report row carries the key of the list's row at its running number.
   EXPECT_EQ(row["key"].text, document["rows"][0]["key"].text);
   EXPECT_EQ(row["textKey"].text, "MsgText05");
-  EXPECT_EQ(row["message"].text,
-            "\"" + files.Path() + "a.txt\" -> \"" + files.Path() + "b.txt\": the target exists");
+  EXPECT_EQ(row["message"].text, "\"" + files.Path() + "a.txt\" -> \"" + files.Path() + "b.txt\": the target exists");
   EXPECT_EQ(document["changed"].number, 1);
 }
 

@@ -191,9 +191,9 @@ TEST_F(CliHistory, BadRecordNumbersAreBadUsage) {
 }
 
 TEST_F(CliHistory, UnknownOptionsPathsAndMissingValuesAreBadUsage) {
-  for (const Texts& arguments : {Texts{"history", "--frobnicate"}, Texts{"history", "somewhere"},
-                                 Texts{"history", "--undo"}, Texts{"history", "--clear=yes"},
-                                 Texts{"history", "--clear", "--undo", "1"}}) {
+  for (const Texts& arguments :
+       {Texts{"history", "--frobnicate"}, Texts{"history", "somewhere"}, Texts{"history", "--undo"},
+        Texts{"history", "--clear=yes"}, Texts{"history", "--clear", "--undo", "1"}}) {
     const CliResult result = Run(arguments);
     EXPECT_EQ(result.exitStatus, 2) << arguments.back();
     EXPECT_TRUE(result.out.empty()) << result.out;

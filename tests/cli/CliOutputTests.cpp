@@ -63,8 +63,8 @@ TEST_F(CliOutput, NameWithAByteThatIsNotUtf8ShowsAsEscapeAndTheRowStillWorks) {
   CreateFileNamed("bad\xE9.txt");
   CreateFileNamed("plain.txt");
 
-  const CliResult result = Run({"--json", "--select", "bad*", "--scope", "selected", "--edit", "good.txt",
-                                files.Path()});
+  const CliResult result =
+      Run({"--json", "--select", "bad*", "--scope", "selected", "--edit", "good.txt", files.Path()});
 
   ASSERT_EQ(result.exitStatus, 0) << result.err;
   EXPECT_NE(result.out.find("\"bad\\udce9.txt\""), std::string::npos) << result.out;

@@ -60,8 +60,7 @@ TEST_F(CliRecovery, WhatCantBeSetRightIsPrintedFailsTheRunAndTheJournalIsKept) {
                             "never\": the file is under neither name\n"),
             std::string::npos)
       << result.err;
-  EXPECT_NE(result.err.find("nomra-cli: interrupted commit: the journal is kept as"), std::string::npos)
-      << result.err;
+  EXPECT_NE(result.err.find("nomra-cli: interrupted commit: the journal is kept as"), std::string::npos) << result.err;
   EXPECT_FALSE(Exists(JournalPath()));
   EXPECT_EQ(KeptJournals().size(), 1u);
 }
@@ -106,8 +105,8 @@ class CliKilledCommit : public CliRecovery {
 TEST_F(CliKilledCommit, KillNineInTheMiddleIsSetRightByTheNextStart) {
   MakeSwaps();
   CliLaunch launch;
-  launch.arguments = {"--select", "a", "--scope", "selected", "--edit", "b", "--select", "b",
-                      "--edit", "a", "--commit", files.Path()};
+  launch.arguments = {"--select", "a", "--scope", "selected", "--edit",   "b",
+                      "--select", "b", "--edit",  "a",        "--commit", files.Path()};
   launch.environment["NOMRA_DATA_DIR"] = data.Path();
   RunningCli commit(launch);
 
@@ -139,9 +138,8 @@ TEST_F(CliKilledCommit, KillNineInTheMiddleIsSetRightByTheNextStart) {
   const CliResult next = Run({empty.Path()});
 
   EXPECT_EQ(next.exitStatus, 0) << next.err.substr(0, 2000);
-  EXPECT_EQ(next.err.find("nomra-cli: interrupted commit: finished"), killedMidBatch && temporaryFiles > 0
-                                                                          ? std::size_t{0}
-                                                                          : std::string::npos)
+  EXPECT_EQ(next.err.find("nomra-cli: interrupted commit: finished"),
+            killedMidBatch && temporaryFiles > 0 ? std::size_t{0} : std::string::npos)
       << next.err.substr(0, 2000);
   EXPECT_FALSE(Exists(JournalPath()));
   EXPECT_EQ(KeptJournals(), Names{});

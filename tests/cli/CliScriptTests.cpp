@@ -52,8 +52,7 @@ TEST_F(CliScript, QuotesAroundTheNameAreDropped) {
 TEST_F(CliScript, MissingScriptIsAFaultOfItsStepAndTheOthersRun) {
   files.WriteFile("a.txt");
 
-  const CliResult result =
-      Run({"--script", "gone.nrs", "--structure", "b.txt", "--json", files.Path() + "a.txt"});
+  const CliResult result = Run({"--script", "gone.nrs", "--structure", "b.txt", "--json", files.Path() + "a.txt"});
 
   EXPECT_EQ(result.exitStatus, 1);
   EXPECT_NE(result.err.find("--script: no script 'gone.nrs'"), std::string::npos) << result.err;
@@ -62,8 +61,9 @@ TEST_F(CliScript, MissingScriptIsAFaultOfItsStepAndTheOthersRun) {
 
 TEST_F(CliScript, StepsOfUnknownTypesArePassedOver) {
   files.WriteFile("a.txt");
-  const std::string script = files.WriteFile(
-      "s.nrs", "[Main]\r\nSteps=3\r\n[1]\r\nType=11\r\ntxtPr=no\r\n[2]\r\nType=0\r\ntxtPr=no\r\n[3]\r\nType=5\r\ntxtPr=yes_\r\n");
+  const std::string script = files.WriteFile("s.nrs",
+                                             "[Main]\r\nSteps=3\r\n[1]\r\nType=11\r\ntxtPr=no\r\n[2]\r\nType="
+                                             "0\r\ntxtPr=no\r\n[3]\r\nType=5\r\ntxtPr=yes_\r\n");
 
   const JsonValue document = RunJson({"--script", script, files.Path() + "a.txt"});
 
@@ -105,9 +105,8 @@ TEST_F(CliScript, ScriptActsOnTheScopeOnly) {
   files.WriteFile("b.txt");
   const std::string prefix = files.WriteFile("p.nrs", "[Main]\r\nSteps=1\r\n[1]\r\nType=5\r\ntxtPr=p_\r\n");
 
-  const JsonValue document =
-      RunJson({"--select", "b.txt", "--scope", "selected", "--script", prefix, files.Path() + "a.txt",
-               files.Path() + "b.txt"});
+  const JsonValue document = RunJson(
+      {"--select", "b.txt", "--scope", "selected", "--script", prefix, files.Path() + "a.txt", files.Path() + "b.txt"});
 
   EXPECT_EQ(RowNamed(document, "a.txt")["columns"].items[core::kColNewName].text, "a.txt");
   EXPECT_EQ(RowNamed(document, "b.txt")["columns"].items[core::kColNewName].text, "p_b.txt");

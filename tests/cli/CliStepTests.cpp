@@ -30,8 +30,7 @@ TEST_F(CliSteps, SelectWithTwoPatternsSelectsExactlyTheMatchingRows) {
 }
 
 TEST_F(CliSteps, LaterSelectReplacesTheSelection) {
-  const JsonValue document =
-      RunOn({"a.txt", "b.txt", "c.log", "d.txt"}, {"--select", "a.txt;*.log", "--select", "b*"});
+  const JsonValue document = RunOn({"a.txt", "b.txt", "c.log", "d.txt"}, {"--select", "a.txt;*.log", "--select", "b*"});
   EXPECT_EQ(SelectedNames(document), Names{"b.txt"});
 }
 
@@ -48,8 +47,8 @@ TEST_F(CliSteps, EditWithoutScopeRenamesEveryRow) {
 
 TEST_F(CliSteps, SelectAndEditTwiceGiveTwoRowsTwoNames) {
   const JsonValue document = RunOn({"a.txt", "b.txt", "c.txt"}, {"--scope", "selected",  //
-                                                                 "--select", "a.txt", "--edit", "first.txt",
-                                                                 "--select", "b.txt", "--edit", "second.txt"});
+                                                                 "--select", "a.txt", "--edit", "first.txt", "--select",
+                                                                 "b.txt", "--edit", "second.txt"});
   EXPECT_EQ(ColumnOfRows(document, core::kColNewName), (Names{"first.txt", "second.txt", "c.txt"}));
   EXPECT_EQ(document["changed"].number, 2);
 }
@@ -61,8 +60,8 @@ TEST_F(CliSteps, ScopeUnselectedEditsOnlyTheRowsNotSelected) {
 }
 
 TEST_F(CliSteps, ScopeAllAfterSelectedActsOnEveryRowAgain) {
-  const JsonValue document = RunOn({"a.txt", "b.txt"}, {"--select", "a.txt", "--scope", "selected", "--edit",
-                                                        "x.txt", "--scope", "all", "--edit", "y.txt"});
+  const JsonValue document = RunOn({"a.txt", "b.txt"}, {"--select", "a.txt", "--scope", "selected", "--edit", "x.txt",
+                                                        "--scope", "all", "--edit", "y.txt"});
   EXPECT_EQ(ColumnOfRows(document, core::kColNewName), (Names{"y.txt", "y.txt"}));
 }
 
@@ -98,9 +97,8 @@ TEST_F(CliSteps, TwoUndosAfterTwoEditsGiveTheOldNames) {
 }
 
 TEST_F(CliSteps, RejectBringsEveryNameBack) {
-  const JsonValue document = RunOn({"a.txt", "b.txt"}, {"--select", "a.txt", "--scope", "selected", "--edit",
-                                                        "x.txt", "--scope", "unselected", "--edit", "y.txt",
-                                                        "--reject"});
+  const JsonValue document = RunOn({"a.txt", "b.txt"}, {"--select", "a.txt", "--scope", "selected", "--edit", "x.txt",
+                                                        "--scope", "unselected", "--edit", "y.txt", "--reject"});
   EXPECT_EQ(ColumnOfRows(document, core::kColNewName), (Names{"a.txt", "b.txt"}));
   EXPECT_EQ(document["changed"].number, 0);
 }
@@ -139,8 +137,8 @@ TEST_F(CliSteps, SortDescendingReversesTheOrder) {
 }
 
 TEST_F(CliSteps, SortByNewNameFollowsThePendingNames) {
-  const JsonValue document = RunOn({"a.txt", "b.txt"}, {"--select", "a.txt", "--scope", "selected", "--edit",
-                                                        "z.txt", "--sort", "new"});
+  const JsonValue document =
+      RunOn({"a.txt", "b.txt"}, {"--select", "a.txt", "--scope", "selected", "--edit", "z.txt", "--sort", "new"});
   EXPECT_EQ(ColumnOfRows(document, core::kColOldName), (Names{"b.txt", "a.txt"}));
 }
 

@@ -7,9 +7,8 @@
 #include <stdexcept>
 
 #include "cli/CommandLineMain.h"
-#include "support/ScopedEnvironment.h"
-
 #include "core/FileEntry.h"
+#include "support/ScopedEnvironment.h"
 
 namespace nomra::testing {
 

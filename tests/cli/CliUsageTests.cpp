@@ -16,9 +16,9 @@ TEST_F(CliUsage, HelpDocumentsEveryOptionWithAnExampleAndExitsZero) {
   const CliResult result = Run({"--help"});
   EXPECT_EQ(result.exitStatus, 0);
   EXPECT_TRUE(result.err.empty()) << result.err;
-  for (const char* option : {"--playlist", "--select", "--scope", "--sort", "--undo", "--reject", "--edit",
-                             "--commit", "--protocol", "--no-protocol", "--data-dir", "--json", "--yes", "--help",
-                             "-h", "--version"}) {
+  for (const char* option :
+       {"--playlist", "--select", "--scope", "--sort", "--undo", "--reject", "--edit", "--commit", "--protocol",
+        "--no-protocol", "--data-dir", "--json", "--yes", "--help", "-h", "--version"}) {
     EXPECT_NE(result.out.find(option), std::string::npos) << option;
   }
   // One example line per option and per command: each head stands two

@@ -26,8 +26,8 @@ class Reader {
   }
 
   void SkipBlanks() {
-    while (pos_ < text_.size() && (text_[pos_] == ' ' || text_[pos_] == '\n' || text_[pos_] == '\r' ||
-                                   text_[pos_] == '\t')) {
+    while (pos_ < text_.size() &&
+           (text_[pos_] == ' ' || text_[pos_] == '\n' || text_[pos_] == '\r' || text_[pos_] == '\t')) {
       ++pos_;
     }
   }
@@ -169,29 +169,14 @@ class Reader {
       switch (escaped) {
         case '"':
         case '\\':
-        case '/':
-          out += escaped;
-          break;
-        case 'b':
-          out += '\b';
-          break;
-        case 'f':
-          out += '\f';
-          break;
-        case 'n':
-          out += '\n';
-          break;
-        case 'r':
-          out += '\r';
-          break;
-        case 't':
-          out += '\t';
-          break;
-        case 'u':
-          base::AppendChar(out, UnicodeEscape());
-          break;
-        default:
-          Fail("unknown escape");
+        case '/': out += escaped; break;
+        case 'b': out += '\b'; break;
+        case 'f': out += '\f'; break;
+        case 'n': out += '\n'; break;
+        case 'r': out += '\r'; break;
+        case 't': out += '\t'; break;
+        case 'u': base::AppendChar(out, UnicodeEscape()); break;
+        default: Fail("unknown escape");
       }
     }
   }

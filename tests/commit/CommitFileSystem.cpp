@@ -20,12 +20,9 @@ std::pair<std::string, std::string> SplitPath(const std::string& path) {
 
 const char* CaseModeName(CaseMode mode) {
   switch (mode) {
-    case CaseMode::Sensitive:
-      return "case-sensitive";
-    case CaseMode::InsensitiveRules:
-      return "case-insensitive rules";
-    case CaseMode::InsensitiveVolume:
-      return "imitated case-insensitive volume";
+    case CaseMode::Sensitive: return "case-sensitive";
+    case CaseMode::InsensitiveRules: return "case-insensitive rules";
+    case CaseMode::InsensitiveVolume: return "imitated case-insensitive volume";
   }
   return "?";
 }

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "base/Quoting.h"
 #include "commit/CommitFileSystem.h"
 #include "commit/CommitResult.h"
-#include "base/Quoting.h"
 #include "support/ListFixture.h"
 
 namespace nomra::testing {

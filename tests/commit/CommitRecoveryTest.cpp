@@ -1,9 +1,8 @@
 // The start after a crash: files a batch left under a temporary name reach
 // their final names, nothing else is renamed, and what can't be set right
 // is told and its journal kept aside.
-#include <gtest/gtest.h>
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/file.h>
 #include <unistd.h>
 
@@ -174,7 +173,8 @@ TEST_F(CommitRecovery, TornLastRecordIsIgnoredAndTheWholeOnesAreDone) {
   files.WriteFile("b" + kMark, "alpha");
   files.WriteFile("d" + kMark, "gamma");
   const std::string torn = commit::JournalTemporaryRecord(PathOf("c"), PathOf("d" + kMark), PathOf("d"));
-  data.WriteFile("commit.journal", std::string(commit::kJournalHeader) + commit::JournalPlanRecord(PathOf("a"), PathOf("b")) +
+  data.WriteFile("commit.journal", std::string(commit::kJournalHeader) +
+                                       commit::JournalPlanRecord(PathOf("a"), PathOf("b")) +
                                        commit::JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b")) +
                                        torn.substr(0, torn.size() - 3));
 
@@ -188,7 +188,8 @@ TEST_F(CommitRecovery, TornLastRecordIsIgnoredAndTheWholeOnesAreDone) {
 }
 
 TEST_F(CommitRecovery, JournalNamingFilesThatDontExistRenamesNothingAndReports) {
-  data.WriteFile("commit.journal", std::string(commit::kJournalHeader) + commit::JournalPlanRecord(PathOf("p"), PathOf("q")) +
+  data.WriteFile("commit.journal", std::string(commit::kJournalHeader) +
+                                       commit::JournalPlanRecord(PathOf("p"), PathOf("q")) +
                                        commit::JournalTemporaryRecord(PathOf("x"), PathOf("y" + kMark), PathOf("y")));
 
   const commit::InterruptedCommit commit = Recover();
@@ -227,7 +228,8 @@ TEST_F(CommitRecovery, APredictedTemporaryNameThatNeverCameIntoBeingIsPassedOver
 // A planned file under none of its names is told once, by its plan record,
 // not again by the record of a move that may never have happened.
 TEST_F(CommitRecovery, PlannedFileUnderNoNameIsToldOnceThoughAMoveWasForeseen) {
-  data.WriteFile("commit.journal", std::string(commit::kJournalHeader) + commit::JournalPlanRecord(PathOf("a"), PathOf("b")) +
+  data.WriteFile("commit.journal", std::string(commit::kJournalHeader) +
+                                       commit::JournalPlanRecord(PathOf("a"), PathOf("b")) +
                                        commit::JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b")));
 
   const commit::InterruptedCommit commit = Recover();
@@ -245,7 +247,8 @@ TEST_F(CommitRecovery, MovesAreUndoneInTheBatchsOrderNotTheJournals) {
   files.WriteFile("b" + kMark, "alpha");
   files.WriteFile("c" + kMark, "beta");
   files.WriteFile("c", "gamma");
-  data.WriteFile("commit.journal", std::string(commit::kJournalHeader) + commit::JournalPlanRecord(PathOf("a"), PathOf("b")) +
+  data.WriteFile("commit.journal", std::string(commit::kJournalHeader) +
+                                       commit::JournalPlanRecord(PathOf("a"), PathOf("b")) +
                                        commit::JournalPlanRecord(PathOf("b"), PathOf("c")) +
                                        commit::JournalPlanRecord(PathOf("c"), PathOf("a")) +
                                        commit::JournalTemporaryRecord(PathOf("b"), PathOf("c" + kMark), PathOf("c")) +
@@ -265,8 +268,8 @@ TEST_F(CommitRecovery, DamagedJournalIsDoneUpToTheDamageOnlyAndKept) {
   files.WriteFile("d" + kMark, "gamma");
   const std::string whole = std::string(commit::kJournalHeader) +
                             commit::JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b"));
-  data.WriteFile("commit.journal", whole + "?garbage\n" +
-                                       commit::JournalTemporaryRecord(PathOf("c"), PathOf("d" + kMark), PathOf("d")));
+  data.WriteFile("commit.journal",
+                 whole + "?garbage\n" + commit::JournalTemporaryRecord(PathOf("c"), PathOf("d" + kMark), PathOf("d")));
 
   const commit::InterruptedCommit commit = Recover();
 
@@ -318,8 +321,8 @@ TEST_F(CommitRecovery, MoveThatFailsIsReportedWithTheSystemsWords) {
 // names are its own to give up.
 TEST_F(CommitRecovery, JournalLockedByARunningCommitIsLeftAlone) {
   files.WriteFile("b" + kMark, "alpha");
-  const std::string text =
-      std::string(commit::kJournalHeader) + commit::JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b"));
+  const std::string text = std::string(commit::kJournalHeader) +
+                           commit::JournalTemporaryRecord(PathOf("a"), PathOf("b" + kMark), PathOf("b"));
   data.WriteFile("commit.journal", text);
   const int held = open(JournalPath().c_str(), O_RDONLY | O_CLOEXEC);
   ASSERT_GE(held, 0);

@@ -2,9 +2,8 @@
 // case, as a camera card does, and this driver refuses names outside ASCII,
 // the temporary names of cycles and swaps among them.
 #include <fcntl.h>
-#include <unistd.h>
-
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>

@@ -45,7 +45,8 @@ TEST(JournalText, AwkwardNamesComeBackByteForByte) {
 // nothing is called damaged.
 TEST(JournalText, ACutAnywhereKeepsTheWholeRecordsAndDropsTheTornOne) {
   const std::string text = SampleJournal();
-  const std::size_t firstEnd = commit::kJournalHeader.size() + commit::JournalPlanRecord(kAwkwardSource, kAwkwardFinal).size();
+  const std::size_t firstEnd =
+      commit::kJournalHeader.size() + commit::JournalPlanRecord(kAwkwardSource, kAwkwardFinal).size();
   const std::size_t secondEnd = firstEnd + commit::JournalPlanRecord("/d/b", "/d/a").size();
   for (std::size_t length = 0; length < text.size(); ++length) {
     SCOPED_TRACE("cut after " + std::to_string(length) + " bytes");
@@ -78,13 +79,15 @@ TEST(JournalText, ALengthThatDoesNotMatchItsRecordIsDamage) {
 }
 
 TEST(JournalText, RelativeOrNulHoldingPathsAreDamage) {
-  EXPECT_EQ(commit::ParseJournal(std::string(commit::kJournalHeader) + "P 1:a 4:/d/b\n").damagedAt, commit::kJournalHeader.size());
+  EXPECT_EQ(commit::ParseJournal(std::string(commit::kJournalHeader) + "P 1:a 4:/d/b\n").damagedAt,
+            commit::kJournalHeader.size());
   const std::string withNul = std::string(commit::kJournalHeader) + "P 4:/d/" + std::string(1, '\0') + " 4:/d/b\n";
   EXPECT_EQ(commit::ParseJournal(withNul).damagedAt, commit::kJournalHeader.size());
 }
 
 TEST(JournalText, AnotherHeaderIsDamageAndNothingIsRead) {
-  const commit::JournalContent content = commit::ParseJournal("NomraCommitJournal 2\n" + commit::JournalPlanRecord("/d/a", "/d/b"));
+  const commit::JournalContent content =
+      commit::ParseJournal("NomraCommitJournal 2\n" + commit::JournalPlanRecord("/d/a", "/d/b"));
   EXPECT_FALSE(content.headerOk);
   EXPECT_EQ(content.damagedAt, 0u);
   EXPECT_TRUE(content.plan.empty());

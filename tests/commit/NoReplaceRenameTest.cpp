@@ -1,13 +1,12 @@
 // The platform's rename that never replaces a file, its fallbacks, and the
 // check that a rename really happened.
-#include "platform/posix/NoReplaceRename.h"
-
 #include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <ostream>
 
+#include "platform/posix/NoReplaceRename.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "support/TempFolder.h"
 

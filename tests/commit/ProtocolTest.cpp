@@ -19,17 +19,6 @@ TEST(ProtocolRecordText, FieldsAreJoinedByQuotesAndEndInCrLf) {
             "20040315142305\"/home/u/Fotos/\"img1.jpg\"Urlaub 01.jpg\r\n");
 }
 
-TEST(ProtocolRecordText, TimeIsFourteenDigitsWithLeadingZeros) {
-  std::tm when{};
-  when.tm_year = 1999 - 1900;
-  when.tm_mon = 0;
-  when.tm_mday = 2;
-  when.tm_hour = 3;
-  when.tm_min = 4;
-  when.tm_sec = 5;
-  EXPECT_EQ(base::FormatTimeStamp(when), "19990102030405");
-}
-
 TEST(ProtocolRecordText, NamesAreNeitherQuotedNorEscapedAndKeepTheirBytes) {
   EXPECT_EQ(commit::ProtocolRecord(FixedLocalTime(), "/d/", "a\"b", "caf\xE9 \xC3\xBF"),
             "20040315142305\"/d/\"a\"b\"caf\xE9 \xC3\xBF\r\n");
@@ -47,9 +36,13 @@ TEST_F(RenameProtocol, EachRenameOfABatchIsOneLineWithTheFinalName) {
 
   ASSERT_TRUE(result.notRenamed.empty());
   const std::string folder = files.Path();
-  EXPECT_EQ(ReadWholeFile(ProtocolPath()), "20000101000000\"/old/\"x\"y\r\n"
-                                           "20040315142305\"" + folder + "\"A\"B\r\n"
-                                           "20040315142305\"" + folder + "\"B\"C\r\n");
+  EXPECT_EQ(ReadWholeFile(ProtocolPath()),
+            "20000101000000\"/old/\"x\"y\r\n"
+            "20040315142305\"" +
+                folder +
+                "\"A\"B\r\n"
+                "20040315142305\"" +
+                folder + "\"B\"C\r\n");
 }
 
 TEST_F(RenameProtocol, FailedRenamesWriteNoLine) {
@@ -123,7 +116,8 @@ TEST_F(RenameProtocol, StartUpReadsWhetherToLogAndWhereTheDataFolderIs) {
 
 TEST_F(RenameProtocol, StartUpWithoutTheSettingDoesNotLog) {
   options.protocolRenames = true;
-  shell::LoadStartupSettings(shell::PrepareStartup(RealFiles(), RealLocations(), data.Path()), {fileSystem, frontEnd, options, script});
+  shell::LoadStartupSettings(shell::PrepareStartup(RealFiles(), RealLocations(), data.Path()),
+                             {fileSystem, frontEnd, options, script});
   EXPECT_FALSE(options.protocolRenames);
 }
 

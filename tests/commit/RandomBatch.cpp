@@ -74,9 +74,7 @@ std::string BatchPlan::Describe() const {
   return out.str();
 }
 
-std::string BatchGenerator::Fold(const std::string& name) const {
-  return caseSensitive_ ? name : base::ToLower(name);
-}
+std::string BatchGenerator::Fold(const std::string& name) const { return caseSensitive_ ? name : base::ToLower(name); }
 
 BatchPlan BatchGenerator::Next() {
   BatchPlan plan;
@@ -224,8 +222,8 @@ void RunBatch(const BatchVolume& volume, const BatchGenerator& generator, const 
   for (const auto& [name, content] : filesAfter) namesAfter.insert(name);
   EXPECT_EQ(namesAfter, expectedNames) << "the files on disk must be the rows' and the foreign ones";
   if (!volume.mayRefuseTemporaryNames && generator.AllCanBeRenamed(plan)) {
-    EXPECT_TRUE(result.notRenamed.empty()) << "every row could have been renamed; first: "
-                                           << result.notRenamed.front().Describe();
+    EXPECT_TRUE(result.notRenamed.empty())
+        << "every row could have been renamed; first: " << result.notRenamed.front().Describe();
     EXPECT_EQ(list.state.changedCount, 0);
   }
 }

@@ -43,12 +43,9 @@ INSTANTIATE_TEST_SUITE_P(Volumes, RandomCommit,
                                            CaseMode::InsensitiveVolume),
                          [](const ::testing::TestParamInfo<CaseMode>& info) {
                            switch (info.param) {
-                             case CaseMode::Sensitive:
-                               return std::string("CaseSensitive");
-                             case CaseMode::InsensitiveRules:
-                               return std::string("CaseInsensitiveRules");
-                             case CaseMode::InsensitiveVolume:
-                               return std::string("CaseInsensitiveVolume");
+                             case CaseMode::Sensitive: return std::string("CaseSensitive");
+                             case CaseMode::InsensitiveRules: return std::string("CaseInsensitiveRules");
+                             case CaseMode::InsensitiveVolume: return std::string("CaseInsensitiveVolume");
                            }
                            return std::string("Unknown");
                          });

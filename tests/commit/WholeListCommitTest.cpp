@@ -208,8 +208,7 @@ TEST_F(WholeListCommit, RemovingRenamedRowsKeepsTheFailedOnesAndTheOneThroughATe
 
   const commit::CommitResult result = CommitAll();
   ASSERT_EQ(TextKeys(result), Names{"MsgText05"});
-  EXPECT_EQ(result.renamed,
-            (Names{PathOf("B") + std::string(commit::kTemporaryMark), PathOf("C"), PathOf("E")}));
+  EXPECT_EQ(result.renamed, (Names{PathOf("B") + std::string(commit::kTemporaryMark), PathOf("C"), PathOf("E")}));
 
   commit::ApplyNotRenamedChoice(Commit(), result, true);
   preview.Refresh();
@@ -263,7 +262,8 @@ TEST_F(WholeListCommit, SuccessfulBatchClearsTheHistorySoUndoIsOff) {
   for (int position = 1; position <= 2; ++position) {
     const core::FileEntry& row = state.list.Item(position);
     EXPECT_EQ(row[core::kColHistory0], row[core::kColNewName]);
-    for (int column = core::kColHistoryFirst; column <= core::kColHistoryLast; ++column) EXPECT_TRUE(row[column].empty());
+    for (int column = core::kColHistoryFirst; column <= core::kColHistoryLast; ++column)
+      EXPECT_TRUE(row[column].empty());
   }
   EXPECT_EQ(NamesOnDisk(), (Names{"other", "second"}));
 }

@@ -1,16 +1,15 @@
-#include "core/AddFile.h"
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
-#include <gtest/gtest.h>
 
 #include "base/DateText.h"
 #include "base/Fault.h"
+#include "core/AddFile.h"
 #include "support/ListFixture.h"
 
 namespace nomra::core {

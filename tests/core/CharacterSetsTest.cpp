@@ -1,6 +1,6 @@
-#include "core/CharacterSets.h"
-
 #include <gtest/gtest.h>
+
+#include "core/CharacterSets.h"
 
 namespace nomra::core {
 namespace {

@@ -1,8 +1,8 @@
-#include "core/FileEntry.h"
-
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+
+#include "core/FileEntry.h"
 
 namespace nomra::core {
 namespace {

@@ -1,8 +1,7 @@
-#include "core/FileList.h"
-
 #include <gtest/gtest.h>
 
 #include "base/Fault.h"
+#include "core/FileList.h"
 #include "support/ForwardingFileSystem.h"
 #include "support/ListFixture.h"
 

@@ -1,8 +1,7 @@
-#include "core/ManualEdit.h"
-
 #include <gtest/gtest.h>
 
 #include "base/FileNames.h"
+#include "core/ManualEdit.h"
 #include "support/ListFixture.h"
 
 namespace nomra::core {

@@ -1,7 +1,6 @@
-#include "core/NameHistory.h"
-
 #include <gtest/gtest.h>
 
+#include "core/NameHistory.h"
 #include "support/ListFixture.h"
 
 namespace nomra::core {

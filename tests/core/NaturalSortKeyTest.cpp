@@ -1,6 +1,6 @@
-#include "core/NaturalSortKey.h"
-
 #include <gtest/gtest.h>
+
+#include "core/NaturalSortKey.h"
 
 namespace nomra::core {
 namespace {
@@ -10,9 +10,7 @@ TEST(NaturalSortKey, PadsEachRunOfDigitsToFifteen) {
   EXPECT_EQ(NaturalSortKey("a1b22"), "a000000000000001b000000000000022");
 }
 
-TEST(NaturalSortKey, NineSortsBeforeTen) {
-  EXPECT_LT(NaturalSortKey("file 9.txt"), NaturalSortKey("file 10.txt"));
-}
+TEST(NaturalSortKey, NineSortsBeforeTen) { EXPECT_LT(NaturalSortKey("file 9.txt"), NaturalSortKey("file 10.txt")); }
 
 TEST(NaturalSortKey, KeepsTextWithoutDigits) { EXPECT_EQ(NaturalSortKey("abc.txt"), "abc.txt"); }
 

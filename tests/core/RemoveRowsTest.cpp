@@ -1,8 +1,7 @@
-#include "core/RemoveRows.h"
-
 #include <gtest/gtest.h>
 
 #include "base/Fault.h"
+#include "core/RemoveRows.h"
 #include "support/ListFixture.h"
 
 namespace nomra::core {

@@ -1,7 +1,6 @@
-#include "core/SortFileList.h"
-
 #include <gtest/gtest.h>
 
+#include "core/SortFileList.h"
 #include "support/ListFixture.h"
 
 namespace nomra::core {

@@ -1,9 +1,8 @@
-#include "dialog/DialogModel.h"
-
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
+#include "dialog/DialogModel.h"
 #include "dialog/DialogState.h"
 
 namespace nomra::dialog {
@@ -81,8 +80,14 @@ TEST(DialogModelTest, StoredValueOfEachKind) {
 }
 
 TEST(DialogModelTest, EncodingTurnsEveryBlankIntoTheStandInAndDecodingBack) {
-  EXPECT_EQ(EncodeStoredValue(" a  b "), "\xC2\x90" "a\xC2\x90\xC2\x90" "b\xC2\x90");
-  EXPECT_EQ(DecodeStoredText("\xC2\x90" "a\xC2\x90\xC2\x90" "b\xC2\x90"), " a  b ");
+  EXPECT_EQ(EncodeStoredValue(" a  b "),
+            "\xC2\x90"
+            "a\xC2\x90\xC2\x90"
+            "b\xC2\x90");
+  EXPECT_EQ(DecodeStoredText("\xC2\x90"
+                             "a\xC2\x90\xC2\x90"
+                             "b\xC2\x90"),
+            " a  b ");
   // Other characters with 0x90 in their UTF-8 form stay as they are.
   EXPECT_EQ(DecodeStoredText("\xE2\x80\x90\xC3\x90"), "\xE2\x80\x90\xC3\x90");
 }

@@ -3,13 +3,13 @@
 
 #include <string>
 
-#include "dialog/ScriptSession.h"
 #include "dialog/DialogModel.h"
 #include "dialog/DialogState.h"
+#include "dialog/ScriptSession.h"
 #include "settings/SettingsKeys.h"
+#include "support/RealFiles.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
-#include "support/RealFiles.h"
 
 namespace nomra::testing {
 

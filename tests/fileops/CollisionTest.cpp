@@ -1,8 +1,8 @@
 // Targets that exist already: nothing is replaced without the user's yes.
 #include "fileops/FileListOperations.h"
+#include "fileops/OperationsFixture.h"
 #include "fileops/PathList.h"
 #include "fileops/ShellOperation.h"
-#include "fileops/OperationsFixture.h"
 
 namespace nomra::fileops::testing {
 namespace {
@@ -119,7 +119,8 @@ TEST_F(CollisionTest, NotTheSameForAllAsksAgain) {
 
   Copy();
 
-  EXPECT_EQ(AskedKeys(), (std::vector<std::string>{lang::kFileExists, lang::kSameForAll, lang::kFileExists, lang::kKeepBoth}));
+  EXPECT_EQ(AskedKeys(),
+            (std::vector<std::string>{lang::kFileExists, lang::kSameForAll, lang::kFileExists, lang::kKeepBoth}));
   EXPECT_EQ(Target("a.txt"), "new a.txt");
   EXPECT_EQ(Target("b.txt"), "old b.txt");
 }

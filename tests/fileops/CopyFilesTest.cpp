@@ -3,9 +3,9 @@
 #include <sys/stat.h>
 
 #include "fileops/FileListOperations.h"
+#include "fileops/OperationsFixture.h"
 #include "fileops/PathList.h"
 #include "fileops/ShellOperation.h"
-#include "fileops/OperationsFixture.h"
 
 namespace nomra::fileops::testing {
 namespace {
@@ -159,7 +159,8 @@ TEST_F(CopyFilesTest, NoWorkFileIsLeftBehind) {
 
   Copy();
 
-  for (const std::string& name : NamesIn(temp.Path() + "target/")) EXPECT_EQ(name.rfind(".nomra", 0), std::string::npos);
+  for (const std::string& name : NamesIn(temp.Path() + "target/"))
+    EXPECT_EQ(name.rfind(".nomra", 0), std::string::npos);
 }
 
 TEST_F(CopyFilesTest, MissingSourceIsToldAndTheOthersGoOn) {

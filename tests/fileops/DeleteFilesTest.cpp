@@ -3,8 +3,8 @@
 
 #include "fileops/DeleteListFiles.h"
 #include "fileops/FileListOperations.h"
-#include "fileops/PathList.h"
 #include "fileops/ListOperationsFixture.h"
+#include "fileops/PathList.h"
 #include "support/ScopedEnvironment.h"
 
 namespace nomra::fileops::testing {

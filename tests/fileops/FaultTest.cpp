@@ -1,7 +1,7 @@
 // Failures of the system: each is told, the source is never lost, and no
 // part of a copy is left behind.
-#include <sys/mount.h>
 #include <fcntl.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -10,8 +10,8 @@
 #include <fstream>
 
 #include "fileops/FileListOperations.h"
-#include "fileops/PathList.h"
 #include "fileops/OperationsFixture.h"
+#include "fileops/PathList.h"
 
 namespace nomra::fileops::testing {
 namespace {

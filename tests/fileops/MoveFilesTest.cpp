@@ -7,8 +7,9 @@
 #include <filesystem>
 
 #include "fileops/FileListOperations.h"
-#include "fileops/PathList.h"
 #include "fileops/OperationsFixture.h"
+#include "fileops/PathList.h"
+#include "support/SecondVolume.h"
 
 namespace nomra::fileops::testing {
 namespace {
@@ -58,16 +59,9 @@ TEST_F(MoveFilesTest, WithinAVolumeTheFileIsRenamed) {
 }
 
 TEST_F(MoveFilesTest, AcrossRealVolumesTheFileIsCopiedThenTheSourceGoes) {
-  std::error_code error;
-  const std::filesystem::path shm = "/dev/shm";
-  struct stat tmpInfo {};
-  struct stat shmInfo {};
-  if (stat(shm.c_str(), &shmInfo) != 0 || stat(temp.Path().c_str(), &tmpInfo) != 0 ||
-      tmpInfo.st_dev == shmInfo.st_dev || access(shm.c_str(), W_OK) != 0) {
-    GTEST_SKIP() << "no second volume at /dev/shm";
-  }
-  const std::string folder = "/dev/shm/nomra-move-test-" + std::to_string(getpid()) + "/";
-  std::filesystem::create_directories(folder, error);
+  const auto volume = nomra::testing::FolderOnSecondVolume(temp);
+  if (!volume) GTEST_SKIP() << nomra::testing::kNoSecondVolume;
+  const std::string folder = volume->Path();
   sources.push_back(temp.WriteFile("source/a.txt", std::string(100000, 'm')));
   const struct timespec times[2] = {{1000000000, 0}, {1200000000, 0}};
   utimensat(AT_FDCWD, sources[0].c_str(), times, 0);
@@ -78,7 +72,6 @@ TEST_F(MoveFilesTest, AcrossRealVolumesTheFileIsCopiedThenTheSourceGoes) {
   struct stat target {};
   stat(targets[0].c_str(), &target);
   const std::vector<std::string> left = NamesIn(folder);
-  std::filesystem::remove_all(folder, error);
 
   EXPECT_EQ(result, 0);
   EXPECT_EQ(moved, std::string(100000, 'm'));

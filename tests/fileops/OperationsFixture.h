@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "lang/MessageKeys.h"
 #include "fileops/OperationServices.h"
+#include "lang/MessageKeys.h"
 #include "platform/posix/FreedesktopTrash.h"
 #include "support/ForwardingFileSystem.h"
 #include "support/RealFiles.h"

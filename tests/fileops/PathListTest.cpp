@@ -30,7 +30,9 @@ TEST(PathListTest, SplitGivesThePathsBackInOrder) {
   EXPECT_EQ(SplitPathList(JoinPathList(paths)), paths);
 }
 
-TEST(PathListTest, TheDoubleNulEndsTheList) { EXPECT_EQ(SplitPathList("/a\0\0/b\0\0"s), std::vector<std::string>{"/a"}); }
+TEST(PathListTest, TheDoubleNulEndsTheList) {
+  EXPECT_EQ(SplitPathList("/a\0\0/b\0\0"s), std::vector<std::string>{"/a"});
+}
 
 TEST(ShellFlagsTest, OneTargetLeavesMultipleTargetsOff) {
   EXPECT_EQ(TransferFlags(JoinPathList({"/a/x"}), JoinPathList({"/b/x"}), false) & FOF_MULTIDESTFILES, 0);

@@ -8,10 +8,11 @@
 #include <fstream>
 
 #include "fileops/FileListOperations.h"
+#include "fileops/OperationsFixture.h"
 #include "fileops/PathList.h"
 #include "platform/posix/FreedesktopTrash.h"
-#include "fileops/OperationsFixture.h"
 #include "support/ScopedEnvironment.h"
+#include "support/SecondVolume.h"
 
 namespace nomra::fileops::testing {
 namespace {
@@ -132,7 +133,8 @@ TEST_F(VolumeTrashTest, FileOnAnotherVolumeGoesToThatVolumesOwnTrash) {
   const std::string trash = volume + ".Trash-" + uid + "/";
   EXPECT_EQ(ReadWholeFile(trash + "files/a.jpg"), "a");
   // Named from the volume's top, so it stays right wherever the volume is mounted.
-  EXPECT_EQ(ReadWholeFile(trash + "info/a.jpg.trashinfo"), std::string("[Trash Info]\nPath=pictures/a.jpg\n") + kDeletedAt);
+  EXPECT_EQ(ReadWholeFile(trash + "info/a.jpg.trashinfo"),
+            std::string("[Trash Info]\nPath=pictures/a.jpg\n") + kDeletedAt);
   EXPECT_FALSE(Exists(Trash()));
 }
 
@@ -159,16 +161,11 @@ TEST_F(VolumeTrashTest, AdministratorsTrashWithoutTheStickyBitIsPassedOver) {
 }
 
 TEST_F(TrashTest, RealSecondVolumeUsesItsOwnTrash) {
-  struct stat tmpInfo {};
-  struct stat shmInfo {};
-  if (stat("/dev/shm", &shmInfo) != 0 || stat(temp.Path().c_str(), &tmpInfo) != 0 ||
-      tmpInfo.st_dev == shmInfo.st_dev || access("/dev/shm", W_OK) != 0) {
-    GTEST_SKIP() << "no second volume at /dev/shm";
-  }
-  const std::string trash = "/dev/shm/.Trash-" + std::to_string(getuid()) + "/";
+  if (!nomra::testing::IsSecondVolumeBeside(temp.Path())) GTEST_SKIP() << nomra::testing::kNoSecondVolume;
+  const std::string trash = std::string(nomra::testing::kSecondVolume) + ".Trash-" + std::to_string(getuid()) + "/";
   const bool trashWasThere = Exists(trash);
   const std::string name = "nomra-trash-test-" + std::to_string(getpid()) + ".txt";
-  const std::string file = "/dev/shm/" + name;
+  const std::string file = nomra::testing::kSecondVolume + name;
   { std::ofstream(file) << "shm"; }
 
   const int result = Delete({file});

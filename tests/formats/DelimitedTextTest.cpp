@@ -1,19 +1,18 @@
-#include "formats/DelimitedText.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
+#include "formats/DelimitedText.h"
 #include "support/RealFiles.h"
 #include "support/TempFolder.h"
 
 namespace nomra::formats {
 namespace {
 
-using nomra::testing::RealFiles;
 using nomra::testing::Exists;
 using nomra::testing::ReadWholeFile;
+using nomra::testing::RealFiles;
 using nomra::testing::TempFolder;
 using Fields = std::vector<std::string>;
 
@@ -149,7 +148,9 @@ TEST_F(DelimitedTextTest, LinesEndedByLineFeedAloneAreReadToo) {
 }
 
 TEST_F(DelimitedTextTest, FileThatIsNotUtf8IsReadAsWindows1252) {
-  EXPECT_EQ(Texts(Load("H;\r\nM\xFC" "ller;\r\n")), (std::vector<std::string>{"M\xC3\xBCller"}));
+  EXPECT_EQ(Texts(Load("H;\r\nM\xFC"
+                       "ller;\r\n")),
+            (std::vector<std::string>{"M\xC3\xBCller"}));
 }
 
 TEST_F(DelimitedTextTest, SavedListIsTheHeaderThenEachRowWithCrLf) {

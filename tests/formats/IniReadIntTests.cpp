@@ -74,8 +74,8 @@ TEST(SettingsReadInt, NonNumericValueThrowsRuntimeFaultNamingTheSetting) {
 
 TEST(SettingsReadInt, MalformedNumbersThrow) {
   TempFolder temp;
-  const auto file = temp.WriteFile(
-      "s.nrp", "[Main]\r\nA=12abc\r\nB=1 2\r\nC=-\r\nD=&H\r\nE=&HXYZ\r\nF=1.5\r\nG=--1\r\n");
+  const auto file =
+      temp.WriteFile("s.nrp", "[Main]\r\nA=12abc\r\nB=1 2\r\nC=-\r\nD=&H\r\nE=&HXYZ\r\nF=1.5\r\nG=--1\r\n");
   for (const char* key : {"A", "B", "C", "D", "E", "F", "G"}) {
     EXPECT_THROW(Ini(file).ReadInt("Main", key), base::RuntimeFault) << key;
   }

@@ -11,8 +11,7 @@ platform::RenameResult BendableFileSystem::RenameNoReplace(const std::string& fr
   return ForwardingFileSystem::RenameNoReplace(from, to);
 }
 
-std::string HistoryTest::Record(const std::string& oldName, const std::string& newName,
-                                const std::string& time) const {
+std::string HistoryTest::Record(const std::string& oldName, const std::string& newName, const std::string& time) const {
   return ProtocolLine(files.Path(), oldName, newName, time);
 }
 

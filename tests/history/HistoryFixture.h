@@ -19,8 +19,8 @@ inline constexpr const char* kTime = kProtocolTime;
 // The real file system, with renames that can be made to fail on call.
 class BendableFileSystem final : public ForwardingFileSystem {
  public:
-  int refuseWith = 0;          // an errno: every rename is refused with it, the disk untouched
-  bool pretendOnly = false;    // every rename reports success and changes nothing
+  int refuseWith = 0;        // an errno: every rename is refused with it, the disk untouched
+  bool pretendOnly = false;  // every rename reports success and changes nothing
   std::vector<std::string> renamedFrom;
 
   platform::RenameResult RenameNoReplace(const std::string& from, const std::string& to) override;
@@ -30,8 +30,7 @@ class BendableFileSystem final : public ForwardingFileSystem {
 class HistoryTest : public ::testing::Test {
  protected:
   // One record line, without its end, of a rename in the files folder.
-  std::string Record(const std::string& oldName, const std::string& newName,
-                     const std::string& time = kTime) const;
+  std::string Record(const std::string& oldName, const std::string& newName, const std::string& time = kTime) const;
   void WriteProtocol(const std::vector<std::string>& lines) const { WriteProtocolFile(data, lines); }
   std::string Protocol() const { return ReadProtocolFile(data); }
   std::string ProtocolPath() const { return data.Path() + "renamed.nrp"; }

@@ -25,7 +25,10 @@ TEST(FormatHistoryDate, PiecesAreCutByCharacterNotByByte) {
 }
 
 TEST(FormatHistoryDate, StrayBytesCountAsOneCharacterEachAndKeepTheirValue) {
-  EXPECT_EQ(FormatHistoryDate("\xFF\xFE" "2003"), "\xFF\xFE" "20-03-, ::");
+  EXPECT_EQ(FormatHistoryDate("\xFF\xFE"
+                              "2003"),
+            "\xFF\xFE"
+            "20-03-, ::");
 }
 
 TEST(ParseHistoryRecord, FourFieldsAreSplitAtTheDoubleQuotes) {

@@ -174,14 +174,20 @@ TEST_F(LoadHistory, NameThatIsntUtf8OnDiskKeepsItsBytes) {
 }
 
 TEST_F(LoadHistory, OneWindows1252LineLeavesTheUtf8LinesAsTheyAre) {
-  CreateFiles({"\xC3\xBC" "ber.txt"});
-  WriteProtocol({Record("x\xFC.txt", "y\xFC.txt"), Record("alt.txt", "\xC3\xBC" "ber.txt")});
+  CreateFiles(
+      {"\xC3\xBC"
+       "ber.txt"});
+  WriteProtocol({Record("x\xFC.txt", "y\xFC.txt"), Record("alt.txt",
+                                                          "\xC3\xBC"
+                                                          "ber.txt")});
 
   Load();
 
   ASSERT_EQ(list.rows.size(), 2u);
   EXPECT_EQ(list.rows[0].newName, "y\xC3\xBC.txt");
-  EXPECT_EQ(list.rows[1].newName, "\xC3\xBC" "ber.txt");
+  EXPECT_EQ(list.rows[1].newName,
+            "\xC3\xBC"
+            "ber.txt");
   EXPECT_EQ(Black(), (Colours{false, true}));
 }
 

@@ -1,14 +1,13 @@
 // Undoing chosen renames on disk from the history window.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 
+#include "base/Fault.h"
 #include "commit/DiskRename.h"
 #include "history/HistoryFixture.h"
-#include "base/Fault.h"
 #include "history/LoadHistory.h"
 
 namespace nomra::testing {

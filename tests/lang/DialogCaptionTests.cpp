@@ -8,8 +8,8 @@
 #include "LanguageFile.h"
 #include "base/CaseMap.h"
 #include "lang/LocaliseForm.h"
-#include "support/TempFolder.h"
 #include "support/RealFiles.h"
+#include "support/TempFolder.h"
 
 namespace nomra::lang {
 namespace {
@@ -51,14 +51,22 @@ TEST_F(DialogCaption, DialogWithoutCaptionTextOrTableRowKeepsItsDesignCaption) {
 
 TEST_F(DialogCaption, ScopedDialogsShowTheirMenuCaptionAndTheApplyScope) {
   const std::vector<std::pair<std::string, std::string>> rows = {
-      {"frmCopyFiles", "mnuCopyFiles"},       {"frmDateTime", "mnuRename09"},
-      {"frmEXIFList", "mnuEXIFList"},         {"frmFileAttributes", "mnuFileAttributes"},
-      {"frmFileList", "mnuFileList"},         {"frmFileExtension", "mnuRename03"},
-      {"frmFindDuplications", "mnuFindDuplications"}, {"frmInsert", "mnuRename07"},
-      {"frmMoveFiles", "mnuMoveFiles"},       {"frmMP3List", "mnuMP3List"},
-      {"frmNameStructure", "mnuRenameStructure"}, {"frmNumber", "mnuRename01"},
-      {"frmPrefixSuffix", "mnuRename05"},     {"frmReplace", "mnuRename06"},
-      {"frmTrim", "mnuRename10"},             {"frmULCase", "mnuRename04"},
+      {"frmCopyFiles", "mnuCopyFiles"},
+      {"frmDateTime", "mnuRename09"},
+      {"frmEXIFList", "mnuEXIFList"},
+      {"frmFileAttributes", "mnuFileAttributes"},
+      {"frmFileList", "mnuFileList"},
+      {"frmFileExtension", "mnuRename03"},
+      {"frmFindDuplications", "mnuFindDuplications"},
+      {"frmInsert", "mnuRename07"},
+      {"frmMoveFiles", "mnuMoveFiles"},
+      {"frmMP3List", "mnuMP3List"},
+      {"frmNameStructure", "mnuRenameStructure"},
+      {"frmNumber", "mnuRename01"},
+      {"frmPrefixSuffix", "mnuRename05"},
+      {"frmReplace", "mnuRename06"},
+      {"frmTrim", "mnuRename10"},
+      {"frmULCase", "mnuRename04"},
   };
   const auto catalog = Catalog({"[Main]", "lngname=Deutsch"});
   for (const auto& [dialog, menu] : rows) {
@@ -70,8 +78,12 @@ TEST_F(DialogCaption, ScopedDialogsShowTheirMenuCaptionAndTheApplyScope) {
 
 TEST_F(DialogCaption, PlainMenuDialogsShowTheirMenuCaptionWithoutAmpersand) {
   const std::vector<std::pair<std::string, std::string>> rows = {
-      {"frmInfo", "mnuInfo"},         {"frmMove", "mnuRename08"}, {"frmNewNamesFromFile", "mnuNewNamesFromFile"},
-      {"frmOpen", "mnuOpenFile"},     {"frmRenumber", "mnuRename02"}, {"frmScript", "mnuStartRunScript"},
+      {"frmInfo", "mnuInfo"},
+      {"frmMove", "mnuRename08"},
+      {"frmNewNamesFromFile", "mnuNewNamesFromFile"},
+      {"frmOpen", "mnuOpenFile"},
+      {"frmRenumber", "mnuRename02"},
+      {"frmScript", "mnuStartRunScript"},
       {"frmSynchronize", "mnuSyncFolders"},
   };
   const auto catalog = Catalog({"[Main]", "lngname=Deutsch"});
@@ -118,9 +130,10 @@ TEST_F(DialogCaption, NotRenamedLabelsItsChoiceWithTheCopyDialogsCaption) {
   FakeForm form("frmNotRenamed");
   auto& label = form.Add(ControlKind::Other, "lblSelAction");
   auto& other = form.Add(ControlKind::Other, "lblOther");
-  LocaliseForm(form, {}, Catalog({"[frmNotRenamed]", "lblSelAction=falsch", "lblOther=Anderes", "[frmSelAction]",
-                                  "Caption=Was tun"}),
-               MainMenu());
+  LocaliseForm(
+      form, {},
+      Catalog({"[frmNotRenamed]", "lblSelAction=falsch", "lblOther=Anderes", "[frmSelAction]", "Caption=Was tun"}),
+      MainMenu());
   EXPECT_EQ(label.caption, "Was tun:");
   EXPECT_EQ(other.caption, "Anderes");
   EXPECT_FALSE(form.caption.has_value());

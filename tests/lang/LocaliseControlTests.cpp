@@ -5,8 +5,8 @@
 #include "FakeForm.h"
 #include "LanguageFile.h"
 #include "lang/LocaliseForm.h"
-#include "support/TempFolder.h"
 #include "support/RealFiles.h"
+#include "support/TempFolder.h"
 
 namespace nomra::lang {
 namespace {
@@ -165,8 +165,8 @@ TEST_F(LocaliseControls, TabStripTabsTakeTheirKeysInTheDialogsSection) {
   FakeForm form("frmOptions");
   auto& tabs = form.Add(ControlKind::TabStrip, "TabStrip1");
   tabs.tabKeys = {"tabGeneral", "tabColours", "tabFilters"};
-  Localise(form, Catalog({"[frmOptions]", "tabGeneral=&Allgemein", "tabFilters=Filter", "[Buttons]",
-                          "tabColours=falsch"}));
+  Localise(form,
+           Catalog({"[frmOptions]", "tabGeneral=&Allgemein", "tabFilters=Filter", "[Buttons]", "tabColours=falsch"}));
   EXPECT_EQ(tabs.tabCaptions, (std::map<int, std::string>{{0, "&Allgemein"}, {2, "Filter"}}));
 }
 

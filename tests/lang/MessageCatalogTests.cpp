@@ -4,8 +4,8 @@
 
 #include "LanguageFile.h"
 #include "lang/MessageCatalog.h"
-#include "support/TempFolder.h"
 #include "support/RealFiles.h"
+#include "support/TempFolder.h"
 
 namespace nomra::lang {
 namespace {
@@ -48,7 +48,8 @@ TEST(MessageCatalog, TextIsReadOnceAndKeptWhenTheFileChanges) {
 TEST(MessageCatalog, FillsPlaceholdersInTheOrderOfTheArguments) {
   TempFolder temp;
   const auto file = WriteLanguageFile(temp, "de.lng", {"[Messages]", "MsgStat06=Zeile %1 von %2"});
-  EXPECT_EQ(MessageCatalog(nomra::testing::RealFiles(), file).GetText("Messages", "MsgStat06", {"3", "7"}), "Zeile 3 von 7");
+  EXPECT_EQ(MessageCatalog(nomra::testing::RealFiles(), file).GetText("Messages", "MsgStat06", {"3", "7"}),
+            "Zeile 3 von 7");
 }
 
 TEST(MessageCatalog, PlaceholderWithoutArgumentStays) {
@@ -95,7 +96,8 @@ TEST(MessageCatalog, ValueOf999CharactersIsReadWhole) {
 TEST(MessageCatalog, PlaceholdersAreFilledAfterTheCut) {
   TempFolder temp;
   const auto file = WriteLanguageFile(temp, "de.lng", {"[Messages]", "MsgText05=" + Repeat("x", 997) + "%1yz"});
-  EXPECT_EQ(MessageCatalog(nomra::testing::RealFiles(), file).GetText("Messages", "MsgText05", {"ARG"}), Repeat("x", 997) + "ARG");
+  EXPECT_EQ(MessageCatalog(nomra::testing::RealFiles(), file).GetText("Messages", "MsgText05", {"ARG"}),
+            Repeat("x", 997) + "ARG");
 }
 
 TEST(MessageCatalog, LanguageNameIsMainLngname) {

@@ -5,8 +5,8 @@
 #include "FakeForm.h"
 #include "LanguageFile.h"
 #include "lang/LocaliseForm.h"
-#include "support/TempFolder.h"
 #include "support/RealFiles.h"
+#include "support/TempFolder.h"
 
 namespace nomra::lang {
 namespace {
@@ -30,7 +30,8 @@ class ToolbarTexts : public ::testing::Test {
     return bar;
   }
   void Localise(std::initializer_list<std::string> lines) {
-    LocaliseForm(form_, {}, MessageCatalog(nomra::testing::RealFiles(), WriteLanguageFile(temp_, "de.lng", lines)), CaptionSources{});
+    LocaliseForm(form_, {}, MessageCatalog(nomra::testing::RealFiles(), WriteLanguageFile(temp_, "de.lng", lines)),
+                 CaptionSources{});
   }
 
  private:
@@ -79,14 +80,13 @@ TEST_F(ToolbarTexts, OnlyDefaultCheckAndDropDownButtonsGetToolTips) {
 }
 
 TEST_F(ToolbarTexts, DropDownEntriesTakeTheToolbarsNameWithTheKeyFirstThenTheMenuEntry) {
-  auto& bar = Toolbar({Button("Undo"), Button("TakeChanges", kButtonStyleDropDown,
-                                                 {"TakeChanges1", "TakeChanges2", "TakeChanges9"})});
+  auto& bar = Toolbar(
+      {Button("Undo"), Button("TakeChanges", kButtonStyleDropDown, {"TakeChanges1", "TakeChanges2", "TakeChanges9"})});
   Localise({"[frmMain]", "BtnBarMainTakeChanges1=&Alle umbenennen", "mnuTakeChanges1=falsch",
             "mnuTakeChanges2=&Markierte", "TakeChanges9=nicht der Schlüssel allein", "[Menus]",
             "mnuTakeChanges9=nicht in Menus"});
   using Entry = std::pair<int, int>;
-  EXPECT_EQ(bar.entryTexts,
-            (std::map<Entry, std::string>{{{1, 0}, "&Alle umbenennen"}, {{1, 1}, "&Markierte"}}));
+  EXPECT_EQ(bar.entryTexts, (std::map<Entry, std::string>{{{1, 0}, "&Alle umbenennen"}, {{1, 1}, "&Markierte"}}));
 }
 
 TEST_F(ToolbarTexts, EntriesOfAButtonThatIsNoDropDownStayAsTheyAre) {

@@ -1,9 +1,8 @@
-#include "open/FilterList.h"
-
 #include <gtest/gtest.h>
 
-#include "support/TempFolder.h"
+#include "open/FilterList.h"
 #include "support/RealFiles.h"
+#include "support/TempFolder.h"
 
 namespace nomra::open {
 namespace {
@@ -13,7 +12,8 @@ using nomra::testing::Ini;
 class FilterListTest : public ::testing::Test {
  protected:
   std::vector<FilterRow> Build(const std::string& filterSection) {
-    const std::string file = temp.WriteFile("settings.nrp", "[Settings]\r\nlastfilter=2\r\n[Filter]\r\n" + filterSection);
+    const std::string file =
+        temp.WriteFile("settings.nrp", "[Settings]\r\nlastfilter=2\r\n[Filter]\r\n" + filterSection);
     return BuildFilterList(Ini(file), "All files");
   }
 
@@ -29,9 +29,8 @@ TEST_F(FilterListTest, FirstRowTakesEveryFile) {
 
 TEST_F(FilterListTest, EachFilterKeyAddsARowInOrder) {
   const std::vector<FilterRow> rows = Build("f1=Music|*.mp3;*.ogg\r\nf2=Pictures|*.jpg\r\n");
-  EXPECT_EQ(rows, (std::vector<FilterRow>{{"All files", "*.*"},
-                                          {"Music (*.mp3;*.ogg)", "*.mp3;*.ogg"},
-                                          {"Pictures (*.jpg)", "*.jpg"}}));
+  EXPECT_EQ(rows, (std::vector<FilterRow>{
+                      {"All files", "*.*"}, {"Music (*.mp3;*.ogg)", "*.mp3;*.ogg"}, {"Pictures (*.jpg)", "*.jpg"}}));
 }
 
 TEST_F(FilterListTest, EveryBarOfTheTextOpensAParenthesis) {

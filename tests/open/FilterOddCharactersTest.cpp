@@ -58,14 +58,21 @@ TEST(FilterOddCharactersTest, ExclamationMarkNegatesOnlyAtTheStartOfAList) {
 }
 
 TEST(FilterOddCharactersTest, UnicodeNamesMatchCharacterByCharacterWithoutRegardToCase) {
-  EXPECT_TRUE(PassesFilter("\xC3\x84rger.MP3", "\xC3\xA4*.mp3"));             // Ärger, ä
-  EXPECT_TRUE(PassesFilter("\xC3\xA9.txt", "?.txt"));                          // é is one character
-  EXPECT_TRUE(PassesFilter("\xE6\x97\xA5\xE6\x9C\xAC.txt", "??.txt"));         // two CJK characters
+  EXPECT_TRUE(PassesFilter("\xC3\x84rger.MP3", "\xC3\xA4*.mp3"));       // Ärger, ä
+  EXPECT_TRUE(PassesFilter("\xC3\xA9.txt", "?.txt"));                   // é is one character
+  EXPECT_TRUE(PassesFilter("\xE6\x97\xA5\xE6\x9C\xAC.txt", "??.txt"));  // two CJK characters
   EXPECT_FALSE(PassesFilter("\xE6\x97\xA5\xE6\x9C\xAC.txt", "?.txt"));
-  EXPECT_TRUE(PassesFilter("\xF0\x9F\x8E\xB5.mp3", "?.mp3"));                  // a note outside the BMP
-  EXPECT_TRUE(PassesFilter("\xC3\x96lfass.txt", "[\xC3\x96-\xC3\x9C]*"));      // Ö in [Ö-Ü]
-  EXPECT_TRUE(PassesFilter("STRA\xC3\x9F" "E.txt", "stra\xC3\x9F" "e.txt"));  // ß stays ß
-  EXPECT_FALSE(PassesFilter("stra\xC3\x9F" "e.txt", "STRASSE.txt"));
+  EXPECT_TRUE(PassesFilter("\xF0\x9F\x8E\xB5.mp3", "?.mp3"));              // a note outside the BMP
+  EXPECT_TRUE(PassesFilter("\xC3\x96lfass.txt", "[\xC3\x96-\xC3\x9C]*"));  // Ö in [Ö-Ü]
+  EXPECT_TRUE(
+      PassesFilter("STRA\xC3\x9F"
+                   "E.txt",
+                   "stra\xC3\x9F"
+                   "e.txt"));  // ß stays ß
+  EXPECT_FALSE(
+      PassesFilter("stra\xC3\x9F"
+                   "e.txt",
+                   "STRASSE.txt"));
   EXPECT_TRUE(PassesAnyPattern("\xC3\xA9t\xC3\xA9.txt", "*.mp3;\xC3\x89*"));  // été through É*
 }
 
@@ -78,8 +85,24 @@ TEST(FilterOddCharactersTest, ByteThatIsNoUtf8CountsAsOneCharacter) {
 // Random names and patterns of the characters that mean something to the
 // rule: nothing may crash, and what must match does.
 TEST(FilterOddCharactersTest, RandomPatternsNeverCrashAndKeepTheRule) {
-  const std::vector<std::string> pieces{"*", "?", "#", "[", "]", "!", "-", ";", ".", "a", "Z", "0", "9",
-                                        "\xC3\xA4", "\xE6\x97\xA5", "\xF0\x9F\x8E\xB5", "\xE9", " "};
+  const std::vector<std::string> pieces{"*",
+                                        "?",
+                                        "#",
+                                        "[",
+                                        "]",
+                                        "!",
+                                        "-",
+                                        ";",
+                                        ".",
+                                        "a",
+                                        "Z",
+                                        "0",
+                                        "9",
+                                        "\xC3\xA4",
+                                        "\xE6\x97\xA5",
+                                        "\xF0\x9F\x8E\xB5",
+                                        "\xE9",
+                                        " "};
   std::mt19937 random(7);
   const auto randomText = [&] {
     std::string text;

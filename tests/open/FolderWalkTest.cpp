@@ -1,11 +1,10 @@
-#include "open/FolderWalk.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
 #include <set>
 
+#include "open/FolderWalk.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "support/TempFolder.h"
 
@@ -40,13 +39,13 @@ TEST_F(FolderWalkTest, VisitorGetsTheFolderWithItsSeparatorAndItsFileNames) {
   temp.MakeFolder("top/sub");
   std::vector<std::string> names;
   std::string seen;
-  WalkFolders(fileSystem, {temp.Path() + "top"}, false, [&](std::size_t position, const std::string& folder,
-                                                            const std::vector<std::string>& fileNames) {
-    EXPECT_EQ(position, 0u);
-    seen = folder;
-    names = fileNames;
-    return true;
-  });
+  WalkFolders(fileSystem, {temp.Path() + "top"}, false,
+              [&](std::size_t position, const std::string& folder, const std::vector<std::string>& fileNames) {
+                EXPECT_EQ(position, 0u);
+                seen = folder;
+                names = fileNames;
+                return true;
+              });
   EXPECT_EQ(seen, temp.Path() + "top/");
   std::sort(names.begin(), names.end());
   EXPECT_EQ(names, (std::vector<std::string>{".b", "a.txt"}));

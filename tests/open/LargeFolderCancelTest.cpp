@@ -1,7 +1,6 @@
 // A stop pressed in the middle of a large load: the rows added so far stay,
 // and the loads leave the flag, the pointer and the settings as they should.
 #include <gtest/gtest.h>
-
 #include <unistd.h>
 
 #include <memory>

@@ -1,5 +1,3 @@
-#include "open/OpenCommand.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -8,8 +6,9 @@
 #include "OpenFixture.h"
 #include "base/Fault.h"
 #include "core/AddFile.h"
-#include "support/ScopedEnvironment.h"
+#include "open/OpenCommand.h"
 #include "support/RealFiles.h"
+#include "support/ScopedEnvironment.h"
 
 namespace nomra::open {
 namespace {

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "support/RealFiles.h"
 #include "settings/SettingsKeys.h"
 #include "support/ForwardingFileSystem.h"
 #include "support/ListFixture.h"
+#include "support/RealFiles.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
 
@@ -70,9 +70,7 @@ class OpenTest : public ListTestOver<RecordingFileSystem> {
   // The refresh always enables the open command; nothing else here does.
   bool Refreshed() const { return window.commands.IsEnabled("OpenFile"); }
 
-  std::string Setting(const char* key) const {
-    return Ini(settingsFile).ReadString(settings::kSettingsSection, key);
-  }
+  std::string Setting(const char* key) const { return Ini(settingsFile).ReadString(settings::kSettingsSection, key); }
 
   TempFolder settingsFolder;
   const std::string settingsFile = settingsFolder.Path() + settings::kSettingsFileName;

@@ -1,8 +1,7 @@
-#include "open/Playlist.h"
-
 #include <gtest/gtest.h>
 
 #include "OpenFixture.h"
+#include "open/Playlist.h"
 
 namespace nomra::open {
 namespace {

@@ -1,7 +1,6 @@
-#include "open/PowerFilters.h"
-
 #include <gtest/gtest.h>
 
+#include "open/PowerFilters.h"
 #include "support/RealFiles.h"
 #include "support/TempFolder.h"
 

@@ -1,11 +1,10 @@
-#include "open/StagedFiles.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
 #include "OpenFixture.h"
 #include "base/Fault.h"
+#include "open/StagedFiles.h"
 #include "support/RealFiles.h"
 
 namespace nomra::open {

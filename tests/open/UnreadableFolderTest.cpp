@@ -38,7 +38,8 @@ TEST_F(UnreadableFolderTest, AllFilesWithSubFoldersPassOverItAndGoOn) {
   choice.allFiles = true;
   choice.subFolders = true;
 
-  EXPECT_EQ(RunOpenChoice(load, preview, choice, {{"All files", "*.*"}}, Ini(settingsFile), false), LoadOutcome::Finished);
+  EXPECT_EQ(RunOpenChoice(load, preview, choice, {{"All files", "*.*"}}, Ini(settingsFile), false),
+            LoadOutcome::Finished);
 
   EXPECT_EQ(RowKeys(), (std::set<std::string>{top, b, deepB}));
   EXPECT_EQ(Setting("lastpath"), temp.Path() + "music/");

@@ -1,10 +1,9 @@
-#include "rename/ActionFrame.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
 
 #include "rename/ActionFixture.h"
+#include "rename/ActionFrame.h"
 #include "rename/ActionScope.h"
 #include "rename/actions/BuiltInActions.h"
 #include "rename/actions/FrmPrefixSuffix.h"
@@ -52,7 +51,7 @@ class ActionFrameTest : public testing::ActionTest {
   // A script of one prefix/suffix step, chosen to be played.
   void PlayOneStepScript(int runMode, const std::string& prefix) {
     script.runPath = data.WriteFile("Script/20261115023303.nrs",
-                                          "[Main]\r\nSteps=1\r\n\r\n[1]\r\nType=5\r\ntxtPr=" + prefix + "\r\n");
+                                    "[Main]\r\nSteps=1\r\n\r\n[1]\r\nType=5\r\ntxtPr=" + prefix + "\r\n");
     script.runMode = static_cast<std::int16_t>(runMode);
     script.runStep = 1;
   }
@@ -102,8 +101,7 @@ TEST_F(ActionFrameTest, ApplyingTwiceRecordsTwoSteps) {
   script.recording = 1;
   ASSERT_TRUE(Apply("x"));
   ASSERT_TRUE(Apply("", "y"));
-  EXPECT_EQ(RecordingText(),
-            "[Main]\r\nSteps=2\r\n\r\n[1]\r\nType=5\r\ntxtPr=x\r\n\r\n[2]\r\nType=5\r\ntxtSu=y\r\n");
+  EXPECT_EQ(RecordingText(), "[Main]\r\nSteps=2\r\n\r\n[1]\r\nType=5\r\ntxtPr=x\r\n\r\n[2]\r\nType=5\r\ntxtSu=y\r\n");
   EXPECT_EQ(PendingNames(), (std::vector<std::string>{"xay.txt", "xby.txt"}));
 }
 

@@ -1,11 +1,10 @@
-#include "rename/ActionScope.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
 
 #include "base/Fault.h"
 #include "rename/ActionFixture.h"
+#include "rename/ActionScope.h"
 #include "structure/ApplyStructure.h"
 
 namespace nomra::rename {

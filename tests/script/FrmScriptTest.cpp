@@ -1,9 +1,8 @@
-#include "script/FrmScript.h"
-
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
+#include "script/FrmScript.h"
 #include "script/ScriptFixture.h"
 #include "support/RealFiles.h"
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "shell/CommandLine.h"
 #include "script/ScriptFixture.h"
+#include "shell/CommandLine.h"
 
 namespace nomra::script {
 namespace {

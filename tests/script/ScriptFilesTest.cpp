@@ -1,7 +1,6 @@
-#include "script/ScriptFiles.h"
-
 #include <gtest/gtest.h>
 
+#include "script/ScriptFiles.h"
 #include "script/ScriptFixture.h"
 #include "support/RealFiles.h"
 
@@ -42,7 +41,8 @@ TEST_F(ScriptFilesTest, OtherFileNamesGiveACutUpDateWithoutComplaint) {
 
 TEST_F(ScriptFilesTest, DisplayTextIsTheStoredNameAndTheDate) {
   const std::string path = WriteScript("20261115023303.nrs", "[Main]\r\nSteps=1\r\nName=Holiday pictures\r\n");
-  EXPECT_EQ(ScriptDisplayText(nomra::testing::Ini(path), "20261115023303.nrs"), "Holiday pictures [2026-11-15, 02:33:03]");
+  EXPECT_EQ(ScriptDisplayText(nomra::testing::Ini(path), "20261115023303.nrs"),
+            "Holiday pictures [2026-11-15, 02:33:03]");
 }
 
 TEST_F(ScriptFilesTest, MissingScriptsFolderListsNothing) {
@@ -71,8 +71,8 @@ TEST_F(ScriptFilesTest, ScriptsWithTheSameDisplayNameAreTellApartByTheirFileName
   std::vector<std::string> texts;
   for (const StoredScript& script : ListStoredScripts(fileSystem, data.Path())) texts.push_back(script.displayText);
   std::sort(texts.begin(), texts.end());
-  EXPECT_EQ(texts, (std::vector<std::string>{"Same = [name] [2026-11-15, 02:33:03]",
-                                             "Same = [name] [2026-11-15, 02:33:04]"}));
+  EXPECT_EQ(texts,
+            (std::vector<std::string>{"Same = [name] [2026-11-15, 02:33:03]", "Same = [name] [2026-11-15, 02:33:04]"}));
 }
 
 TEST_F(ScriptFilesTest, ScriptWithoutNameShowsOnlyItsDate) {

@@ -48,9 +48,8 @@ class ScriptTest : public ActionTest {
 
   std::vector<std::string> ScriptFilesOnDisk() {
     std::vector<std::string> names;
-    fileSystem.ListFolder(ScriptFolderPath(), [&](std::string_view name, platform::EntryKind) {
-      names.emplace_back(name);
-    });
+    fileSystem.ListFolder(ScriptFolderPath(),
+                          [&](std::string_view name, platform::EntryKind) { names.emplace_back(name); });
     std::sort(names.begin(), names.end());
     return names;
   }

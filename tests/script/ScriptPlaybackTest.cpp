@@ -1,11 +1,10 @@
-#include "script/ScriptPlayback.h"
-
 #include <gtest/gtest.h>
 
 #include "base/Fault.h"
 #include "dialog/DialogState.h"
 #include "rename/ActionFrame.h"
 #include "script/ScriptFixture.h"
+#include "script/ScriptPlayback.h"
 #include "script/ScriptRecording.h"
 #include "support/RealFiles.h"
 
@@ -16,7 +15,8 @@ namespace {
 // editor would save it: UTF-8 with the stand-in for each blank.
 constexpr char kExampleScript[] =
     "[Main]\r\nSteps=2\r\nName=Holiday pictures\r\n\r\n"
-    "[1]\r\nType=5\r\ntxtPr=Rome\xC2\x90" "2009\xC2\x90\r\n\r\n"
+    "[1]\r\nType=5\r\ntxtPr=Rome\xC2\x90"
+    "2009\xC2\x90\r\n\r\n"
     "[2]\r\nType=4\r\nopt2(1)=-1\r\n";
 
 class ScriptPlaybackTest : public testing::ScriptTest {
@@ -54,7 +54,8 @@ class RefusingDialog final : public rename::ActionDialog {
  public:
   RefusingDialog() : rename::ActionDialog("frmInsert") { Model().AddText("txtInsert"); }
   const rename::ActionTraits& Traits() const override {
-    static const rename::ActionTraits traits{"frmInsert", "frmInsert", "frmInsert", 7, false, rename::RestoreMoment::OnLoad};
+    static const rename::ActionTraits traits{"frmInsert", "frmInsert", "frmInsert",
+                                             7,           false,       rename::RestoreMoment::OnLoad};
     return traits;
   }
   bool CheckInputs(const rename::ActionContext& context) override {
@@ -183,8 +184,9 @@ TEST_F(ScriptPlaybackTest, SingleStepsWithEveryDialogCancelledLeaveTheListAndEnd
 TEST_F(ScriptPlaybackTest, ScriptPlayedDuringARecordingIsRecordedStepByStep) {
   ResetScriptTemp(script, nomra::testing::RealFiles());
   BeginScriptRecording(script, nomra::testing::RealFiles());
-  Choose("20261115023303.nrs",
-         "[Main]\r\nSteps=2\r\nName=Two\r\n\r\n[1]\r\nType=5\r\ntxtPr=Rome\xC2\x90\r\n\r\n[2]\r\nType=5\r\ntxtSu=_x\r\n");
+  Choose(
+      "20261115023303.nrs",
+      "[Main]\r\nSteps=2\r\nName=Two\r\n\r\n[1]\r\nType=5\r\ntxtPr=Rome\xC2\x90\r\n\r\n[2]\r\nType=5\r\ntxtSu=_x\r\n");
   Play();
   EXPECT_EQ(RecordingText(),
             "[Main]\r\nSteps=2\r\n\r\n[1]\r\nType=5\r\ntxtPr=Rome\xC2\x90\r\n\r\n[2]\r\nType=5\r\ntxtSu=_x\r\n");

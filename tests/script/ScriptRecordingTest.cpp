@@ -1,10 +1,9 @@
-#include "script/ScriptRecording.h"
-
 #include <gtest/gtest.h>
 
 #include "rename/ActionFrame.h"
 #include "rename/actions/FrmPrefixSuffix.h"
 #include "script/ScriptFixture.h"
+#include "script/ScriptRecording.h"
 #include "support/RealFiles.h"
 
 namespace nomra::script {
@@ -102,7 +101,8 @@ TEST_F(ScriptRecordingTest, CancelledNameThenNoAsksAgainWithAFreshDate) {
   EXPECT_EQ(frontEnd.inputPresets, (std::vector<std::string>{"2026-11-15 02:33:03", "2026-11-15 02:33:04"}));
   const std::vector<std::string> stored = ScriptFilesOnDisk();
   ASSERT_EQ(stored.size(), 1u);
-  EXPECT_EQ(ScriptDisplayText(nomra::testing::Ini(ScriptFolderPath() + stored[0]), stored[0]).substr(0, 11), "Second try ");
+  EXPECT_EQ(ScriptDisplayText(nomra::testing::Ini(ScriptFolderPath() + stored[0]), stored[0]).substr(0, 11),
+            "Second try ");
 }
 
 TEST_F(ScriptRecordingTest, CancelledNameThenYesStoresNothingAndKeepsTheWorkFile) {

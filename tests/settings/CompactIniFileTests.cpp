@@ -3,10 +3,11 @@
 
 #include <string>
 
+#include "settings/CompactIniFile.h"
 #include "support/FaultyFileSystem.h"
 #include "support/PermissionCases.h"
-#include "settings/CompactIniFile.h"
 #include "support/RealFiles.h"
+#include "support/SecondVolume.h"
 #include "support/TempFolder.h"
 
 namespace nomra::settings {
@@ -140,6 +141,16 @@ TEST(SettingsCompaction, FullDiskLeavesTheFileAndNoTemporary) {
   EXPECT_GT(files.refused, 0);
   EXPECT_EQ(ReadWholeFile(file), text);
   EXPECT_FALSE(Exists(temp.Path() + "format.tmp"));
+}
+
+TEST(SettingsCompaction, TemporaryFileOnAnotherFileSystem) {
+  TempFolder temp;
+  const auto other = nomra::testing::FolderOnSecondVolume(temp);
+  if (!other) GTEST_SKIP() << nomra::testing::kNoSecondVolume;
+  const auto settings = temp.WriteFile("settings.nrp", "[Main]\r\nA=<<DELETE>>\r\nB=1\r\n");
+  ASSERT_TRUE(CompactIniFile(RealFiles(), settings, other->Path()));
+  EXPECT_EQ(ReadWholeFile(settings), "[Main]\r\nB=1\r\n");
+  EXPECT_FALSE(Exists(other->Path() + "format.tmp"));
 }
 
 }  // namespace

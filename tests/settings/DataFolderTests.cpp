@@ -3,11 +3,11 @@
 
 #include <string>
 
-#include "support/FaultyFileSystem.h"
-#include "support/ScopedEnvironment.h"
 #include "settings/CompactIniFile.h"
 #include "settings/DataFolder.h"
+#include "support/FaultyFileSystem.h"
 #include "support/RealFiles.h"
+#include "support/ScopedEnvironment.h"
 #include "support/TempFolder.h"
 
 namespace nomra::settings {

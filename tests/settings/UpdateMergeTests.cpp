@@ -3,9 +3,9 @@
 
 #include <string>
 
+#include "settings/UpdateMerge.h"
 #include "support/FaultyFileSystem.h"
 #include "support/RealFiles.h"
-#include "settings/UpdateMerge.h"
 #include "support/TempFolder.h"
 
 namespace nomra::settings {

@@ -1,10 +1,9 @@
-#include "shell/CloseQuestions.h"
-
 #include <gtest/gtest.h>
 
 #include "base/Fault.h"
-#include "support/RealFiles.h"
+#include "shell/CloseQuestions.h"
 #include "support/ListFixture.h"
+#include "support/RealFiles.h"
 
 using nomra::testing::Ini;
 
@@ -149,7 +148,9 @@ class CloseSequenceTest : public CloseQuestionsTest {
 };
 
 TEST_F(CloseSequenceTest, CloseWritesLayoutAndSettings) {
-  EXPECT_EQ(RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), false, StopRecording()), CloseDecision::Close);
+  EXPECT_EQ(
+      RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), false, StopRecording()),
+      CloseDecision::Close);
   EXPECT_EQ(Ini(settingsFile).ReadInt("Main", "Col8"), 500);
   EXPECT_EQ(Ini(settingsFile).ReadInt("Main", "x"), 10);
   EXPECT_EQ(Ini(settingsFile).ReadInt("Settings", "splash"), 1);
@@ -164,7 +165,8 @@ TEST_F(CloseSequenceTest, LayoutIsWrittenBeforeTheQuestionsAndTheRestAfter) {
     restBefore = Written("Settings", "splash");
   };
   frontEnd.answers = {core::Answer::Yes};
-  EXPECT_EQ(RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), true, stop), CloseDecision::Close);
+  EXPECT_EQ(RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), true, stop),
+            CloseDecision::Close);
   EXPECT_TRUE(layoutBefore);
   EXPECT_FALSE(restBefore);
   EXPECT_TRUE(Written("Settings", "splash"));
@@ -172,7 +174,9 @@ TEST_F(CloseSequenceTest, LayoutIsWrittenBeforeTheQuestionsAndTheRestAfter) {
 
 TEST_F(CloseSequenceTest, CancelledRecordingQuestionLeavesTheRestUnwritten) {
   frontEnd.answers = {core::Answer::Cancel};
-  EXPECT_EQ(RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), true, StopRecording()), CloseDecision::Refuse);
+  EXPECT_EQ(
+      RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), true, StopRecording()),
+      CloseDecision::Refuse);
   EXPECT_TRUE(Written("Main", "Col1"));
   EXPECT_TRUE(Written("Main", "ws"));
   EXPECT_FALSE(Written("Settings", "splash"));
@@ -182,7 +186,9 @@ TEST_F(CloseSequenceTest, CancelledRecordingQuestionLeavesTheRestUnwritten) {
 TEST_F(CloseSequenceTest, CancelledPendingChangesQuestionStillWritesEverySetting) {
   ListWithOnePendingName();
   frontEnd.answers = {core::Answer::Cancel};
-  EXPECT_EQ(RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), false, StopRecording()), CloseDecision::Refuse);
+  EXPECT_EQ(
+      RunCloseSequence(closing, {state, frontEnd, rowCommitter}, options, Ini(settingsFile), false, StopRecording()),
+      CloseDecision::Refuse);
   EXPECT_TRUE(Written("Main", "Col1"));
   EXPECT_TRUE(Written("Settings", "splash"));
   EXPECT_TRUE(Written("FrmOpen", "ShowHiddenFiles"));

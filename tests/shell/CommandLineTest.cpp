@@ -1,7 +1,6 @@
-#include "shell/CommandLine.h"
-
 #include <gtest/gtest.h>
 
+#include "shell/CommandLine.h"
 #include "support/ListFixture.h"
 
 namespace nomra::shell {
@@ -129,7 +128,8 @@ TEST_F(RunCommandLineTest, TwoPlainPathsAndASwitchAreHandledInOrder) {
 TEST_F(RunCommandLineTest, ListFileSwitchGetsThePathWithoutQuotes) {
   RunCommandLine(SplitCommandLine("/openfromfile=\"/home/me/a list.txt\""), load, switches);
   RunCommandLine({"/openfromfile=\"/home/\"me\"/b.txt\"", ""}, load, switches);
-  EXPECT_EQ(events, (std::vector<std::string>{"open /home/me/a list.txt after 0 rows", "open /home/me/b.txt after 0 rows"}));
+  EXPECT_EQ(events,
+            (std::vector<std::string>{"open /home/me/a list.txt after 0 rows", "open /home/me/b.txt after 0 rows"}));
 }
 
 TEST_F(RunCommandLineTest, ScriptSwitchGetsTheNameWithoutQuotes) {

@@ -1,9 +1,8 @@
-#include "shell/MainWindowSettings.h"
-
 #include <gtest/gtest.h>
 
-#include "support/RealFiles.h"
+#include "shell/MainWindowSettings.h"
 #include "support/ListFixture.h"
+#include "support/RealFiles.h"
 
 using nomra::testing::Ini;
 
@@ -289,7 +288,8 @@ TEST_F(MainWindowSettingsTest, HiddenColumnClearsTheMenuEntryOfTheSameNumber) {
 }
 
 TEST_F(MainWindowSettingsTest, HiddenColumnBeforeHeadFourOrMissingWidthsChangeNoCheck) {
-  EXPECT_EQ(ColumnMenuChecks({0, 0, 0, -1, -1, -1, -1, -1}), (std::array<bool, 7>{true, true, true, true, true, true, true}));
+  EXPECT_EQ(ColumnMenuChecks({0, 0, 0, -1, -1, -1, -1, -1}),
+            (std::array<bool, 7>{true, true, true, true, true, true, true}));
 }
 
 TEST_F(MainWindowSettingsTest, HiddenHeadEightChangesNoCheck) {

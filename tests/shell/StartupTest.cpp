@@ -1,9 +1,8 @@
-#include "shell/Startup.h"
-
 #include <gtest/gtest.h>
 
-#include "support/RealFiles.h"
+#include "shell/Startup.h"
 #include "support/ListFixture.h"
+#include "support/RealFiles.h"
 
 using nomra::testing::Ini;
 
@@ -31,8 +30,8 @@ TEST_F(StartupTest, MissingSettingsGiveTheDefaults) {
 }
 
 TEST_F(StartupTest, FlagsAreReadFromTheSettings) {
-  const StartupPaths paths = Prepare(
-      "[Settings]\r\nCheckExistence=1\r\nLoadEXIFDates=0\r\nsecquest1=1\r\nsecquest3=1\r\nExpertMode=1\r\n");
+  const StartupPaths paths =
+      Prepare("[Settings]\r\nCheckExistence=1\r\nLoadEXIFDates=0\r\nsecquest1=1\r\nsecquest3=1\r\nExpertMode=1\r\n");
   LoadStartupSettings(paths, {fileSystem, frontEnd, options, script});
   EXPECT_TRUE(options.checkExistence);
   EXPECT_FALSE(options.loadExifDates);
@@ -63,7 +62,8 @@ TEST_F(StartupTest, ProtocolFileIsCreatedWhenMissing) {
 }
 
 TEST_F(StartupTest, MissingDataFolderIsCreated) {
-  const StartupPaths paths = PrepareStartup(nomra::testing::RealFiles(), nomra::testing::RealLocations(), temp.Path() + "new/levels/data");
+  const StartupPaths paths =
+      PrepareStartup(nomra::testing::RealFiles(), nomra::testing::RealLocations(), temp.Path() + "new/levels/data");
   EXPECT_TRUE(paths.dataFolderUsable);
   EXPECT_TRUE(testing::Exists(temp.Path() + "new/levels/data/"));
   EXPECT_EQ(paths.settingsPath, temp.Path() + "new/levels/data/settings.nrp");
@@ -71,7 +71,8 @@ TEST_F(StartupTest, MissingDataFolderIsCreated) {
 
 TEST_F(StartupTest, DataFolderThatCantBeMadeGivesDefaultsAndNoCrash) {
   temp.WriteFile("plain-file", "x");
-  const StartupPaths paths = PrepareStartup(nomra::testing::RealFiles(), nomra::testing::RealLocations(), temp.Path() + "plain-file/data");
+  const StartupPaths paths =
+      PrepareStartup(nomra::testing::RealFiles(), nomra::testing::RealLocations(), temp.Path() + "plain-file/data");
   EXPECT_FALSE(paths.dataFolderUsable);
   LoadStartupSettings(paths, {fileSystem, frontEnd, options, script});
   EXPECT_TRUE(options.loadExifDates);

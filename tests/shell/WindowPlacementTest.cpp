@@ -1,6 +1,6 @@
-#include "shell/WindowPlacement.h"
-
 #include <gtest/gtest.h>
+
+#include "shell/WindowPlacement.h"
 
 namespace nomra::shell {
 namespace {

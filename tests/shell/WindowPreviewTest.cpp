@@ -1,8 +1,7 @@
-#include "shell/WindowPreview.h"
-
 #include <gtest/gtest.h>
 
 #include "core/SortFileList.h"
+#include "shell/WindowPreview.h"
 #include "support/ListFixture.h"
 
 namespace nomra::shell {
@@ -20,8 +19,8 @@ TEST_F(RefreshTest, EmptyListCountsNothingAndLeavesOnlyTheAlwaysCommands) {
     if (key.empty()) continue;  // separators
     EXPECT_EQ(window.commands.IsEnabled(key), expected) << key;
   }
-  for (const char* name : {"lstApplyTo", "mnuDelList", "mnuEdit", "mnuTakeChanges", "mnuUndo",
-                           "mnuRejectChanges", "StartRunScript", "StartRecordScript", "RunSelectedScript"}) {
+  for (const char* name : {"lstApplyTo", "mnuDelList", "mnuEdit", "mnuTakeChanges", "mnuUndo", "mnuRejectChanges",
+                           "StartRunScript", "StartRecordScript", "RunSelectedScript"}) {
     EXPECT_FALSE(window.commands.IsEnabled(name)) << name;
   }
   EXPECT_EQ(window.selectedScriptLabel, "No script");
@@ -60,9 +59,9 @@ TEST_F(RefreshTest, PendingChangesEnableTakeAndReject) {
 
 TEST_F(RefreshTest, NonEmptyListEnablesTheListCommands) {
   AddFiles({"a"});
-  for (const char* name : {"lstApplyTo", "mnuDelList", "mnuEdit", "mnuFindDuplications", "mnuSpecial", "mnuScript",
-                           "mnuRename", "StartRunScript", "StartRecordScript", "DelList", "Rename01", "Rename10",
-                           "Rename99"}) {
+  for (const char* name :
+       {"lstApplyTo", "mnuDelList", "mnuEdit", "mnuFindDuplications", "mnuSpecial", "mnuScript", "mnuRename",
+        "StartRunScript", "StartRecordScript", "DelList", "Rename01", "Rename10", "Rename99"}) {
     EXPECT_TRUE(window.commands.IsEnabled(name)) << name;
   }
   EXPECT_FALSE(window.commands.IsEnabled("RunSelectedScript"));

@@ -7,9 +7,7 @@
 namespace nomra::structure {
 namespace {
 
-TEST(CaseConversion, SharpSAndMicroKeepTheirFormInUpperCase) {
-  EXPECT_EQ(ConvertCase("UC", "straße µ"), "STRAßE µ");
-}
+TEST(CaseConversion, SharpSAndMicroKeepTheirFormInUpperCase) { EXPECT_EQ(ConvertCase("UC", "straße µ"), "STRAßE µ"); }
 
 TEST(CaseConversion, YWithDiaeresisPairsBothWays) {
   EXPECT_EQ(ConvertCase("UC", "ÿ"), "Ÿ");
@@ -44,7 +42,13 @@ TEST(CaseConversion, SwapTurnsEachLetter) { EXPECT_EQ(ConvertCase("SC", "aBc Ä�
 
 TEST(CaseConversion, UnknownCodeLeavesTheText) { EXPECT_EQ(ConvertCase("XX", "aB"), "aB"); }
 
-TEST(CaseConversion, StrayBytesStayAsTheyAre) { EXPECT_EQ(ConvertCase("UC", "a\xFF" "b"), "A\xFF" "B"); }
+TEST(CaseConversion, StrayBytesStayAsTheyAre) {
+  EXPECT_EQ(ConvertCase("UC",
+                        "a\xFF"
+                        "b"),
+            "A\xFF"
+            "B");
+}
 
 TEST(CaseConversion, WordCharacterTable) {
   EXPECT_TRUE(IsWordCharacter(U'\''));

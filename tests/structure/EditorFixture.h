@@ -25,9 +25,9 @@ class StructureDialogTest : public ActionTest {
 
   TempFolder app;
   lang::MessageCatalog catalog = LanguageOf(
-      app, {"[Messages]", "msgCheckInput=Check your input.", "msgCorrectSyntax=Close every tag.",
-            "[ComboBoxes]", "cmbElements-1=Name|<NAME>", "cmbElements-2=Extension|<EXT>",
-            "cmbExif-1=Camera|<EXIF_Make>", "cmbMP3Tag-1=Artist|<ID3_Artist>", "cmbDOSTag-1=Short name|<DOSNAME>",
+      app, {"[Messages]", "msgCheckInput=Check your input.", "msgCorrectSyntax=Close every tag.", "[ComboBoxes]",
+            "cmbElements-1=Name|<NAME>", "cmbElements-2=Extension|<EXT>", "cmbExif-1=Camera|<EXIF_Make>",
+            "cmbMP3Tag-1=Artist|<ID3_Artist>", "cmbDOSTag-1=Short name|<DOSNAME>",
             "cmbFunctions-1=Upper case|<UC></UC>", "cmbFunctions-2=First letters|<NAME_L(3)>"});
 };
 

@@ -1,11 +1,10 @@
-#include "structure/FrmNameStructure.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
 #include "structure/EditorFixture.h"
+#include "structure/FrmNameStructure.h"
 
 namespace nomra::structure {
 namespace {

@@ -1,11 +1,10 @@
-#include "structure/FrmSelNamePart.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <tuple>
 
 #include "structure/EditorFixture.h"
+#include "structure/FrmSelNamePart.h"
 
 namespace nomra::structure {
 namespace {

@@ -65,7 +65,10 @@ TEST_F(LanguageEdgeCases, OpeningCaseMarkWithoutItsClosingStaysAsText) {
 }
 
 TEST_F(LanguageEdgeCases, EmptyStructureGivesThePendingNameLessControlCharacters) {
-  EXPECT_EQ(Evaluate("", "a\tb\x01" "c.txt"), "abc.txt");
+  EXPECT_EQ(Evaluate("",
+                     "a\tb\x01"
+                     "c.txt"),
+            "abc.txt");
 }
 
 TEST_F(LanguageEdgeCases, PendingNameHoldingTheNameTagEvaluatesToItself) {
@@ -97,9 +100,7 @@ TEST_F(LanguageEdgeCases, PathOfAFileAtTheRootIsEmpty) {
   EXPECT_EQ(structure::EvaluateStructure(state.list.Item(1), "[<PATH>]"), "[]");
 }
 
-TEST_F(LanguageEdgeCases, UnknownTagsStayAsText) {
-  EXPECT_EQ(Evaluate("<FOO>_<NAME>", "a.txt"), "<FOO>_a");
-}
+TEST_F(LanguageEdgeCases, UnknownTagsStayAsText) { EXPECT_EQ(Evaluate("<FOO>_<NAME>", "a.txt"), "<FOO>_a"); }
 
 TEST_F(LanguageEdgeCases, GreaterThanInsideQuotesCutsTheTagThereAndLeavesTheRest) {
   // The tag ends at the first ">", inside the quotes; what follows stays.
@@ -118,7 +119,9 @@ TEST_F(LanguageEdgeCases, OnlyTheFirstIntCharPairIsLookedAt) {
 
 TEST_F(LanguageEdgeCases, LoneIntCharStays) { EXPECT_EQ(Evaluate("a<IntChar>b", "x.txt"), "a<IntChar>b"); }
 
-TEST_F(LanguageEdgeCases, IntCharIsMatchedExactly) { EXPECT_EQ(Evaluate("<intchar><intchar>", "x.txt"), "<intchar><intchar>"); }
+TEST_F(LanguageEdgeCases, IntCharIsMatchedExactly) {
+  EXPECT_EQ(Evaluate("<intchar><intchar>", "x.txt"), "<intchar><intchar>");
+}
 
 TEST_F(LanguageEdgeCases, ExtensionTagsWithAndWithoutDotAndTheBlank) {
   EXPECT_EQ(Evaluate("<NAME><BLANK><.EXT>|<EXT>", "a.tar.gz"), "a.tar .gz|gz");

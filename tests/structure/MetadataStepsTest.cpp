@@ -8,9 +8,7 @@ namespace {
 class RecordingSteps final : public structure::MetadataSteps {
  public:
   mutable std::vector<std::string> calls;
-  void ExifTags(core::FileEntry&, std::string_view, std::string& s) const override {
-    calls.push_back("exif:" + s);
-  }
+  void ExifTags(core::FileEntry&, std::string_view, std::string& s) const override { calls.push_back("exif:" + s); }
   void SmsTags(core::FileEntry&, std::string&) const override { calls.push_back("sms"); }
   void DateTags(core::FileEntry&, std::string&) const override { calls.push_back("dt"); }
   void ShortNameAndChecksumTags(core::FileEntry&, std::string&) const override { calls.push_back("dos"); }

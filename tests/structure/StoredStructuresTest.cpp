@@ -1,5 +1,3 @@
-#include "structure/StoredStructures.h"
-
 #include <gtest/gtest.h>
 
 #include <random>
@@ -7,6 +5,7 @@
 #include <vector>
 
 #include "base/Utf8.h"
+#include "structure/StoredStructures.h"
 #include "support/RealFiles.h"
 #include "support/TempFolder.h"
 
@@ -38,9 +37,9 @@ TEST_F(StoredStructuresTest, TheFileIsStructuresNrpInTheDataFolder) {
 }
 
 TEST_F(StoredStructuresTest, SavedFileIsTheHeaderThenOneNameAndStructureALine) {
-  ASSERT_TRUE(SaveStoredStructures(nomra::testing::RealFiles(), File(), {{"Date first", "<DT(C,\"yyyy\")>_<NAME>.<EXT>"}, {"Plain", "<NAME>"}}));
-  EXPECT_EQ(ReadWholeFile(File()),
-            "Name;Structure;\r\nDate first;<DT(C,\"yyyy\")>_<NAME>.<EXT>;\r\nPlain;<NAME>;\r\n");
+  ASSERT_TRUE(SaveStoredStructures(nomra::testing::RealFiles(), File(),
+                                   {{"Date first", "<DT(C,\"yyyy\")>_<NAME>.<EXT>"}, {"Plain", "<NAME>"}}));
+  EXPECT_EQ(ReadWholeFile(File()), "Name;Structure;\r\nDate first;<DT(C,\"yyyy\")>_<NAME>.<EXT>;\r\nPlain;<NAME>;\r\n");
 }
 
 TEST_F(StoredStructuresTest, NoStructuresLeaveTheHeaderAlone) {
@@ -69,7 +68,9 @@ TEST_F(StoredStructuresTest, EmptyFileGivesNoStructures) { EXPECT_TRUE(LoadFrom(
 
 TEST_F(StoredStructuresTest, GarbageWithoutSeparatorsGivesNoStructures) {
   using namespace std::string_literals;
-  EXPECT_TRUE(LoadFrom("\x00\x01\xFF\xFE" "garbage\r\n\x7F\x80\r\n"s).empty());
+  EXPECT_TRUE(LoadFrom("\x00\x01\xFF\xFE"
+                       "garbage\r\n\x7F\x80\r\n"s)
+                  .empty());
 }
 
 TEST_F(StoredStructuresTest, RandomBytesLoadAsTextOfOneLineEach) {
@@ -91,9 +92,7 @@ TEST_F(StoredStructuresTest, RandomBytesLoadAsTextOfOneLineEach) {
   EXPECT_GT(loaded, 0u);
 }
 
-TEST_F(StoredStructuresTest, HeaderAloneGivesNoStructures) {
-  EXPECT_TRUE(LoadFrom("Name;Structure;\r\n").empty());
-}
+TEST_F(StoredStructuresTest, HeaderAloneGivesNoStructures) { EXPECT_TRUE(LoadFrom("Name;Structure;\r\n").empty()); }
 
 TEST_F(StoredStructuresTest, NameWithItsSeparatorAloneGivesAnEmptyStructure) {
   EXPECT_EQ(LoadFrom("Name;Structure;\r\nJust a name;\r\n"), (Structures{{"Just a name", ""}}));
@@ -159,7 +158,8 @@ TEST_F(StoredStructuresTest, SavingWhatWasLoadedWritesTheSameFile) {
   for (int n = 0; n < 50; ++n) structures.push_back({maker.Make(16), maker.Make(32)});
   ASSERT_TRUE(SaveStoredStructures(nomra::testing::RealFiles(), File(), structures));
   const std::string first = ReadWholeFile(File());
-  ASSERT_TRUE(SaveStoredStructures(nomra::testing::RealFiles(), File(), LoadStoredStructures(nomra::testing::RealFiles(), File())));
+  ASSERT_TRUE(SaveStoredStructures(nomra::testing::RealFiles(), File(),
+                                   LoadStoredStructures(nomra::testing::RealFiles(), File())));
   EXPECT_EQ(ReadWholeFile(File()), first);
 }
 

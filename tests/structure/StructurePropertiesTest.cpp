@@ -34,17 +34,19 @@ TEST_F(StructureProperties, TextWithoutOpeningMarkEvaluatesToItselfLessControlCh
   for (int round = 0; round < 2000; ++round) {
     const std::string structure = RandomText(random, alphabet, 40);
     if (structure.empty()) continue;
-    ASSERT_EQ(structure::EvaluateStructure(state.list.Item(1), structure), WithoutControlCharacters(structure)) << round;
+    ASSERT_EQ(structure::EvaluateStructure(state.list.Item(1), structure), WithoutControlCharacters(structure))
+        << round;
   }
 }
 
 TEST_F(StructureProperties, TagSoupEndsAndThrowsOnlyTheNamedFaults) {
   std::mt19937 random(7);
   const std::vector<std::string> pieces = {
-      "<NAME>", "<NAME_L(", "<NAME_R(", "<NAME_M(", "<NAMEPART(", "<PATH>", "<PATH_L(", "<PATH_R(", "<PATH_M(",
-      "<EXT>", "<.EXT>", "<BLANK>", "find(", ")>", ")", "(", ",", "\"", "-", "1", "-1", "0", "2.5", "x", ">",
-      "<", "<UC>", "</UC>", "<LC>", "</LC>", "<1C>", "</1C>", "<WC>", "</WC>", "<SC>", "</SC>", "<IntChar>",
-      "\xC3\xA4", "\xFF", "\t", " "};
+      "<NAME>",    "<NAME_L(", "<NAME_R(", "<NAME_M(", "<NAMEPART(", "<PATH>", "<PATH_L(", "<PATH_R(", "<PATH_M(",
+      "<EXT>",     "<.EXT>",   "<BLANK>",  "find(",    ")>",         ")",      "(",        ",",        "\"",
+      "-",         "1",        "-1",       "0",        "2.5",        "x",      ">",        "<",        "<UC>",
+      "</UC>",     "<LC>",     "</LC>",    "<1C>",     "</1C>",      "<WC>",   "</WC>",    "<SC>",     "</SC>",
+      "<IntChar>", "\xC3\xA4", "\xFF",     "\t",       " "};
   AddFiles({"a-b c.txt"});
   int faults = 0;
   for (int round = 0; round < 5000; ++round) {
@@ -75,7 +77,8 @@ TEST_F(StructureProperties, VeryLongArgumentsAreText) {
   AddFiles({"ab.txt"});
   const std::string digits(100000, '9');
   EXPECT_EQ(structure::EvaluateStructure(state.list.Item(1), "<NAME_L(" + digits + ")>"), "");
-  EXPECT_EQ(structure::EvaluateStructure(state.list.Item(1), "<NAME_L(" + std::string(100000, 'x') + ")>"), "<No_Number>");
+  EXPECT_EQ(structure::EvaluateStructure(state.list.Item(1), "<NAME_L(" + std::string(100000, 'x') + ")>"),
+            "<No_Number>");
 }
 
 TEST_F(StructureProperties, NameHoldingItsOwnTagEndsInsteadOfGrowingForEver) {

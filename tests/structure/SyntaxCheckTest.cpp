@@ -1,11 +1,10 @@
-#include "structure/SyntaxCheck.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
 #include "base/Fault.h"
+#include "structure/SyntaxCheck.h"
 #include "support/ListFixture.h"
 
 namespace nomra::structure {
@@ -112,9 +111,7 @@ TEST_F(SyntaxCheckTest, TextWithoutCaseMarksPassesTheirCheck) {
   EXPECT_EQ(CheckCaseBrackets("plain <NAME>", "UC", kTexts), std::nullopt);
 }
 
-TEST_F(SyntaxCheckTest, MarksOfDifferentCodesMayCross) {
-  EXPECT_EQ(Check("<UC>a<LC>b</UC>c</LC>"), std::nullopt);
-}
+TEST_F(SyntaxCheckTest, MarksOfDifferentCodesMayCross) { EXPECT_EQ(Check("<UC>a<LC>b</UC>c</LC>"), std::nullopt); }
 
 TEST_F(SyntaxCheckTest, OtherCaseCodesAreLeftToTheTestEvaluation) {
   EXPECT_EQ(FailureKey("<WC>a"), "msgErrorStructure3");

@@ -90,8 +90,7 @@ class FaultyFileSystem final : public ForwardingFileSystem {
     if (const int fault = ReplaceFault(path)) return Refuse(fault);
     return real.ReplaceFile(path, content);
   }
-  int CopyFile(const std::string& from, const std::string& to, const platform::CopyTick& tick,
-               bool durable) override {
+  int CopyFile(const std::string& from, const std::string& to, const platform::CopyTick& tick, bool durable) override {
     if (const int fault = ReadFault(from) ? ReadFault(from) : NewFileFault(to)) return Refuse(fault);
     return real.CopyFile(from, to, tick, durable);
   }
@@ -144,9 +143,7 @@ class FaultyFileSystem final : public ForwardingFileSystem {
     ++refused;
     return answer;
   }
-  int ReadFault(const std::string& path) const {
-    return IsLocked(path) || Holds(unreadable_, path) ? EACCES : 0;
-  }
+  int ReadFault(const std::string& path) const { return IsLocked(path) || Holds(unreadable_, path) ? EACCES : 0; }
   // Making, removing or renaming the entry itself.
   int EntryFault(const std::string& path) const {
     if (IsLocked(path) || IsReadOnlyFolder(ParentOf(path))) return EACCES;

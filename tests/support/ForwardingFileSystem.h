@@ -51,8 +51,7 @@ class ForwardingFileSystem : public platform::FileSystem {
   int ReplaceFile(const std::string& path, std::string_view content) override {
     return real.ReplaceFile(path, content);
   }
-  int CopyFile(const std::string& from, const std::string& to, const platform::CopyTick& tick,
-               bool durable) override {
+  int CopyFile(const std::string& from, const std::string& to, const platform::CopyTick& tick, bool durable) override {
     return real.CopyFile(from, to, tick, durable);
   }
   std::unique_ptr<platform::OpenFile> OpenForAppend(const std::string& path, int& error) override {

@@ -66,8 +66,7 @@ int WriteNewPrivateFile(const std::string& path, std::string_view content) {
   return error;
 }
 
-int WriteFileWithPermissionsOf(const std::string& path, std::string_view content,
-                               const std::string& permissionsFrom) {
+int WriteFileWithPermissionsOf(const std::string& path, std::string_view content, const std::string& permissionsFrom) {
   Descriptor fd(open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, kNewFileMode));
   if (!fd.IsOpen()) return errno;
   int error = WriteAll(fd.Get(), content);

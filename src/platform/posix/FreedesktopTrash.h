@@ -22,8 +22,7 @@ struct TrashPlace {
 // interface, so that tests can bend any step of it.
 class FreedesktopTrash final : public Trash {
  public:
-  FreedesktopTrash(FileSystem& fileSystem, DataLocations& locations)
-      : fileSystem_(fileSystem), locations_(locations) {}
+  FreedesktopTrash(FileSystem& fileSystem, DataLocations& locations) : fileSystem_(fileSystem), locations_(locations) {}
 
   // Under a name not in use in the trash, with its record written first, as
   // the trash format asks, and removed again when the move fails.

@@ -26,7 +26,7 @@ namespace {
 
 bool HoldsNul(const std::string& path) { return path.find('\0') != std::string::npos; }
 
-constexpr long kMsdosMagic = 0x4d44;        // FAT12/16/32, vfat
+constexpr long kMsdosMagic = 0x4d44;  // FAT12/16/32, vfat
 constexpr long kExfatMagic = 0x2011BAB0;
 constexpr long kCifsMagic = 0xFF534D42;
 constexpr long kSmb2Magic = 0xFE534D42;
@@ -133,12 +133,8 @@ bool PosixFileSystem::ListFolder(const std::string& folder, const EntryVisitor& 
     if (name == "." || name == "..") continue;
     EntryKind kind = EntryKind::Other;
     switch (entry->d_type) {
-      case DT_REG:
-        kind = EntryKind::File;
-        break;
-      case DT_DIR:
-        kind = EntryKind::Folder;
-        break;
+      case DT_REG: kind = EntryKind::File; break;
+      case DT_DIR: kind = EntryKind::Folder; break;
       case DT_LNK:
       case DT_UNKNOWN: {
         struct stat target {};
@@ -154,8 +150,7 @@ bool PosixFileSystem::ListFolder(const std::string& folder, const EntryVisitor& 
         }
         break;
       }
-      default:
-        break;
+      default: break;
     }
     visit(name, kind);
   }
@@ -191,8 +186,7 @@ bool ProbeCaseInsensitiveFolder(const std::string& folder) {
   struct statfs fs {};
   if (statfs(folder.c_str(), &fs) != 0) return false;
   const long type = static_cast<long>(fs.f_type);
-  if (type == kMsdosMagic || type == kExfatMagic || type == kCifsMagic || type == kSmb2Magic ||
-      type == kSmbMagic) {
+  if (type == kMsdosMagic || type == kExfatMagic || type == kCifsMagic || type == kSmb2Magic || type == kSmbMagic) {
     return true;
   }
   if (HasCasefoldAttribute(folder)) return true;

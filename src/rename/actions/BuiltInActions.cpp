@@ -3,9 +3,9 @@
 #include <functional>
 #include <map>
 
-#include "rename/actions/FrmULCase.h"
 #include "rename/actions/FrmFileExtension.h"
 #include "rename/actions/FrmPrefixSuffix.h"
+#include "rename/actions/FrmULCase.h"
 
 namespace nomra::rename {
 

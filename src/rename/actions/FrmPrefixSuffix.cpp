@@ -1,7 +1,7 @@
 #include "rename/actions/FrmPrefixSuffix.h"
 
-#include "rename/ActionScope.h"
 #include "base/NameSplit.h"
+#include "rename/ActionScope.h"
 
 namespace nomra::rename {
 

@@ -43,12 +43,9 @@ std::string FrmULCase::Structure() const {
   const std::string open = "<" + code + ">";
   const std::string close = "</" + code + ">";
   switch (ChosenIndex(Model(), "opt2", kApplyChoices)) {
-    case 2:
-      return "<NAME>" + open + "<.EXT>" + close;
-    case 3:
-      return open + "<NAME>" + close + open + "<.EXT>" + close;
-    default:
-      return open + "<NAME>" + close + "<.EXT>";
+    case 2: return "<NAME>" + open + "<.EXT>" + close;
+    case 3: return open + "<NAME>" + close + open + "<.EXT>" + close;
+    default: return open + "<NAME>" + close + "<.EXT>";
   }
 }
 

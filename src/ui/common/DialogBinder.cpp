@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QWidget>
+
 #include "ui/common/TextConversion.h"
 
 namespace nomra::ui {
@@ -27,9 +28,7 @@ Qt::CheckState CheckStateOf(int value) {
   return value == 1 ? Qt::Checked : value == 2 ? Qt::PartiallyChecked : Qt::Unchecked;
 }
 
-int CheckValueOf(Qt::CheckState state) {
-  return state == Qt::Checked ? 1 : state == Qt::PartiallyChecked ? 2 : 0;
-}
+int CheckValueOf(Qt::CheckState state) { return state == Qt::Checked ? 1 : state == Qt::PartiallyChecked ? 2 : 0; }
 
 void ShowRows(QListWidget& list, const DialogInput& input) {
   const QSignalBlocker block(&list);
@@ -87,8 +86,7 @@ void ShowInput(const DialogInput& input, QWidget& widget) {
     case InputKind::MultiSelectionList:
       if (auto* list = qobject_cast<QListWidget*>(&widget)) ShowRows(*list, input);
       return;
-    case InputKind::NoValue:
-      return;
+    case InputKind::NoValue: return;
   }
 }
 
@@ -133,8 +131,7 @@ void ReadInput(DialogInput& input, const QWidget& widget) {
         input.number = list->selectedItems().isEmpty() ? -1 : list->currentRow();
       }
       return;
-    case InputKind::NoValue:
-      return;
+    case InputKind::NoValue: return;
   }
 }
 

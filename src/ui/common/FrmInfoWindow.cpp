@@ -12,7 +12,7 @@
 namespace nomra::ui {
 
 FrmInfoWindow::FrmInfoWindow(const lang::MessageCatalog& catalog, const QString& appTitle, const QString& version,
-                       const QString& menuCaption, QWidget* parent)
+                             const QString& menuCaption, QWidget* parent)
     : QDialog(parent) {
   setObjectName("frmInfo");
   setWindowTitle(QString(menuCaption).remove('&'));

@@ -10,7 +10,7 @@ class FrmInfoWindow final : public QDialog {
   Q_OBJECT
  public:
   FrmInfoWindow(const lang::MessageCatalog& catalog, const QString& appTitle, const QString& version,
-             const QString& menuCaption, QWidget* parent = nullptr);
+                const QString& menuCaption, QWidget* parent = nullptr);
 };
 
 }  // namespace nomra::ui

@@ -19,7 +19,8 @@ namespace nomra::ui {
 
 LanguageDialog::LanguageDialog(const std::string& appFolder, formats::IniFile settingsFile,
                                const lang::MessageCatalog& catalog, const QString& menuCaption, QWidget* parent)
-    : QDialog(parent), settingsFile_(std::move(settingsFile)),
+    : QDialog(parent),
+      settingsFile_(std::move(settingsFile)),
       files_(lang::ListLanguageFiles(settingsFile_.Files(), appFolder)) {
   setObjectName("frmOptions");
   setWindowTitle(menuCaption.isEmpty() ? QString("Options") : DialogTitleOf(menuCaption));
@@ -34,8 +35,8 @@ LanguageDialog::LanguageDialog(const std::string& appFolder, formats::IniFile se
   for (const lang::LanguageFile& file : files_) {
     const QString name = ToQString(file.languageName);
     choices_->addItem(name.isEmpty() ? QFileInfo(ToQString(file.path)).completeBaseName() : name);
-    const bool current = catalog.FilePath().empty() ? desktopNames.contains(name, Qt::CaseInsensitive)
-                                                    : file.path == catalog.FilePath();
+    const bool current =
+        catalog.FilePath().empty() ? desktopNames.contains(name, Qt::CaseInsensitive) : file.path == catalog.FilePath();
     if (current) choices_->setCurrentIndex(choices_->count() - 1);
   }
   layout->addWidget(choices_);

@@ -16,8 +16,7 @@ QLabel* AddNamedLabel(QBoxLayout& layout, QWidget& parent, const QString& name, 
   return label;
 }
 
-QLabel* AddLabelledWidget(QGridLayout& grid, int row, const QString& labelName, const QString& label,
-                          QWidget& widget) {
+QLabel* AddLabelledWidget(QGridLayout& grid, int row, const QString& labelName, const QString& label, QWidget& widget) {
   auto* caption = new QLabel(label, widget.parentWidget());
   caption->setObjectName(labelName);
   caption->setBuddy(&widget);
@@ -26,8 +25,8 @@ QLabel* AddLabelledWidget(QGridLayout& grid, int row, const QString& labelName, 
   return caption;
 }
 
-QLineEdit* AddLabelledText(QGridLayout& grid, QWidget& parent, int row, const QString& labelName,
-                           const QString& label, const QString& textName) {
+QLineEdit* AddLabelledText(QGridLayout& grid, QWidget& parent, int row, const QString& labelName, const QString& label,
+                           const QString& textName) {
   auto* text = new QLineEdit(&parent);
   text->setObjectName(textName);
   AddLabelledWidget(grid, row, labelName, label, *text);

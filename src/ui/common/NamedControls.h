@@ -1,5 +1,6 @@
 #pragma once
 #include <QString>
+
 #include <utility>
 #include <vector>
 
@@ -20,11 +21,10 @@ QLabel* AddNamedLabel(QBoxLayout& layout, QWidget& parent, const QString& name, 
 
 // A row of a dialog's grid: the label (its buddy the widget) in the first
 // column and the widget in the second.
-QLabel* AddLabelledWidget(QGridLayout& grid, int row, const QString& labelName, const QString& label,
-                          QWidget& widget);
+QLabel* AddLabelledWidget(QGridLayout& grid, int row, const QString& labelName, const QString& label, QWidget& widget);
 // The same with a new text box, named `textName`, as the widget.
-QLineEdit* AddLabelledText(QGridLayout& grid, QWidget& parent, int row, const QString& labelName,
-                           const QString& label, const QString& textName);
+QLineEdit* AddLabelledText(QGridLayout& grid, QWidget& parent, int row, const QString& labelName, const QString& label,
+                           const QString& textName);
 
 // A frame named `frameName` with the option buttons one under the other,
 // each given as its name and design caption.

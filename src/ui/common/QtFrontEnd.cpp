@@ -16,15 +16,11 @@ QMessageBox::Icon IconOf(core::MessageStyle style) {
   switch (style) {
     case core::MessageStyle::YesNo:
     case core::MessageStyle::YesNoDefaultNo:
-    case core::MessageStyle::YesNoCancelDefaultNo:
-      return QMessageBox::Question;
+    case core::MessageStyle::YesNoCancelDefaultNo: return QMessageBox::Question;
     case core::MessageStyle::YesNoWarningDefaultNo:
-    case core::MessageStyle::OkWarning:
-      return QMessageBox::Warning;
-    case core::MessageStyle::OkStop:
-      return QMessageBox::Critical;
-    case core::MessageStyle::OkInformation:
-      return QMessageBox::Information;
+    case core::MessageStyle::OkWarning: return QMessageBox::Warning;
+    case core::MessageStyle::OkStop: return QMessageBox::Critical;
+    case core::MessageStyle::OkInformation: return QMessageBox::Information;
   }
   return QMessageBox::NoIcon;
 }
@@ -33,38 +29,28 @@ QMessageBox::StandardButtons ButtonsOf(core::MessageStyle style) {
   switch (style) {
     case core::MessageStyle::YesNo:
     case core::MessageStyle::YesNoDefaultNo:
-    case core::MessageStyle::YesNoWarningDefaultNo:
-      return QMessageBox::Yes | QMessageBox::No;
-    case core::MessageStyle::YesNoCancelDefaultNo:
-      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-    default:
-      return QMessageBox::Ok;
+    case core::MessageStyle::YesNoWarningDefaultNo: return QMessageBox::Yes | QMessageBox::No;
+    case core::MessageStyle::YesNoCancelDefaultNo: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    default: return QMessageBox::Ok;
   }
 }
 
 QMessageBox::StandardButton DefaultOf(core::MessageStyle style) {
   switch (style) {
-    case core::MessageStyle::YesNo:
-      return QMessageBox::Yes;
+    case core::MessageStyle::YesNo: return QMessageBox::Yes;
     case core::MessageStyle::YesNoDefaultNo:
     case core::MessageStyle::YesNoCancelDefaultNo:
-    case core::MessageStyle::YesNoWarningDefaultNo:
-      return QMessageBox::No;
-    default:
-      return QMessageBox::Ok;
+    case core::MessageStyle::YesNoWarningDefaultNo: return QMessageBox::No;
+    default: return QMessageBox::Ok;
   }
 }
 
 core::Answer AnswerOf(int button) {
   switch (button) {
-    case QMessageBox::Yes:
-      return core::Answer::Yes;
-    case QMessageBox::No:
-      return core::Answer::No;
-    case QMessageBox::Cancel:
-      return core::Answer::Cancel;
-    default:
-      return core::Answer::Ok;
+    case QMessageBox::Yes: return core::Answer::Yes;
+    case QMessageBox::No: return core::Answer::No;
+    case QMessageBox::Cancel: return core::Answer::Cancel;
+    default: return core::Answer::Ok;
   }
 }
 
@@ -115,8 +101,8 @@ std::string QtFrontEnd::AskInput(const core::Message& prompt, const std::string&
   if (inputAnswerer_) return inputAnswerer_(prompt, preset);
   if (busyDepth_ > 0) QApplication::setOverrideCursor(Qt::ArrowCursor);
   bool ok = false;
-  const QString answer = QInputDialog::getText(window_, CaptionOf(prompt), TextOf(prompt), QLineEdit::Normal,
-                                               ToQString(preset), &ok);
+  const QString answer =
+      QInputDialog::getText(window_, CaptionOf(prompt), TextOf(prompt), QLineEdit::Normal, ToQString(preset), &ok);
   if (busyDepth_ > 0) QApplication::restoreOverrideCursor();
   return ok ? ToEngineText(answer) : std::string();
 }

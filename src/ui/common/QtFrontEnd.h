@@ -1,8 +1,9 @@
 #pragma once
 #include <QLabel>
 #include <QPointer>
-#include <QWidget>
 #include <QString>
+#include <QWidget>
+
 #include <functional>
 
 #include "core/FrontEnd.h"
@@ -14,7 +15,8 @@ namespace nomra::ui {
 // the language file. Tests hand it an answerer instead of a person.
 class QtFrontEnd final : public core::FrontEnd {
  public:
-  using Answerer = std::function<core::Answer(const core::Message& message, const QString& caption, const QString& text)>;
+  using Answerer =
+      std::function<core::Answer(const core::Message& message, const QString& caption, const QString& text)>;
 
   QtFrontEnd(const lang::MessageCatalog& catalog, QString appTitle);
 

@@ -16,6 +16,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
+
 #include <memory>
 #include <vector>
 
@@ -98,8 +99,7 @@ class WidgetControl final : public LocalisableControl {
     for (QAction* action : ToolActions()) {
       lang::ToolbarButton button;
       button.key = ToEngineText(action->property(kKeyProperty).toString());
-      button.style = action->isSeparator() ? lang::kButtonStyleSeparator
-                                            : action->property(kStyleProperty).toInt();
+      button.style = action->isSeparator() ? lang::kButtonStyleSeparator : action->property(kStyleProperty).toInt();
       if (action->menu() != nullptr) {
         for (QAction* entry : action->menu()->actions()) {
           button.entryKeys.push_back(ToEngineText(entry->property(kKeyProperty).toString()));
@@ -169,7 +169,8 @@ class WidgetForm final : public lang::LocalisableForm {
       controls.push_back(std::make_unique<WidgetControl>(*widget));
     }
     for (QAction* action : form_.findChildren<QAction*>()) {
-      if (action->objectName().startsWith(QLatin1String(kMenuEntryPrefix))) controls.push_back(std::make_unique<ActionControl>(*action));
+      if (action->objectName().startsWith(QLatin1String(kMenuEntryPrefix)))
+        controls.push_back(std::make_unique<ActionControl>(*action));
     }
     for (auto& control : controls) visit(*control);
   }

@@ -9,9 +9,8 @@
 
 namespace nomra::ui {
 
-bool RunSelAction(QWidget* parent, platform::Platform& system, const rename::ActionContext& context, core::RowCommitter* committer,
-                  const lang::MessageCatalog& catalog,
-                  const QString& tag) {
+bool RunSelAction(QWidget* parent, platform::Platform& system, const rename::ActionContext& context,
+                  core::RowCommitter* committer, const lang::MessageCatalog& catalog, const QString& tag) {
   FrmSelActionWindow dialog(tag, context, committer, catalog, system, parent);
   return dialog.exec() == QDialog::Accepted;
 }

@@ -1,12 +1,13 @@
 #pragma once
 #include <QString>
+
 #include <string>
 
 #include "core/ListContext.h"
 #include "core/RowCommitter.h"
-#include "rename/ActionContext.h"
 #include "lang/MessageCatalog.h"
 #include "platform/Platform.h"
+#include "rename/ActionContext.h"
 
 class QWidget;
 
@@ -18,9 +19,8 @@ namespace nomra::ui {
 // mnuCopyFiles ("frmCopyFiles"), mnuMoveFiles ("frmMoveFiles") and the
 // copy of "TakeChanges2" ("frmSelAction"): frmSelAction with that Tag.
 // True when its OK ran to the end.
-bool RunSelAction(QWidget* parent, platform::Platform& system, const rename::ActionContext& context, core::RowCommitter* committer,
-                  const lang::MessageCatalog& catalog,
-                  const QString& tag);
+bool RunSelAction(QWidget* parent, platform::Platform& system, const rename::ActionContext& context,
+                  core::RowCommitter* committer, const lang::MessageCatalog& catalog, const QString& tag);
 
 // mnuDeleteFiles1 (to the trash) and mnuDeleteFiles2 (at once), with their
 // progress. False when expert mode is off.

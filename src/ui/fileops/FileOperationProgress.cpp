@@ -60,8 +60,8 @@ bool FileOperationProgress::Tick(const core::ProgressStep& step) {
   file_->setText(ToQString(step.path));
   // Bytes where there are any, so one large file moves the bar too; files otherwise.
   const double done = step.bytesTotal > 0 ? static_cast<double>(step.bytesDone) / static_cast<double>(step.bytesTotal)
-                      : step.count > 0   ? static_cast<double>(step.index - 1) / step.count
-                                         : 0.0;
+                      : step.count > 0    ? static_cast<double>(step.index - 1) / step.count
+                                          : 0.0;
   bar_->setValue(static_cast<int>(done * kBarSteps));
   if (!isVisible() && QDateTime::currentMSecsSinceEpoch() >= shownAfter_) show();
   QCoreApplication::processEvents();

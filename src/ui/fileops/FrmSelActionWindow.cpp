@@ -33,10 +33,11 @@ QGroupBox* BuildFrameCopy(QWidget& dialog) {
 
 }  // namespace
 
-FrmSelActionWindow::FrmSelActionWindow(const QString& tag, const rename::ActionContext& context, core::RowCommitter* committer,
-                           const lang::MessageCatalog& catalog,
-                           platform::Platform& system, QWidget* parent)
-    : QDialog(parent), engine_(ToEngineText(tag)),
+FrmSelActionWindow::FrmSelActionWindow(const QString& tag, const rename::ActionContext& context,
+                                       core::RowCommitter* committer, const lang::MessageCatalog& catalog,
+                                       platform::Platform& system, QWidget* parent)
+    : QDialog(parent),
+      engine_(ToEngineText(tag)),
       context_(context),
       committer_(committer),
       catalog_(catalog),

@@ -3,10 +3,10 @@
 #include <QString>
 
 #include "core/RowCommitter.h"
-#include "rename/ActionContext.h"
 #include "fileops/FrmSelAction.h"
-#include "platform/Platform.h"
 #include "lang/MessageCatalog.h"
+#include "platform/Platform.h"
+#include "rename/ActionContext.h"
 
 class QCheckBox;
 class QGroupBox;
@@ -22,8 +22,7 @@ class FrmSelActionWindow final : public QDialog {
   Q_OBJECT
  public:
   FrmSelActionWindow(const QString& tag, const rename::ActionContext& context, core::RowCommitter* committer,
-               const lang::MessageCatalog& catalog,
-               platform::Platform& system, QWidget* parent = nullptr);
+                     const lang::MessageCatalog& catalog, platform::Platform& system, QWidget* parent = nullptr);
 
   fileops::FrmSelAction& Engine() { return engine_; }
 

@@ -29,16 +29,11 @@ std::string Text(const lang::MessageCatalog& catalog, const char* key, const std
 
 std::string TypeText(const platform::FileProperties& p, const lang::MessageCatalog& catalog) {
   switch (p.type) {
-    case platform::PropertyType::File:
-      return Text(catalog, "typeFile", "File");
-    case platform::PropertyType::Folder:
-      return Text(catalog, "typeFolder", "Folder");
-    case platform::PropertyType::Link:
-      return Text(catalog, "typeLink", "Link to " + p.linkTarget, {p.linkTarget});
-    case platform::PropertyType::Other:
-      return Text(catalog, "typeOther", "Special file");
-    case platform::PropertyType::Missing:
-      break;
+    case platform::PropertyType::File: return Text(catalog, "typeFile", "File");
+    case platform::PropertyType::Folder: return Text(catalog, "typeFolder", "Folder");
+    case platform::PropertyType::Link: return Text(catalog, "typeLink", "Link to " + p.linkTarget, {p.linkTarget});
+    case platform::PropertyType::Other: return Text(catalog, "typeOther", "Special file");
+    case platform::PropertyType::Missing: break;
   }
   return std::string();
 }

@@ -2,8 +2,8 @@
 #include <QDialog>
 #include <QString>
 
-#include "platform/FileSystem.h"
 #include "lang/MessageCatalog.h"
+#include "platform/FileSystem.h"
 
 class QLabel;
 

@@ -32,8 +32,7 @@ QTreeWidget* MakeFileList(QWidget& parent) {
   files->setObjectName("lstFiles");
   files->setColumnCount(history::kHistoryColumnCount);
   files->setHeaderLabels({"Date", "Folder", "Old name", "New name"});
-  files->setProperty(kHeaderTagsProperty,
-                     QStringList{"lstColHead01", "lstColHead02", "lstColHead03", "lstColHead04"});
+  files->setProperty(kHeaderTagsProperty, QStringList{"lstColHead01", "lstColHead02", "lstColHead03", "lstColHead04"});
   files->setRootIsDecorated(false);
   files->setUniformRowHeights(true);
   files->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -48,11 +47,10 @@ QTreeWidget* MakeFileList(QWidget& parent) {
 
 }  // namespace
 
-FrmHistoryWindow::FrmHistoryWindow(platform::FileSystem& fileSystem, const std::string& dataFolder, QtFrontEnd& frontEnd, const lang::MessageCatalog& catalog,
-                       const QString& appTitle, QWidget* mainWindow)
-    : QDialog(mainWindow),
-      frontEnd_(frontEnd),
-      services_{fileSystem, frontEnd, dataFolder, nullptr} {
+FrmHistoryWindow::FrmHistoryWindow(platform::FileSystem& fileSystem, const std::string& dataFolder,
+                                   QtFrontEnd& frontEnd, const lang::MessageCatalog& catalog, const QString& appTitle,
+                                   QWidget* mainWindow)
+    : QDialog(mainWindow), frontEnd_(frontEnd), services_{fileSystem, frontEnd, dataFolder, nullptr} {
   // A failed rename shows its message with the system's own words.
   services_.showFailure = [this, &catalog](const commit::ReportRow& failure) {
     frontEnd_.AskText(history::FailureMessage(failure), ReportRowText(failure, catalog));
@@ -134,8 +132,7 @@ void FrmHistoryWindow::SortByHead(int column) {
 }
 
 void ShowRenameHistory(QWidget* mainWindow, platform::FileSystem& fileSystem, const std::string& dataFolder,
-                       QtFrontEnd& frontEnd,
-                       const lang::MessageCatalog& catalog, const QString& appTitle) {
+                       QtFrontEnd& frontEnd, const lang::MessageCatalog& catalog, const QString& appTitle) {
   FrmHistoryWindow dialog(fileSystem, dataFolder, frontEnd, catalog, appTitle, mainWindow);
   dialog.exec();
 }

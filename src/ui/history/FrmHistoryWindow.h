@@ -1,11 +1,12 @@
 #pragma once
 #include <QDialog>
+
 #include <functional>
 
-#include "platform/FileSystem.h"
 #include "history/HistoryList.h"
 #include "history/UndoRenamings.h"
 #include "lang/MessageCatalog.h"
+#include "platform/FileSystem.h"
 
 class QPushButton;
 class QTreeWidget;
@@ -21,8 +22,8 @@ class QtFrontEnd;
 class FrmHistoryWindow final : public QDialog {
   Q_OBJECT
  public:
-  FrmHistoryWindow(platform::FileSystem& fileSystem, const std::string& dataFolder, QtFrontEnd& frontEnd, const lang::MessageCatalog& catalog, const QString& appTitle,
-             QWidget* mainWindow = nullptr);
+  FrmHistoryWindow(platform::FileSystem& fileSystem, const std::string& dataFolder, QtFrontEnd& frontEnd,
+                   const lang::MessageCatalog& catalog, const QString& appTitle, QWidget* mainWindow = nullptr);
 
   const history::HistoryList& List() const { return list_; }
 
@@ -48,7 +49,6 @@ class FrmHistoryWindow final : public QDialog {
 
 // Shows FrmHistory modally over the main window: what mnuHistory runs.
 void ShowRenameHistory(QWidget* mainWindow, platform::FileSystem& fileSystem, const std::string& dataFolder,
-                       QtFrontEnd& frontEnd,
-                       const lang::MessageCatalog& catalog, const QString& appTitle);
+                       QtFrontEnd& frontEnd, const lang::MessageCatalog& catalog, const QString& appTitle);
 
 }  // namespace nomra::ui

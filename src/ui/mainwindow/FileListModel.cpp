@@ -12,9 +12,7 @@ namespace nomra::ui {
 FileListModel::FileListModel(core::FileList& list, ThumbnailCache& thumbnails, QObject* parent)
     : QAbstractTableModel(parent), list_(list), thumbnails_(thumbnails) {}
 
-int FileListModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : list_.Count();
-}
+int FileListModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : list_.Count(); }
 
 int FileListModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : kShownColumns; }
 
@@ -23,12 +21,9 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
   const core::FileEntry& row = list_.Item(index.row() + 1);
   const int column = index.column();
   switch (role) {
-    case Qt::DisplayRole:
-      return ToQString(row[column]);
-    case Qt::EditRole:
-      return ToQString(row[core::kColNewName]);
-    case Qt::ToolTipRole:
-      return column == core::kColDisplay ? ToQString(row.key) : QVariant();
+    case Qt::DisplayRole: return ToQString(row[column]);
+    case Qt::EditRole: return ToQString(row[core::kColNewName]);
+    case Qt::ToolTipRole: return column == core::kColDisplay ? ToQString(row.key) : QVariant();
     case Qt::ForegroundRole:
       if (row.colour == core::RowColour::DarkRed) return PendingColour();
       return {};
@@ -38,8 +33,7 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole:
       if (column == core::kColSize) return QVariant(Qt::AlignRight | Qt::AlignVCenter);
       return {};
-    default:
-      return {};
+    default: return {};
   }
 }
 

@@ -39,7 +39,8 @@ QString ReportRowText(const commit::ReportRow& row, const lang::MessageCatalog& 
   return ToQString(text);
 }
 
-FrmNotRenamedWindow::FrmNotRenamedWindow(const commit::CommitResult& result, const lang::MessageCatalog& catalog, QWidget* parent)
+FrmNotRenamedWindow::FrmNotRenamedWindow(const commit::CommitResult& result, const lang::MessageCatalog& catalog,
+                                         QWidget* parent)
     : QDialog(parent) {
   setObjectName(kName);
   setWindowTitle("Not renamed");
@@ -77,7 +78,8 @@ FrmNotRenamedWindow::FrmNotRenamedWindow(const commit::CommitResult& result, con
 
   QPushButton* ok = AddOkCancelRow(*this, *layout);
   connect(ok, &QPushButton::clicked, this, [this] {
-    choice_ = removeRenamed_->isChecked() ? commit::NotRenamedChoice::RemoveRenamed : commit::NotRenamedChoice::NoAction;
+    choice_ =
+        removeRenamed_->isChecked() ? commit::NotRenamedChoice::RemoveRenamed : commit::NotRenamedChoice::NoAction;
     if (session_ != nullptr) {
       ReadWidgetsIntoModel(model_, *this);
       dialog::StoreDialogState(model_, model_.Name(), dialog::kSettingsMode, *session_, *fileSystem_);
@@ -94,7 +96,7 @@ FrmNotRenamedWindow::FrmNotRenamedWindow(const commit::CommitResult& result, con
 }
 
 void FrmNotRenamedWindow::RememberChoiceIn(const dialog::ScriptSession& session, platform::FileSystem& fileSystem,
-                                        core::FrontEnd& frontEnd) {
+                                           core::FrontEnd& frontEnd) {
   session_ = &session;
   fileSystem_ = &fileSystem;
   ReadWidgetsIntoModel(model_, *this);

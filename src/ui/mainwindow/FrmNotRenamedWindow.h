@@ -4,8 +4,8 @@
 #include "commit/CommitResult.h"
 #include "commit/CommitServices.h"
 #include "core/FrontEnd.h"
-#include "dialog/ScriptSession.h"
 #include "dialog/DialogModel.h"
+#include "dialog/ScriptSession.h"
 #include "lang/MessageCatalog.h"
 
 class QRadioButton;
@@ -24,14 +24,16 @@ class FrmNotRenamedWindow final : public QDialog {
   // The form's name, which is also the section of its remembered choice.
   static constexpr char kName[] = "frmNotRenamed";
 
-  FrmNotRenamedWindow(const commit::CommitResult& result, const lang::MessageCatalog& catalog, QWidget* parent = nullptr);
+  FrmNotRenamedWindow(const commit::CommitResult& result, const lang::MessageCatalog& catalog,
+                      QWidget* parent = nullptr);
 
   // What cmdOK chose; cmdCancel always gives NoAction.
   commit::NotRenamedChoice Choice() const { return choice_; }
 
   // Shows the choice of the last OK, and stores this one on OK, in the
   // settings under the dialog's name.
-  void RememberChoiceIn(const dialog::ScriptSession& session, platform::FileSystem& fileSystem, core::FrontEnd& frontEnd);
+  void RememberChoiceIn(const dialog::ScriptSession& session, platform::FileSystem& fileSystem,
+                        core::FrontEnd& frontEnd);
 
  private:
   dialog::DialogModel model_{kName};

@@ -11,7 +11,7 @@
 namespace nomra::ui {
 
 FrmStartWindow::FrmStartWindow(const lang::MessageCatalog& catalog, const QString& appTitle, const QString& version,
-                         QWidget* parent)
+                               QWidget* parent)
     : QDialog(parent, Qt::SplashScreen) {
   setObjectName("frmStart");
   auto* layout = new QVBoxLayout(this);

@@ -14,7 +14,7 @@ class FrmStartWindow final : public QDialog {
   static constexpr int kShowMilliseconds = 2500;
 
   FrmStartWindow(const lang::MessageCatalog& catalog, const QString& appTitle, const QString& version,
-              QWidget* parent = nullptr);
+                 QWidget* parent = nullptr);
 
   QTimer& Zeit1() { return timer_; }
 

@@ -1,7 +1,6 @@
 #include "ui/mainwindow/MainWindow.h"
 
 #include <QActionGroup>
-#include <cstdio>
 #include <QApplication>
 #include <QComboBox>
 #include <QEvent>
@@ -17,19 +16,21 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <cstdio>
+
 #include "base/CaseMap.h"
 #include "base/NameSplit.h"
 #include "base/NumberText.h"
 #include "commit/CommitRecovery.h"
 #include "core/AddFile.h"
+#include "core/SortFileList.h"
+#include "formats/IniFile.h"
+#include "lang/LanguageKeys.h"
+#include "script/ScriptRecording.h"
+#include "settings/SettingsKeys.h"
 #include "shell/CommandState.h"
 #include "shell/StatusTextsOfLanguage.h"
-#include "core/SortFileList.h"
 #include "shell/WindowPlacement.h"
-#include "script/ScriptRecording.h"
-#include "formats/IniFile.h"
-#include "settings/SettingsKeys.h"
-#include "lang/LanguageKeys.h"
 #include "ui/common/ButtonIcons.h"
 #include "ui/common/FormNames.h"
 #include "ui/common/ProductLabels.h"
@@ -37,8 +38,8 @@
 #include "ui/common/RunShowingFault.h"
 #include "ui/common/TextConversion.h"
 #include "ui/mainwindow/FileListModel.h"
-#include "ui/mainwindow/IconCellDelegate.h"
 #include "ui/mainwindow/FrmStartWindow.h"
+#include "ui/mainwindow/IconCellDelegate.h"
 #include "ui/mainwindow/ThumbnailCache.h"
 #include "ui/rename/ActionWindows.h"
 
@@ -48,19 +49,28 @@ namespace {
 
 // The controls the refresh switches off before it decides what to switch on.
 const QStringList& ManagedMenuNames() {
-  static const QStringList names = {kDelListMenu,        kEditMenu,   kFindDuplicatesEntry, kSpecialMenu,
-                                    kRejectChangesEntry, kRenameMenu, kScriptMenu,          kTakeChangesMenu,
-                                    kUndoEntry};
+  static const QStringList names = {kDelListMenu, kEditMenu,   kFindDuplicatesEntry, kSpecialMenu, kRejectChangesEntry,
+                                    kRenameMenu,  kScriptMenu, kTakeChangesMenu,     kUndoEntry};
   return names;
 }
 
 // Commands whose dialogs come with later work: visible, never enabled, never faked.
 const QStringList& CommandsNotYetBuilt() {
-  static const QStringList names = {kNewNamesFromFileEntry, kFileListEntry,       kMp3ListEntry,
-                                    kExifListEntry,         kId3Entry,            kId3PopupEntry,
-                                    kId3AllPopupEntry,      kFileAttributesEntry, kFindDuplicatesEntry,
-                                    kSyncFoldersEntry,      kUpdateEntry,         kHelpContentEntry,
-                                    kImgPreviewEntry,       kShowAssistantEntry,  ToolName(kMainBar, kImgPreviewKey)};
+  static const QStringList names = {kNewNamesFromFileEntry,
+                                    kFileListEntry,
+                                    kMp3ListEntry,
+                                    kExifListEntry,
+                                    kId3Entry,
+                                    kId3PopupEntry,
+                                    kId3AllPopupEntry,
+                                    kFileAttributesEntry,
+                                    kFindDuplicatesEntry,
+                                    kSyncFoldersEntry,
+                                    kUpdateEntry,
+                                    kHelpContentEntry,
+                                    kImgPreviewEntry,
+                                    kShowAssistantEntry,
+                                    ToolName(kMainBar, kImgPreviewKey)};
   return names;
 }
 
@@ -143,7 +153,8 @@ void MainWindow::ShowLanguageTexts() {
 // scope list, sort and size entries, and the tool tips of the variants.
 void MainWindow::setLngalt() {
   texts_ = shell::StatusTextsOf(catalog_);
-  static const char* kDesignHeads[] = {"Picture", "Path", "Old name", "New name", "Created", "Modified", "EXIF date", "Size"};
+  static const char* kDesignHeads[] = {"Picture", "Path",     "Old name",  "New name",
+                                       "Created", "Modified", "EXIF date", "Size"};
   QStringList heads;
   for (int column = 0; column < FileListModel::kShownColumns; ++column) {
     const std::string text = catalog_.GetText(kMainWindowName, "lstColHead0" + std::to_string(column));
@@ -155,7 +166,8 @@ void MainWindow::setLngalt() {
   const int scope = applyTo_->currentIndex();
   applyTo_->clear();
   // The scope is one of the first three removals: all, selected or unselected files.
-  for (int entry = 1; entry <= 3; ++entry) applyTo_->addItem(MenuAction(MenuEntryOf(EntryKey(kDelListKey, entry)))->text().remove('&'));
+  for (int entry = 1; entry <= 3; ++entry)
+    applyTo_->addItem(MenuAction(MenuEntryOf(EntryKey(kDelListKey, entry)))->text().remove('&'));
   applyTo_->setCurrentIndex(scope < 0 ? state_.applyScope : scope);
 
   std::string ascending = catalog_.GetText(kMainWindowName, "mnuViewSortingAsc");
@@ -167,7 +179,8 @@ void MainWindow::setLngalt() {
     const std::string& direction = entry % 2 == 1 ? ascending : descending;
     MenuAction(ControlArrayMember(kSortFamily, entry))->setText(head + ' ' + ToQString(direction));
   }
-  for (int entry = 1; entry <= kColumnEntries; ++entry) MenuAction(ControlArrayMember(kColumnFamily, entry))->setText(heads[entry]);
+  for (int entry = 1; entry <= kColumnEntries; ++entry)
+    MenuAction(ControlArrayMember(kColumnFamily, entry))->setText(heads[entry]);
 
   // Picture sizes: an entry exists for each numbered key with a text.
   QStringList sizes;
@@ -234,7 +247,8 @@ void MainWindow::LoadSettingsIntoWindow() {
     // A date column without a stored width shows the whole date at any font size.
     const bool date = head - 1 == core::kColCreated || head - 1 == core::kColModified;
     if (settings_.columnWidths[head - 1] < 0 && date) {
-      width = std::max<long>(width, shell::PixelsToTwips(fontMetrics().horizontalAdvance("0000-00-00 00:00:00") + 16, dpi));
+      width =
+          std::max<long>(width, shell::PixelsToTwips(fontMetrics().horizontalAdvance("0000-00-00 00:00:00") + 16, dpi));
     }
     if (width >= 0) details_->setColumnWidth(head - 1, shell::TwipsToPixels(static_cast<int>(width), dpi));
     if (width == 0) details_->setColumnHidden(head - 1, true);
@@ -273,9 +287,9 @@ void MainWindow::ApplyWindowPlacement() {
   const double dpi = screen != nullptr ? screen->logicalDotsPerInchX() : 96.0;
   const QSize screenSize = screen != nullptr ? screen->availableGeometry().size() : QSize(1280, 800);
   resize(std::min(1100, screenSize.width()), std::min(720, screenSize.height()));
-  const shell::WindowPlacement placement =
-      shell::PlaceWindow(settings_, shell::TwipsSize{shell::PixelsToTwips(width(), dpi), shell::PixelsToTwips(height(), dpi)},
-                  shell::TwipsSize{shell::PixelsToTwips(screenSize.width(), dpi), shell::PixelsToTwips(screenSize.height(), dpi)});
+  const shell::WindowPlacement placement = shell::PlaceWindow(
+      settings_, shell::TwipsSize{shell::PixelsToTwips(width(), dpi), shell::PixelsToTwips(height(), dpi)},
+      shell::TwipsSize{shell::PixelsToTwips(screenSize.width(), dpi), shell::PixelsToTwips(screenSize.height(), dpi)});
   int w = width(), h = height();
   if (placement.applyWidth) w = shell::TwipsToPixels(placement.width, dpi);
   if (placement.applyHeight) h = shell::TwipsToPixels(placement.height, dpi);
@@ -314,8 +328,10 @@ void MainWindow::RefreshPreview() {
   const QSize cell(std::max(IconSize() + 48, 104), IconSize() + 3 * fontMetrics().height() + 10);
   icons_->setGridSize(cell);
   iconCells_->SetCellSize(cell - QSize(6, 6));
-  MenuAction(view_ == ListView::Details ? kViewDetailsEntry
-             : view_ == ListView::DetailsIcons ? kViewDetailsIconsEntry : kViewIconsEntry)->setChecked(true);
+  MenuAction(view_ == ListView::Details        ? kViewDetailsEntry
+             : view_ == ListView::DetailsIcons ? kViewDetailsIconsEntry
+                                               : kViewIconsEntry)
+      ->setChecked(true);
 
   listModel_->Reload();
   RestoreSelection();
@@ -367,7 +383,8 @@ void MainWindow::UpdateSortIndicators() {
     header->setSortIndicatorShown(false);
   }
   const int checked = core::CheckedSortMenuEntry(state_.list);
-  for (int entry = 1; entry <= kSortEntries; ++entry) MenuAction(ControlArrayMember(kSortFamily, entry))->setChecked(entry == checked);
+  for (int entry = 1; entry <= kSortEntries; ++entry)
+    MenuAction(ControlArrayMember(kSortFamily, entry))->setChecked(entry == checked);
   MenuAction(kUnsortedEntry)->setChecked(checked == 0);
 }
 
@@ -414,12 +431,14 @@ void MainWindow::SelectionHandler() {
     detailFields_[1]->setText(ToQString(row[core::kColOldName]));
     detailFields_[2]->setText(ToQString(row[core::kColNewName]));
     const bool mp3 = base::EqualsNoCase(base::ExtensionOnly(row.key, false), "mp3");
-    for (const char* name : {kId3Entry, kId3PopupEntry}) MenuAction(name)->setEnabled(mp3 && !notYetBuilt_.contains(name));
+    for (const char* name : {kId3Entry, kId3PopupEntry})
+      MenuAction(name)->setEnabled(mp3 && !notYetBuilt_.contains(name));
   }
   const bool hasRow = !detailFields_[0]->text().isEmpty();
   ToolAction(kLeftBar, kEditManKey)->setEnabled(hasRow && !loading_);
   ToolAction(kLeftBar, kDelListKey)->setEnabled(hasRow && !loading_);
-  ToolAction(kLeftBar, kPropertiesKey)->setEnabled(hasRow && !notYetBuilt_.contains(ToolName(kLeftBar, kPropertiesKey)));
+  ToolAction(kLeftBar, kPropertiesKey)
+      ->setEnabled(hasRow && !notYetBuilt_.contains(ToolName(kLeftBar, kPropertiesKey)));
   for (const char* name : {kEditManEntry, kCopyOldNameEntry, kCopyNewNameEntry, kCopyPathEntry}) {
     MenuAction(name)->setEnabled(hasRow);
   }

@@ -4,13 +4,14 @@
 #include <QPointer>
 #include <QSet>
 #include <QStringList>
+
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "commit/DiskCommitter.h"
 #include "commit/CommitContext.h"
+#include "commit/DiskCommitter.h"
 #include "core/AddFile.h"
 #include "core/ExifDateReader.h"
 #include "core/ListContext.h"
@@ -18,18 +19,18 @@
 #include "core/ListState.h"
 #include "core/StatusTexts.h"
 #include "dialog/ScriptSession.h"
+#include "formats/IniFile.h"
+#include "lang/MessageCatalog.h"
+#include "platform/FileSystem.h"
+#include "platform/Platform.h"
 #include "rename/ActionContext.h"
 #include "shell/MainWindowSettings.h"
 #include "shell/Startup.h"
 #include "shell/WindowPreview.h"
 #include "shell/WindowState.h"
-#include "ui/mainwindow/PumpingProgress.h"
-#include "formats/IniFile.h"
-#include "lang/MessageCatalog.h"
-#include "platform/FileSystem.h"
-#include "platform/Platform.h"
 #include "ui/common/QtFrontEnd.h"
 #include "ui/mainwindow/MainWindowNames.h"
+#include "ui/mainwindow/PumpingProgress.h"
 #include "ui/rename/ActionDialogWindow.h"
 
 class QAbstractItemView;
@@ -271,15 +272,15 @@ class MainWindow final : public QMainWindow {
 
   QHash<QString, QAction*> menuActions_;
   QHash<QString, QAction*> toolActions_;  // "bar/key"
-  QHash<QString, QString> variants_;       // the Tag of the drop-down buttons
-  QHash<QString, QString> baseToolTips_;   // tool tip without the variant
-  QSet<QString> notYetBuilt_;              // commands whose dialog comes later
+  QHash<QString, QString> variants_;      // the Tag of the drop-down buttons
+  QHash<QString, QString> baseToolTips_;  // tool tip without the variant
+  QSet<QString> notYetBuilt_;             // commands whose dialog comes later
 
   // The dispatch tables, filled in one place (BuildCommandTables).
-  QHash<QString, Command> menuCommands_;   // menu entry name
+  QHash<QString, Command> menuCommands_;  // menu entry name
   // Numbered entries ("mnuViewPre(3)") share their family's command, which gets the number.
   QHash<QString, std::function<void(int)>> numberedMenuCommands_;
-  QHash<QString, Command> toolCommands_;   // "bar/key", drop-down entries too
+  QHash<QString, Command> toolCommands_;  // "bar/key", drop-down entries too
 
   ListView view_ = ListView::Details;
   int iconSizeEntry_ = 1;

@@ -16,6 +16,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+
 #include <iterator>
 
 #include "shell/CommandState.h"
@@ -37,16 +38,26 @@ namespace {
 // The design captions of the rename commands mnuRename01 to mnuRename10, in
 // menu order.
 constexpr const char* kRenameTexts[] = {
-    "&Numbering...",        "&Renumbering...",        "File &extension...", "Upper and &lower case...",
-    "&Prefix and suffix...", "Replace and re&move...", "&Insert...",         "Mo&ve part of name...",
-    "&Date and time...",    "&Trim...",
+    "&Numbering...",
+    "&Renumbering...",
+    "File &extension...",
+    "Upper and &lower case...",
+    "&Prefix and suffix...",
+    "Replace and re&move...",
+    "&Insert...",
+    "Mo&ve part of name...",
+    "&Date and time...",
+    "&Trim...",
 };
 static_assert(std::size(kRenameTexts) == kActionMenuEntries);
 
 // The design captions of mnuDelList1 to mnuDelList5, which the entries of the
 // button DelList show too.
 constexpr const char* kDelListTexts[] = {
-    "&All files", "&Selected files", "&Unselected files", "Files &with pending changes",
+    "&All files",
+    "&Selected files",
+    "&Unselected files",
+    "Files &with pending changes",
     "Files with&out pending changes",
 };
 static_assert(std::size(kDelListTexts) == kDelListEntries);
@@ -54,18 +65,30 @@ static_assert(std::size(kDelListTexts) == kDelListEntries);
 // Tool tips of the main bar before any language file speaks.
 QString DesignToolTip(const QString& key) {
   static const QHash<QString, QString> tips = {
-      {kOpenFileKey, "Open files"},          {kDelListKey, "Remove from list"},
-      {kTakeChangesKey, "Take changes"},     {kRejectChangesKey, "Reject changes"},
-      {kUndoKey, "Undo"},                    {"Rename01", "Numbering"},
-      {"Rename02", "Renumbering"},           {"Rename03", "File extension"},
-      {"Rename04", "Upper and lower case"},  {"Rename05", "Prefix and suffix"},
-      {"Rename06", "Replace and remove"},    {"Rename07", "Insert"},
-      {"Rename08", "Move part of name"},     {"Rename09", "Date and time"},
-      {"Rename10", "Trim"},                  {kNameStructureKey, "Name structure"},
-      {kImgPreviewKey, "Image preview"},     {kOptionsKey, "Options"},
-      {kEditManKey, "Edit name"},            {kPropertiesKey, "Properties"},
-      {kCancelActionKey, "Cancel"},          {kStartRecordKey, "Record script"},
-      {kStopRecordKey, "Stop recording"},    {kStartRunKey, "Run script"},
+      {kOpenFileKey, "Open files"},
+      {kDelListKey, "Remove from list"},
+      {kTakeChangesKey, "Take changes"},
+      {kRejectChangesKey, "Reject changes"},
+      {kUndoKey, "Undo"},
+      {"Rename01", "Numbering"},
+      {"Rename02", "Renumbering"},
+      {"Rename03", "File extension"},
+      {"Rename04", "Upper and lower case"},
+      {"Rename05", "Prefix and suffix"},
+      {"Rename06", "Replace and remove"},
+      {"Rename07", "Insert"},
+      {"Rename08", "Move part of name"},
+      {"Rename09", "Date and time"},
+      {"Rename10", "Trim"},
+      {kNameStructureKey, "Name structure"},
+      {kImgPreviewKey, "Image preview"},
+      {kOptionsKey, "Options"},
+      {kEditManKey, "Edit name"},
+      {kPropertiesKey, "Properties"},
+      {kCancelActionKey, "Cancel"},
+      {kStartRecordKey, "Record script"},
+      {kStopRecordKey, "Stop recording"},
+      {kStartRunKey, "Run script"},
       {kRunSelectedKey, "Run selected script"},
   };
   return tips.value(key, key);
@@ -120,7 +143,8 @@ void MainWindow::BuildMenus() {
   AddMenuAction(*file, kOpenFromListEntry, "Open from &playlist...");
   file->addSeparator();
   QMenu* take = AddSubMenu(*file, kTakeChangesMenu, "&Take changes");
-  AddMenuAction(*take, MenuEntryOf(EntryKey(kTakeChangesKey, 1)), "&Take changes", QKeySequence(Qt::CTRL | Qt::Key_Return));
+  AddMenuAction(*take, MenuEntryOf(EntryKey(kTakeChangesKey, 1)), "&Take changes",
+                QKeySequence(Qt::CTRL | Qt::Key_Return));
   AddMenuAction(*take, MenuEntryOf(EntryKey(kTakeChangesKey, 2)), "Take changes and &copy or move files...");
   AddMenuAction(*file, kRejectChangesEntry, "&Reject changes", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
   AddMenuAction(*file, kHistoryEntry, "Rename &history...");
@@ -202,9 +226,9 @@ void MainWindow::BuildMenus() {
 
 void MainWindow::BuildViewMenu(QMenu& menu) {
   viewGroup_ = new QActionGroup(this);
-  for (const auto& [name, text] : {std::pair{kViewDetailsEntry, "&Details"},
-                                   std::pair{kViewDetailsIconsEntry, "Details with &pictures"},
-                                   std::pair{kViewIconsEntry, "&Pictures"}}) {
+  for (const auto& [name, text] :
+       {std::pair{kViewDetailsEntry, "&Details"}, std::pair{kViewDetailsIconsEntry, "Details with &pictures"},
+        std::pair{kViewIconsEntry, "&Pictures"}}) {
     QAction* action = AddMenuAction(menu, name, text);
     action->setCheckable(true);
     viewGroup_->addAction(action);

@@ -16,7 +16,8 @@ void MainWindow::CollectLayout() {
   const double dpi = logicalDpiX();
   for (int head = 1; head <= shell::kColumnHeadCount; ++head) {
     const int column = head - 1;
-    settings_.columnWidths[column] = details_->isColumnHidden(column) ? 0 : shell::PixelsToTwips(details_->columnWidth(column), dpi);
+    settings_.columnWidths[column] =
+        details_->isColumnHidden(column) ? 0 : shell::PixelsToTwips(details_->columnWidth(column), dpi);
   }
   settings_.previewStyle = view_ == ListView::Details        ? kDetailsStyle
                            : view_ == ListView::DetailsIcons ? kDetailsIconsStyle
@@ -41,7 +42,8 @@ void MainWindow::CollectLayout() {
 void MainWindow::closeEvent(QCloseEvent* event) {
   CollectLayout();
   const shell::CloseDecision decision =
-      shell::RunCloseSequence(settings_, {state_, frontEnd_, &committer_}, options_, SettingsFile(), script_.recording != 0, [this] { EndRecording(); });
+      shell::RunCloseSequence(settings_, {state_, frontEnd_, &committer_}, options_, SettingsFile(),
+                              script_.recording != 0, [this] { EndRecording(); });
   if (decision == shell::CloseDecision::Refuse) {
     event->ignore();
     // A Yes that took the changes has changed rows even when the close stops.

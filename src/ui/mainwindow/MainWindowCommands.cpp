@@ -1,18 +1,19 @@
 // What each key, menu entry and list event of the main window runs.
 #include <QApplication>
-#include <utility>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QListView>
 #include <QMenu>
-#include <QDropEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QScrollBar>
-#include <QUrl>
 #include <QTableView>
 #include <QToolBar>
+#include <QUrl>
+
+#include <utility>
 
 #include "base/NumberText.h"
 #include "commit/TakeChanges.h"
@@ -20,17 +21,17 @@
 #include "core/SortFileList.h"
 #include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"
+#include "shell/WindowPlacement.h"
 #include "ui/common/FrmInfoWindow.h"
 #include "ui/common/LanguageDialog.h"
 #include "ui/common/QtLocalisation.h"
 #include "ui/common/TextConversion.h"
 #include "ui/fileops/FileOperationCommands.h"
-#include "ui/mainwindow/FrmEditManWindow.h"
 #include "ui/mainwindow/FileListModel.h"
-#include "ui/mainwindow/MainWindow.h"
+#include "ui/mainwindow/FrmEditManWindow.h"
 #include "ui/mainwindow/FrmNotRenamedWindow.h"
+#include "ui/mainwindow/MainWindow.h"
 #include "ui/mainwindow/ThumbnailCache.h"
-#include "shell/WindowPlacement.h"
 
 namespace nomra::ui {
 
@@ -55,7 +56,8 @@ void MainWindow::ConnectCommands() {
   connect(applyTo_, &QComboBox::currentIndexChanged, this, [this](int index) {
     if (index >= 0) state_.applyScope = index;
   });
-  connect(details_->horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) { OnHeadClicked(section); });
+  connect(details_->horizontalHeader(), &QHeaderView::sectionClicked, this,
+          [this](int section) { OnHeadClicked(section); });
   connect(details_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           [this](const QItemSelection& selected, const QItemSelection& deselected) {
             for (const QItemSelectionRange& range : deselected) {
@@ -67,11 +69,15 @@ void MainWindow::ConnectCommands() {
             SelectionHandler();
           });
   connect(details_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { SelectionHandler(); });
-  connect(details_, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) { ShowPopup(details_->viewport()->mapToGlobal(at)); });
-  connect(icons_, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) { ShowPopup(icons_->viewport()->mapToGlobal(at)); });
-  connect(listModel_, &FileListModel::rowDropped, this, [this](int dragged, int target) { OnRowDropped(dragged, target); });
+  connect(details_, &QWidget::customContextMenuRequested, this,
+          [this](const QPoint& at) { ShowPopup(details_->viewport()->mapToGlobal(at)); });
+  connect(icons_, &QWidget::customContextMenuRequested, this,
+          [this](const QPoint& at) { ShowPopup(icons_->viewport()->mapToGlobal(at)); });
+  connect(listModel_, &FileListModel::rowDropped, this,
+          [this](int dragged, int target) { OnRowDropped(dragged, target); });
   connect(listModel_, &FileListModel::pathsDropped, this, [this](const QStringList& paths) { AddPaths(paths); });
-  connect(listModel_, &FileListModel::labelEdited, this, [this](int position, const QString& text) { OnLabelEdited(position, text); });
+  connect(listModel_, &FileListModel::labelEdited, this,
+          [this](int position, const QString& text) { OnLabelEdited(position, text); });
   connect(thumbnails_, &ThumbnailCache::picturesLoaded, this, [this] {
     details_->viewport()->update();
     icons_->viewport()->update();
@@ -114,7 +120,8 @@ void MainWindow::mnuExperts() {
   if (options_.expertMode) return;
   const core::Message question{"MsgText33", "msgCapAttention", core::MessageStyle::YesNoWarningDefaultNo, {}};
   const core::Message warning{"MsgText34", "", core::MessageStyle::YesNoWarningDefaultNo, {}};
-  const core::Answer answer = frontEnd_.AskText(question, frontEnd_.TextOf(question) + '\n' + frontEnd_.TextOf(warning));
+  const core::Answer answer =
+      frontEnd_.AskText(question, frontEnd_.TextOf(question) + '\n' + frontEnd_.TextOf(warning));
   if (answer != core::Answer::Yes) return;
   options_.expertMode = true;
   ApplyExpertMode();
@@ -199,10 +206,12 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == icons_->viewport() && event->type() == QEvent::MouseButtonRelease &&
       static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
     // Let the view place the item first, then read the places.
-    QMetaObject::invokeMethod(this, [this] { OnIconLayoutChanged(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { OnIconLayoutChanged(); }, Qt::QueuedConnection);
   }
   if (watched == icons_->viewport() && event->type() == QEvent::Drop) {
-    QMetaObject::invokeMethod(this, [this] { OnIconLayoutChanged(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { OnIconLayoutChanged(); }, Qt::QueuedConnection);
   }
   return QMainWindow::eventFilter(watched, event);
 }

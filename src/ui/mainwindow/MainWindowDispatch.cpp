@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QToolBar>
+
 #include <utility>
 
 #include "core/NameHistory.h"
@@ -72,7 +73,8 @@ void MainWindow::BuildCommandTables() {
   mainTool(kOptionsKey, [this] { mnuOptions(); });
   for (int entry = 1; entry <= kOpenFileEntries; ++entry) dropDownEntry(kOpenFileKey, EntryKey(kOpenFileKey, entry));
   // The submenus mnuDelList and mnuTakeChanges hold the entries of their buttons.
-  for (const auto& [key, entries] : {std::pair{kDelListKey, kDelListEntries}, std::pair{kTakeChangesKey, kTakeChangesEntries}}) {
+  for (const auto& [key, entries] :
+       {std::pair{kDelListKey, kDelListEntries}, std::pair{kTakeChangesKey, kTakeChangesEntries}}) {
     const QString button = key;
     for (int entry = 1; entry <= entries; ++entry) {
       const QString entryKey = EntryKey(key, entry);
@@ -246,7 +248,8 @@ void MainWindow::ConnectMenuEntry(QAction& action) {
 }
 
 void MainWindow::ConnectToolEntry(QAction& action, const QString& bar, const QString& key) {
-  if (HasToolCommand(bar, key)) connect(&action, &QAction::triggered, this, [this, bar, key] { RunToolCommand(bar, key); });
+  if (HasToolCommand(bar, key))
+    connect(&action, &QAction::triggered, this, [this, bar, key] { RunToolCommand(bar, key); });
 }
 
 }  // namespace nomra::ui

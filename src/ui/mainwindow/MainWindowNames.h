@@ -115,7 +115,9 @@ inline constexpr char kIconsStyle[] = "Icons";
 inline constexpr int kDetailFields = 3;
 
 // A drop-down entry's key: the button's key and the entry's number.
-inline QString EntryKey(const char* buttonKey, int number) { return QLatin1String(buttonKey) + QString::number(number); }
+inline QString EntryKey(const char* buttonKey, int number) {
+  return QLatin1String(buttonKey) + QString::number(number);
+}
 
 // The menu entry of a drop-down entry: "mnuDelList3" for "DelList3".
 inline QString MenuEntryOf(const QString& entryKey) { return QLatin1String(kMenuEntryPrefix) + entryKey; }

@@ -3,12 +3,12 @@
 #include <QAction>
 
 #include "base/Fault.h"
-#include "shell/CommandLine.h"
+#include "formats/IniFile.h"
 #include "open/OpenCommand.h"
 #include "open/Playlist.h"
 #include "open/StagedFiles.h"
-#include "formats/IniFile.h"
 #include "settings/SettingsKeys.h"
+#include "shell/CommandLine.h"
 #include "ui/common/DialogTexts.h"
 #include "ui/common/FormNames.h"
 #include "ui/common/RunShowingFault.h"

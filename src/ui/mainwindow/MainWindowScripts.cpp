@@ -33,7 +33,9 @@ ActionWindowServices MainWindow::ActionServices() {
 void MainWindow::OpenAction(int stepType) { OpenActionWindow(stepType, ActionServices()); }
 
 void MainWindow::PlayScriptSteps() {
-  RunShowingFault(frontEnd_, [this] { script::PlayScript(script_, system_.Files(), [this](int stepType) { OpenAction(stepType); }); });
+  RunShowingFault(frontEnd_, [this] {
+    script::PlayScript(script_, system_.Files(), [this](int stepType) { OpenAction(stepType); });
+  });
   RefreshPreview();
 }
 
@@ -63,7 +65,7 @@ void MainWindow::mnuStartRunScript() {
 void MainWindow::RunSelectedScriptButton() {
   RunShowingFault(frontEnd_, [this] {
     shell::PlaySelectedScript(window_, texts_, script_, system_.Files(), ToEngineText(selectedScriptFile_),
-                       [this](int stepType) { OpenAction(stepType); });
+                              [this](int stepType) { OpenAction(stepType); });
   });
   selectedScript_->setText(ToQString(window_.selectedScriptLabel));
   RefreshPreview();

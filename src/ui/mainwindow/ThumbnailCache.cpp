@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QImageReader>
 #include <QPainter>
+
 #include "ui/common/TextConversion.h"
 
 namespace nomra::ui {

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTimer>
+
 #include <string>
 
 namespace nomra::ui {

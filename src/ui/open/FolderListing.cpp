@@ -1,6 +1,7 @@
 #include "ui/open/FolderListing.h"
 
 #include <QFileInfo>
+
 #include <algorithm>
 
 #include "base/CaseMap.h"

@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QIcon>
 #include <QString>
+
 #include <string>
 #include <vector>
 

@@ -1,10 +1,11 @@
 #pragma once
 #include <QDialog>
+
 #include <string>
 #include <vector>
 
-#include "formats/IniFile.h"
 #include "core/FrontEnd.h"
+#include "formats/IniFile.h"
 #include "lang/MessageCatalog.h"
 #include "open/PowerFilters.h"
 #include "platform/FileSystem.h"
@@ -95,18 +96,18 @@ class FrmOpenWindow final : public QDialog {
   bool atLocations_ = false;
   std::string folder_;
 
-  QComboBox* locations_ = nullptr;  // DrvSel
-  QLineEdit* path_ = nullptr;       // txtPfad
-  QListWidget* rows_ = nullptr;     // lstFiles
-  QLineEdit* names_ = nullptr;      // txtFiles
+  QComboBox* locations_ = nullptr;     // DrvSel
+  QLineEdit* path_ = nullptr;          // txtPfad
+  QListWidget* rows_ = nullptr;        // lstFiles
+  QLineEdit* names_ = nullptr;         // txtFiles
   QListWidget* filterList_ = nullptr;  // lstFilters
-  QToolBar* filterBar_ = nullptr;   // BtnBarFilter
-  QAction* addFilter_ = nullptr;    // its buttons Add, EditMan and DelList
+  QToolBar* filterBar_ = nullptr;      // BtnBarFilter
+  QAction* addFilter_ = nullptr;       // its buttons Add, EditMan and DelList
   QAction* editFilter_ = nullptr;
   QAction* deleteFilter_ = nullptr;
-  QToolBar* navigation_ = nullptr;  // BtnBar
-  QCheckBox* allFiles_ = nullptr;   // chkAllFiles
-  QCheckBox* subFolders_ = nullptr; // chkSubFolders
+  QToolBar* navigation_ = nullptr;   // BtnBar
+  QCheckBox* allFiles_ = nullptr;    // chkAllFiles
+  QCheckBox* subFolders_ = nullptr;  // chkSubFolders
 };
 
 }  // namespace nomra::ui

@@ -2,6 +2,7 @@
 #include <QAction>
 #include <QInputDialog>
 #include <QListWidget>
+
 #include <algorithm>
 
 #include "ui/common/TextConversion.h"

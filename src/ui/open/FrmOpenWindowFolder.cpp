@@ -5,10 +5,10 @@
 #include <QLineEdit>
 #include <QListWidget>
 
-#include "core/BusyPointer.h"
 #include "base/Paths.h"
-#include "open/StagedFiles.h"
+#include "core/BusyPointer.h"
 #include "formats/IniFile.h"
+#include "open/StagedFiles.h"
 #include "settings/SettingsKeys.h"
 #include "ui/common/FormNames.h"
 #include "ui/common/TextConversion.h"
@@ -69,7 +69,8 @@ void FrmOpenWindow::FillLocations() {
   const QSignalBlocker quiet(locations_);
   locations_->clear();
   const std::string rootText = services_.catalog.GetText(kOpenDialogName, kRootTextKey);
-  locations_->addItem(icons_.Computer(), rootText.empty() ? QString("Computer") : ToQString(rootText), QByteArray(kRootKey));
+  locations_->addItem(icons_.Computer(), rootText.empty() ? QString("Computer") : ToQString(rootText),
+                      QByteArray(kRootKey));
   for (const Location& place : ListLocations()) {
     const QIcon icon = place.kind == LocationKind::Home ? icons_.Home() : icons_.Drive();
     locations_->addItem(icon, place.text, Bytes(ToEngineText(place.path)));
@@ -108,11 +109,13 @@ void FrmOpenWindow::Add2lstFiles() {
     rows_->clear();
     if (atLocations_) {
       for (const Location& place : ListLocations()) {
-        AddRow(place.kind == LocationKind::Home ? icons_.Home() : icons_.Drive(), place.text, ToEngineText(place.path), true);
+        AddRow(place.kind == LocationKind::Home ? icons_.Home() : icons_.Drive(), place.text, ToEngineText(place.path),
+               true);
       }
     } else {
       const std::string shown = base::AddBackslash(folder_);
-      for (const FolderRow& row : ListFolderRows(services_.fileSystem, folder_, open::CheckedPattern(filters_), showHiddenFiles_)) {
+      for (const FolderRow& row :
+           ListFolderRows(services_.fileSystem, folder_, open::CheckedPattern(filters_), showHiddenFiles_)) {
         const QIcon icon = row.folder ? icons_.ClosedFolder() : icons_.ForFile(ToQString(shown + row.key));
         AddRow(icon, row.text, row.key, row.folder);
       }

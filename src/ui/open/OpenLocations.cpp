@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStorageInfo>
+
 #include <algorithm>
 
 namespace nomra::ui {
@@ -33,7 +34,8 @@ std::vector<Location> ListLocations() {
     if (!volume.isValid() || !volume.isReady() || IsSystemMount(path)) continue;
     // Files mounted onto files (as containers do with /etc/hosts) are no place to open.
     if (!QFileInfo(path).isDir()) continue;
-    const bool known = std::any_of(places.begin(), places.end(), [&](const Location& place) { return place.path == path; });
+    const bool known =
+        std::any_of(places.begin(), places.end(), [&](const Location& place) { return place.path == path; });
     if (known) continue;
     const QString label = volume.name();
     places.push_back({path, label.isEmpty() ? path : path + " [" + label + "]", LocationKind::Volume});

@@ -1,6 +1,7 @@
 #pragma once
 #include <QFileDialog>
 #include <QString>
+
 #include <vector>
 
 #include "lang/MessageCatalog.h"

@@ -1,11 +1,12 @@
 #pragma once
 #include <QDialog>
 #include <QString>
+
 #include <functional>
 #include <memory>
 
-#include "rename/ActionContext.h"
 #include "lang/MessageCatalog.h"
+#include "rename/ActionContext.h"
 #include "rename/ActionDialog.h"
 
 class QPushButton;

@@ -1,8 +1,8 @@
 #include "ui/rename/FrmFileExtensionWindow.h"
 
 #include <QCheckBox>
-#include <QKeyEvent>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QVBoxLayout>

@@ -23,7 +23,8 @@ constexpr int kConversions = 5;
 QGroupBox* AddOptionGroup(QWidget& parent, const char* frameName, const QString& title, const char* name,
                           const QStringList& texts) {
   std::vector<std::pair<QString, QString>> options;
-  for (int index = 1; index <= texts.size(); ++index) options.emplace_back(ControlArrayMember(name, index), texts[index - 1]);
+  for (int index = 1; index <= texts.size(); ++index)
+    options.emplace_back(ControlArrayMember(name, index), texts[index - 1]);
   return NamedOptionGroup(parent, frameName, title, options);
 }
 
@@ -33,20 +34,20 @@ FrmULCaseWindow::FrmULCaseWindow(ActionWindowServices services)
     : ActionDialogWindow(std::make_unique<rename::FrmULCase>(), std::move(services)) {
   setWindowTitle("Upper/lower case");
   auto* row = new QHBoxLayout;
-  row->addWidget(AddOptionGroup(*this, "frameOpt", "Conversion", kConversionOptions,
-                                {"&First letter upper case", "Each &word capitalized", "&UPPER CASE", "&lower case",
-                                 "&Swap case"}));
-  row->addWidget(AddOptionGroup(*this, "frameapply", "Apply to", "opt2",
-                                {"&Name", "E&xtension", "Na&me and extension"}));
+  row->addWidget(AddOptionGroup(
+      *this, "frameOpt", "Conversion", kConversionOptions,
+      {"&First letter upper case", "Each &word capitalized", "&UPPER CASE", "&lower case", "&Swap case"}));
+  row->addWidget(
+      AddOptionGroup(*this, "frameapply", "Apply to", "opt2", {"&Name", "E&xtension", "Na&me and extension"}));
   InputArea().addLayout(row);
   FinishBuilding();
 }
 
 void FrmULCaseWindow::AfterLocalised() {
   for (int index = 1; index <= kConversions; ++index) {
-    const std::string text =
-        Services().catalog.GetText(kLanguageSection, "optOpt" + std::to_string(index));
-    if (!text.empty()) findChild<QRadioButton*>(ControlArrayMember(kConversionOptions, index))->setText(ToQString(text));
+    const std::string text = Services().catalog.GetText(kLanguageSection, "optOpt" + std::to_string(index));
+    if (!text.empty())
+      findChild<QRadioButton*>(ControlArrayMember(kConversionOptions, index))->setText(ToQString(text));
   }
 }
 

@@ -15,9 +15,9 @@
 
 namespace nomra::ui {
 
-FrmScriptWindow::FrmScriptWindow(dialog::ScriptSession& session, platform::FileSystem& fileSystem, core::FrontEnd& frontEnd,
-                     const lang::MessageCatalog& catalog, QWidget* mainWindow,
-                     const QString& appTitle)
+FrmScriptWindow::FrmScriptWindow(dialog::ScriptSession& session, platform::FileSystem& fileSystem,
+                                 core::FrontEnd& frontEnd, const lang::MessageCatalog& catalog, QWidget* mainWindow,
+                                 const QString& appTitle)
     : QDialog(mainWindow), chooser_(session, fileSystem, frontEnd) {
   setObjectName(kScriptDialogName);
   setWindowTitle("Scripts");

@@ -3,8 +3,8 @@
 
 #include "core/FrontEnd.h"
 #include "dialog/ScriptSession.h"
-#include "platform/FileSystem.h"
 #include "lang/MessageCatalog.h"
+#include "platform/FileSystem.h"
 #include "script/FrmScript.h"
 
 class QListWidget;
@@ -17,7 +17,7 @@ class FrmScriptWindow final : public QDialog {
   Q_OBJECT
  public:
   FrmScriptWindow(dialog::ScriptSession& session, platform::FileSystem& fileSystem, core::FrontEnd& frontEnd,
-            const lang::MessageCatalog& catalog, QWidget* mainWindow, const QString& appTitle);
+                  const lang::MessageCatalog& catalog, QWidget* mainWindow, const QString& appTitle);
 
   void cmdStart();
   void cmdCancel();

@@ -154,8 +154,7 @@ void FrmNameStructureWindow::ShowStructureRows() {
   const QSignalBlocker block(structures_);
   structures_->clear();
   for (const structure::StoredStructure& row : stored) {
-    structures_->addTopLevelItem(
-        new QTreeWidgetItem({ToQString(row.name), ToQString(row.structure)}));
+    structures_->addTopLevelItem(new QTreeWidgetItem({ToQString(row.name), ToQString(row.structure)}));
   }
   if (editor_.Chosen() >= 0) structures_->setCurrentItem(structures_->topLevelItem(editor_.Chosen()));
 }

@@ -1,5 +1,6 @@
 #pragma once
 #include <QTreeWidget>
+
 #include <vector>
 
 #include "structure/TagChoices.h"

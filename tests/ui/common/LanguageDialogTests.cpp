@@ -39,12 +39,14 @@ TEST_F(LanguageDialogTest, ListsTheLanguageNamesOfTheFolder) {
 }
 
 TEST_F(LanguageDialogTest, LanguageInUseIsTheOneShownFirst) {
-  LanguageDialog dialog(folder.Path(), Ini(SettingsFile()), lang::MessageCatalog(nomra::testing::RealFiles(), beta), QString());
+  LanguageDialog dialog(folder.Path(), Ini(SettingsFile()), lang::MessageCatalog(nomra::testing::RealFiles(), beta),
+                        QString());
   EXPECT_EQ(dialog.Choices().currentText(), "Beta");
 }
 
 TEST_F(LanguageDialogTest, OkStoresTheChosenLanguage) {
-  LanguageDialog dialog(folder.Path(), Ini(SettingsFile()), lang::MessageCatalog(nomra::testing::RealFiles(), alpha), QString());
+  LanguageDialog dialog(folder.Path(), Ini(SettingsFile()), lang::MessageCatalog(nomra::testing::RealFiles(), alpha),
+                        QString());
   dialog.Choices().setCurrentIndex(dialog.Choices().findText("Beta"));
 
   dialog.findChild<QPushButton*>("cmdOK")->click();
@@ -55,7 +57,8 @@ TEST_F(LanguageDialogTest, OkStoresTheChosenLanguage) {
 }
 
 TEST_F(LanguageDialogTest, CancelStoresNothing) {
-  LanguageDialog dialog(folder.Path(), Ini(SettingsFile()), lang::MessageCatalog(nomra::testing::RealFiles(), alpha), QString());
+  LanguageDialog dialog(folder.Path(), Ini(SettingsFile()), lang::MessageCatalog(nomra::testing::RealFiles(), alpha),
+                        QString());
   dialog.Choices().setCurrentIndex(dialog.Choices().findText("Beta"));
 
   dialog.findChild<QPushButton*>("cmdCancel")->click();
@@ -85,7 +88,8 @@ TEST_F(OptionsTest, LanguageChosenInOptionsPutsItsTextsOnTheWindow) {
 }
 
 TEST_F(OptionsTest, NewLanguageKeepsOneVariantInTheDropDownToolTips) {
-  const std::string alpha = app.WriteFile("Alpha.lng", "[Main]\nlngname=Alpha\n[frmMain]\nBtnBarMainDelList=Alpha tip\n");
+  const std::string alpha =
+      app.WriteFile("Alpha.lng", "[Main]\nlngname=Alpha\n[frmMain]\nBtnBarMainDelList=Alpha tip\n");
   app.WriteFile("Beta.lng", "[Main]\nlngname=Beta\n");
   Open(alpha);
   window->RunDropDownEntry("DelList", "DelList5");

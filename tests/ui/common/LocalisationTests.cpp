@@ -8,8 +8,8 @@
 #include <QPushButton>
 
 #include "lang/MessageCatalog.h"
-#include "support/TempFolder.h"
 #include "support/RealFiles.h"
+#include "support/TempFolder.h"
 #include "ui/common/QtLocalisation.h"
 #include "ui/mainwindow/FileListModel.h"
 #include "ui/support/WindowFixture.h"
@@ -65,7 +65,8 @@ class AdapterTest : public ::testing::Test {
                                               "cmbFilled-2=Zweite\n"
                                               "[Menus]\n"
                                               "mnuEntry=&Eintrag\n");
-    LocaliseWidget(sample.dialog, QString(), lang::MessageCatalog(nomra::testing::RealFiles(), file), lang::CaptionSources{});
+    LocaliseWidget(sample.dialog, QString(), lang::MessageCatalog(nomra::testing::RealFiles(), file),
+                   lang::CaptionSources{});
   }
 
   TempFolder folder;

@@ -7,6 +7,7 @@
 #include <QTableView>
 #include <QTest>
 #include <QUrl>
+
 #include <memory>
 #include <string>
 #include <vector>
@@ -31,11 +32,10 @@ std::vector<char16_t> Units(const QString& text) {
 }
 
 TEST(TextConversionTest, AsciiAndMultiByteUtf8DecodeAsUsualAndComeBackWhole) {
-  const std::vector<std::string> texts = {"",
-                                          "holiday 2024.jpg",
-                                          "Gr\xC3\xB6\xC3\x9F" "e \xE2\x80\x93 10 \xE2\x82\xAC.txt",
-                                          "\xE6\x97\xA5\xE6\x9C\xAC.png",
-                                          "smile \xF0\x9F\x98\x80.txt"};
+  const std::vector<std::string> texts = {"", "holiday 2024.jpg",
+                                          "Gr\xC3\xB6\xC3\x9F"
+                                          "e \xE2\x80\x93 10 \xE2\x82\xAC.txt",
+                                          "\xE6\x97\xA5\xE6\x9C\xAC.png", "smile \xF0\x9F\x98\x80.txt"};
   for (const std::string& text : texts) {
     const QString shown = ToQString(text);
     EXPECT_EQ(shown, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))) << text;
@@ -53,10 +53,19 @@ struct StrayBytes {
 
 TEST(TextConversionTest, EachByteOfNoValidSequenceIsOneLoneSurrogateAndComesBackAsThatByte) {
   const std::vector<StrayBytes> cases = {
-      {"a lone 0xFF", "a\xFF" "b.txt", {'a', 0xDCFF, 'b', '.', 't', 'x', 't'}},
-      {"a sequence cut short", "x\xE2\x82" ".txt", {'x', 0xDCE2, 0xDC82, '.', 't', 'x', 't'}},
+      {"a lone 0xFF",
+       "a\xFF"
+       "b.txt",
+       {'a', 0xDCFF, 'b', '.', 't', 'x', 't'}},
+      {"a sequence cut short",
+       "x\xE2\x82"
+       ".txt",
+       {'x', 0xDCE2, 0xDC82, '.', 't', 'x', 't'}},
       {"a sequence cut short by the end", "y\xF0\x9F\x98", {'y', 0xDCF0, 0xDC9F, 0xDC98}},
-      {"an overlong slash", "a\xC0\xAF" "b", {'a', 0xDCC0, 0xDCAF, 'b'}},
+      {"an overlong slash",
+       "a\xC0\xAF"
+       "b",
+       {'a', 0xDCC0, 0xDCAF, 'b'}},
       {"an overlong slash in three bytes", "\xE0\x80\xAF", {0xDCE0, 0xDC80, 0xDCAF}},
       {"a high surrogate in UTF-8", "\xED\xA0\x80", {0xDCED, 0xDCA0, 0xDC80}},
       // The UTF-8 form of U+DCFF itself must not pass for the stray byte 0xFF.
@@ -81,7 +90,9 @@ TEST(TextConversionTest, LoneSurrogatesThatStandForNoByteBecomeTheReplacementCha
 }
 
 TEST(TextConversionTest, Utf16PositionCountsAStrayByteAsOneCharacter) {
-  const QString text = ToQString("a\xFF\xF0\x9F\x98\x80" "b");
+  const QString text = ToQString(
+      "a\xFF\xF0\x9F\x98\x80"
+      "b");
   ASSERT_EQ(text.size(), 5);
   EXPECT_EQ(Utf16Position(text, 0), 0);
   EXPECT_EQ(Utf16Position(text, 1), 1);

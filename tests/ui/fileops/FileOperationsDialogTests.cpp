@@ -11,19 +11,19 @@
 #include <sys/stat.h>
 
 #include "core/AddFile.h"
+#include "lang/MessageCatalog.h"
 #include "lang/MessageKeys.h"
 #include "platform/Platform.h"
-#include "lang/MessageCatalog.h"
+#include "support/ListFixture.h"
+#include "support/RealFiles.h"
 #include "support/ScopedEnvironment.h"
 #include "support/ScriptedFrontEnd.h"
 #include "support/TempFolder.h"
-#include "support/RealFiles.h"
 #include "ui/common/DialogBinder.h"
 #include "ui/fileops/FileOperationCommands.h"
 #include "ui/fileops/FileOperationProgress.h"
 #include "ui/fileops/FrmSelActionWindow.h"
 #include "ui/fileops/PropertiesDialog.h"
-#include "support/ListFixture.h"
 #include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <QTreeWidget>
+
 #include <set>
 
 #include "core/ExifDateReader.h"
@@ -13,8 +14,8 @@
 #include "lang/MessageCatalog.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "support/ProtocolFiles.h"
-#include "support/TempFolder.h"
 #include "support/RealFiles.h"
+#include "support/TempFolder.h"
 #include "ui/common/QtFrontEnd.h"
 #include "ui/history/FrmHistoryWindow.h"
 #include "ui/support/WindowFixture.h"
@@ -55,7 +56,9 @@ class RenameHistoryDialog : public ::testing::Test {
     return std::make_unique<FrmHistoryWindow>(fileSystem, options.dataFolder, frontEnd, catalog, "Nomra", mainWindow);
   }
   static QTreeWidget& Files(FrmHistoryWindow& dialog) { return *dialog.findChild<QTreeWidget*>("lstFiles"); }
-  static QPushButton& Button(FrmHistoryWindow& dialog, const char* name) { return *dialog.findChild<QPushButton*>(name); }
+  static QPushButton& Button(FrmHistoryWindow& dialog, const char* name) {
+    return *dialog.findChild<QPushButton*>(name);
+  }
   static QStringList Column(FrmHistoryWindow& dialog, int column) {
     QStringList texts;
     QTreeWidget& files = Files(dialog);

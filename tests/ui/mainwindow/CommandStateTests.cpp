@@ -5,8 +5,8 @@
 #include <QMenuBar>
 #include <QTimer>
 
-#include "shell/CommandState.h"
 #include "core/FileEntry.h"
+#include "shell/CommandState.h"
 #include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {

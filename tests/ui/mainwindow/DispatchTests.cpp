@@ -8,6 +8,7 @@
 #include <QTableView>
 #include <QTimer>
 #include <QToolBar>
+
 #include <algorithm>
 #include <sstream>
 
@@ -30,18 +31,40 @@ struct ToolKey {
 // Every button of the three bars and every entry of the main bar's drop-downs.
 const std::vector<ToolKey>& ToolTable() {
   static const std::vector<ToolKey> keys = {
-      {"BtnBarMain", "OpenFile"},      {"BtnBarMain", "OpenFile1"},     {"BtnBarMain", "OpenFile2"},
-      {"BtnBarMain", "DelList"},       {"BtnBarMain", "DelList1"},      {"BtnBarMain", "DelList2"},
-      {"BtnBarMain", "DelList3"},      {"BtnBarMain", "DelList4"},      {"BtnBarMain", "DelList5"},
-      {"BtnBarMain", "TakeChanges"},   {"BtnBarMain", "TakeChanges1"},  {"BtnBarMain", "TakeChanges2"},
-      {"BtnBarMain", "RejectChanges"}, {"BtnBarMain", "Undo"},          {"BtnBarMain", "Rename01"},
-      {"BtnBarMain", "Rename02"},      {"BtnBarMain", "Rename03"},      {"BtnBarMain", "Rename04"},
-      {"BtnBarMain", "Rename05"},      {"BtnBarMain", "Rename06"},      {"BtnBarMain", "Rename07"},
-      {"BtnBarMain", "Rename08"},      {"BtnBarMain", "Rename09"},      {"BtnBarMain", "Rename10"},
-      {"BtnBarMain", "Rename99"},      {"BtnBarMain", "ImgPreview"},    {"BtnBarMain", "Options"},
-      {"btnBarLeft", "EditMan"},       {"btnBarLeft", "DelList"},       {"btnBarLeft", "Properties"},
-      {"btnBarLeft", "CancelAction"},  {"btnbarScript", "StartRecordScript"},
-      {"btnbarScript", "StopRecordScript"}, {"btnbarScript", "StartRunScript"},
+      {"BtnBarMain", "OpenFile"},
+      {"BtnBarMain", "OpenFile1"},
+      {"BtnBarMain", "OpenFile2"},
+      {"BtnBarMain", "DelList"},
+      {"BtnBarMain", "DelList1"},
+      {"BtnBarMain", "DelList2"},
+      {"BtnBarMain", "DelList3"},
+      {"BtnBarMain", "DelList4"},
+      {"BtnBarMain", "DelList5"},
+      {"BtnBarMain", "TakeChanges"},
+      {"BtnBarMain", "TakeChanges1"},
+      {"BtnBarMain", "TakeChanges2"},
+      {"BtnBarMain", "RejectChanges"},
+      {"BtnBarMain", "Undo"},
+      {"BtnBarMain", "Rename01"},
+      {"BtnBarMain", "Rename02"},
+      {"BtnBarMain", "Rename03"},
+      {"BtnBarMain", "Rename04"},
+      {"BtnBarMain", "Rename05"},
+      {"BtnBarMain", "Rename06"},
+      {"BtnBarMain", "Rename07"},
+      {"BtnBarMain", "Rename08"},
+      {"BtnBarMain", "Rename09"},
+      {"BtnBarMain", "Rename10"},
+      {"BtnBarMain", "Rename99"},
+      {"BtnBarMain", "ImgPreview"},
+      {"BtnBarMain", "Options"},
+      {"btnBarLeft", "EditMan"},
+      {"btnBarLeft", "DelList"},
+      {"btnBarLeft", "Properties"},
+      {"btnBarLeft", "CancelAction"},
+      {"btnbarScript", "StartRecordScript"},
+      {"btnbarScript", "StopRecordScript"},
+      {"btnbarScript", "StartRunScript"},
       {"btnbarScript", "RunSelectedScript"},
   };
   return keys;
@@ -59,9 +82,9 @@ const QStringList& MenuTable() {
         "mnuDelList1", "mnuDelList2", "mnuDelList3", "mnuDelList4", "mnuDelList5", "mnuEditMan", "mnuCopyFiles",
         "mnuMoveFiles", "mnuDeleteFiles1", "mnuDeleteFiles2", "mnuCopyName1", "mnuCopyName2", "mnuCopyLink",
         // Rename, special, tools and help.
-        "mnuNewNamesFromFile", "mnuFileAttributes", "mnuFileList", "mnuMP3List", "mnuEXIFList",
-        "mnuFindDuplications", "mnuSyncFolders", "mnuID3Data", "mnuID3Data1", "mnuID3Data2", "mnuUpdate", "mnuInfo",
-        "mnuHelpContent", "mnuExperts",
+        "mnuNewNamesFromFile", "mnuFileAttributes", "mnuFileList", "mnuMP3List", "mnuEXIFList", "mnuFindDuplications",
+        "mnuSyncFolders", "mnuID3Data", "mnuID3Data1", "mnuID3Data2", "mnuUpdate", "mnuInfo", "mnuHelpContent",
+        "mnuExperts",
         // The script entries the script bar runs.
         "mnuStartRecordScript", "mnuStopRecordScript", "mnuStartRunScript", "mnuRunSelectedScript",
         // View.

@@ -50,7 +50,8 @@ TEST_F(DropDownTest, ChosenEntryShowsInTheToolTipAndStaysTheVariant) {
 
   window->RunDropDownEntry("DelList", "DelList5");
 
-  EXPECT_TRUE(MainTool("DelList")->toolTip().endsWith(" [" + variantText + "]")) << MainTool("DelList")->toolTip().toStdString();
+  EXPECT_TRUE(MainTool("DelList")->toolTip().endsWith(" [" + variantText + "]"))
+      << MainTool("DelList")->toolTip().toStdString();
   EXPECT_FALSE(MainTool("DelList")->toolTip().contains('&'));
   EXPECT_EQ(window->ToolVariant("DelList"), "DelList5");
   // A later refresh keeps both.

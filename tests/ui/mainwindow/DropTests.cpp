@@ -3,6 +3,7 @@
 #include <QMimeData>
 #include <QTableView>
 #include <QUrl>
+
 #include <memory>
 
 #include "core/FileEntry.h"

@@ -10,8 +10,8 @@
 
 #include "core/FileEntry.h"
 #include "lang/MessageCatalog.h"
-#include "ui/mainwindow/FrmEditManWindow.h"
 #include "ui/mainwindow/FileListModel.h"
+#include "ui/mainwindow/FrmEditManWindow.h"
 #include "ui/support/WindowFixture.h"
 
 namespace nomra::ui::testing {

@@ -14,7 +14,8 @@ class SortingTest : public WindowTest {
  protected:
   void ClickHead(int section) {
     QHeaderView* header = Details().horizontalHeader();
-    const QPoint centre(header->sectionViewportPosition(section) + header->sectionSize(section) / 2, header->height() / 2);
+    const QPoint centre(header->sectionViewportPosition(section) + header->sectionSize(section) / 2,
+                        header->height() / 2);
     QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, centre);
   }
 

@@ -16,7 +16,8 @@ class StartTest : public WindowTest {};
 
 TEST_F(StartTest, DamagedSettingsAreShownAndTheirDefaultsStand) {
   WriteSettings("[Main]\nCol2=abc\nCol3=2000\nws=x\n");
-  expectedModals << "QMessageBox" << "QMessageBox";
+  expectedModals << "QMessageBox"
+                 << "QMessageBox";
 
   Open();
 

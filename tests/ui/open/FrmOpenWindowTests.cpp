@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QToolBar>
+
 #include <memory>
 
 #include "base/Paths.h"
@@ -34,8 +35,10 @@ class FrmOpenTest : public ::testing::Test {
   std::string SettingsFile() const { return data.Path() + "settings.nrp"; }
 
   // The dialog over the settings written so far, showing the folder.
-  FrmOpenWindow& Show(const std::string& shown, bool allFiles = false, bool subFolders = false, bool showHidden = false) {
-    dialog = std::make_unique<FrmOpenWindow>(FrmOpenWindow::Services{fileSystem, frontEnd, catalog, formats::IniFile(fileSystem, SettingsFile())});
+  FrmOpenWindow& Show(const std::string& shown, bool allFiles = false, bool subFolders = false,
+                      bool showHidden = false) {
+    dialog = std::make_unique<FrmOpenWindow>(
+        FrmOpenWindow::Services{fileSystem, frontEnd, catalog, formats::IniFile(fileSystem, SettingsFile())});
     dialog->Prepare(allFiles, subFolders, showHidden, shown);
     dialog->show();
     return *dialog;
@@ -256,7 +259,8 @@ TEST_F(FrmOpenTest, LocationsListFirstTheComputerThenThePlacesThenEachLevelOfThe
   emit locations.activated(0);
   EXPECT_TRUE(dialog->AtLocations());
   EXPECT_TRUE(Control<QLineEdit>("txtPfad").text().isEmpty());
-  for (int row = 0; row < Rows().count(); ++row) EXPECT_TRUE(Rows().item(row)->data(FrmOpenWindow::kFolderRole).toBool());
+  for (int row = 0; row < Rows().count(); ++row)
+    EXPECT_TRUE(Rows().item(row)->data(FrmOpenWindow::kFolderRole).toBool());
 }
 
 TEST_F(FrmOpenTest, AddedFilterLosesTheForbiddenCharactersAndIsChecked) {

@@ -162,7 +162,8 @@ TEST_F(OpenCommandTest, SecondVariantShowsNomrasDialogAndLoadsASelectedFolderWit
 
 TEST_F(OpenCommandTest, NomrasDialogStartsWithTheStoredBoxesAndHandsItsOwnBack) {
   files.WriteFile("a.txt");
-  WriteSettings("[Settings]\r\nlastpath=" + files.Path() + "\r\n[FrmOpen]\r\nDialogueStyle=2\r\nchkAll=1\r\nchkSub=1\r\n");
+  WriteSettings("[Settings]\r\nlastpath=" + files.Path() +
+                "\r\n[FrmOpen]\r\nDialogueStyle=2\r\nchkAll=1\r\nchkSub=1\r\n");
   Open();
   bool allFiles = false;
   bool subFolders = false;

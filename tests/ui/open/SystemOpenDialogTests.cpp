@@ -6,12 +6,13 @@
 #include <QListView>
 #include <QPushButton>
 #include <QTest>
+
 #include <memory>
 
 #include "lang/MessageCatalog.h"
 #include "open/FilterList.h"
-#include "support/TempFolder.h"
 #include "support/RealFiles.h"
+#include "support/TempFolder.h"
 #include "ui/open/SystemOpenDialog.h"
 #include "ui/support/WindowFixture.h"
 

@@ -44,7 +44,8 @@ TEST_F(ActionDialogTest, EveryInputOfPrefixAndSuffixHasItsWidget) {
 
 TEST_F(ActionDialogTest, EveryInputOfTheScriptDialogHasItsWidget) {
   Open();
-  FrmScriptWindow dialog(window->Script(), system->Files(), window->FrontEnd(), window->Catalog(), window.get(), "Nomra");
+  FrmScriptWindow dialog(window->Script(), system->Files(), window->FrontEnd(), window->Catalog(), window.get(),
+                         "Nomra");
   script::FrmScript chooser(window->Script(), system->Files(), window->FrontEnd());
   EXPECT_EQ(InputsWithoutWidget(chooser.Model(), dialog), QStringList());
 }
@@ -145,8 +146,8 @@ TEST_F(ActionDialogTest, TextBoxSelectsAllItsTextOnFocus) {
 TEST_F(ActionDialogTest, EveryInputOfCaseAndExtensionHasItsWidget) {
   Open();
   for (int stepType : {3, 4}) {
-    const auto dialog = CreateActionWindow(stepType, ActionWindowServices{window->Actions(), window->Catalog(),
-                                                                          window.get(), "Nomra", [] {}});
+    const auto dialog = CreateActionWindow(
+        stepType, ActionWindowServices{window->Actions(), window->Catalog(), window.get(), "Nomra", [] {}});
     ASSERT_NE(dialog, nullptr) << stepType;
     EXPECT_EQ(InputsWithoutWidget(dialog->Action().Model(), *dialog), QStringList()) << stepType;
   }
@@ -192,8 +193,8 @@ TEST_F(ActionDialogTest, RemovingTheExtensionDisablesItsInputs) {
 TEST_F(ActionDialogTest, ExtensionFieldRefusesDotsAndShowsTheCleanedText) {
   Open();
   AddFiles({"a.doc"});
-  const auto dialog = CreateActionWindow(
-      3, ActionWindowServices{window->Actions(), window->Catalog(), window.get(), "Nomra", [this] { window->RefreshPreview(); }});
+  const auto dialog = CreateActionWindow(3, ActionWindowServices{window->Actions(), window->Catalog(), window.get(),
+                                                                 "Nomra", [this] { window->RefreshPreview(); }});
   auto* extension = dialog->findChild<QLineEdit*>("txtFE");
   QTest::keyClicks(extension, ".t/x.t");
   EXPECT_EQ(extension->text(), "txt");

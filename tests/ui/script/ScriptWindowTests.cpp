@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+
 #include <filesystem>
 
 #include "support/RealFiles.h"
@@ -100,7 +101,8 @@ TEST_F(ScriptWindowTest, SingleStepsShowTheRunCaptionAndWaitForTheUser) {
   data.WriteFile("Script/20261115023303.nrs", PrefixScript("Holiday", "x_"));
   Open();
   AddFiles({"a.jpg"});
-  expectedModals << "frmScript" << "frmPrefixSuffix";
+  expectedModals << "frmScript"
+                 << "frmPrefixSuffix";
   QString caption;
   QString focused;
   QString shownPrefix;
@@ -130,7 +132,9 @@ TEST_F(ScriptWindowTest, CancellingEverySingleStepLeavesTheListUnchanged) {
                  "[Main]\r\nSteps=2\r\nName=Two\r\n[1]\r\nType=5\r\ntxtPr=a_\r\n[2]\r\nType=5\r\ntxtSu=_b\r\n");
   Open();
   AddFiles({"a.jpg"});
-  expectedModals << "frmScript" << "frmPrefixSuffix" << "frmPrefixSuffix";
+  expectedModals << "frmScript"
+                 << "frmPrefixSuffix"
+                 << "frmPrefixSuffix";
   modals.SetHandler([&](QWidget& modal) {
     if (modal.objectName() == "frmScript") {
       ChooseInScriptDialog(modal, "Two [2026-11-15, 02:33:03]", "optRunSingleSteps");
@@ -211,7 +215,8 @@ TEST_F(ScriptWindowTest, DeletingAScriptAskedNoKeepsItAndYesRemovesIt) {
 TEST_F(ScriptWindowTest, RecordingSwitchesTheRecordButtonsAndStoresANamedScript) {
   Open();
   AddFiles({"a.txt"});
-  window->FrontEnd().SetInputAnswerer([](const core::Message&, const std::string&) { return std::string("My script"); });
+  window->FrontEnd().SetInputAnswerer(
+      [](const core::Message&, const std::string&) { return std::string("My script"); });
 
   window->RunMenuCommand("mnuStartRecordScript");
   EXPECT_FALSE(ScriptTool("StartRecordScript")->isEnabled());
@@ -278,7 +283,8 @@ TEST_F(ScriptWindowTest, ScriptRecordedHereGivesTheSameNamesInTheCommandLine) {
   const std::vector<std::string> paths = AddFiles({"a.txt", "b", "c.tar.gz"});
   window->FrontEnd().SetInputAnswerer([](const core::Message&, const std::string&) { return std::string("Both"); });
   window->RunMenuCommand("mnuStartRecordScript");
-  expectedModals << "frmPrefixSuffix" << "frmPrefixSuffix";
+  expectedModals << "frmPrefixSuffix"
+                 << "frmPrefixSuffix";
   int opened = 0;
   modals.SetHandler([&](QWidget& modal) {
     ++opened;

@@ -175,9 +175,8 @@ TEST_F(NameStructureDialogTest, BadSyntaxIsToldAndItsCharacterSelected) {
   ASSERT_EQ(asked.size(), 1u);
   EXPECT_EQ(asked.front().message.textKey, "msgErrorStructure1");
   EXPECT_EQ(asked.front().caption, LanguageText("Messages", "msgCapErrorStructure"));
-  EXPECT_EQ(asked.front().text,
-            LanguageText("Messages", "msgErrorStructure1",
-                         {"7", LanguageText("Messages", "msgCheckInput").toStdString()}));
+  EXPECT_EQ(asked.front().text, LanguageText("Messages", "msgErrorStructure1",
+                                             {"7", LanguageText("Messages", "msgCheckInput").toStdString()}));
   EXPECT_EQ(asked.front().message.style, core::MessageStyle::OkWarning);
   EXPECT_EQ(Edit(*dialog, "txtStructure").selectedText(), ">");
   EXPECT_EQ(Edit(*dialog, "txtStructure").selectionStart(), 6);

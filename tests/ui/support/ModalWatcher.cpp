@@ -23,7 +23,8 @@ void ModalWatcher::Look() {
   // had gone and wait for ever.
   if (QThread::currentThread()->loopLevel() <= baseLoopLevel_) return;
   handled_ = modal;
-  seen_ << (modal->objectName().isEmpty() ? QString::fromLatin1(modal->metaObject()->className()) : modal->objectName());
+  seen_ << (modal->objectName().isEmpty() ? QString::fromLatin1(modal->metaObject()->className())
+                                          : modal->objectName());
   if (auto* box = qobject_cast<QMessageBox*>(modal)) messageTexts_ << box->text();
   if (handler_) {
     handler_(*modal);

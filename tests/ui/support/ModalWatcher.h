@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QStringList>
 #include <QTimer>
+
 #include <functional>
 
 class QWidget;

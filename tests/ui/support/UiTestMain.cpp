@@ -1,8 +1,7 @@
 // The window tests run on Qt's offscreen platform, so they need no display;
 // the platform is chosen before the application object reads it.
-#include <gtest/gtest.h>
-
 #include <QApplication>
+#include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -17,9 +17,7 @@ std::string GermanFile() { return std::string(NOMRA_LANG_DIR) + "/Deutsch.lng"; 
 
 bool WaitFor(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 2000); }
 
-void WindowTest::TearDown() {
-  EXPECT_EQ(modals.Seen(), expectedModals) << "modal dialogs opened";
-}
+void WindowTest::TearDown() { EXPECT_EQ(modals.Seen(), expectedModals) << "modal dialogs opened"; }
 
 MainWindow& WindowTest::Open(const std::string& languageFile) {
   shell::StartupPaths paths;
@@ -89,7 +87,8 @@ QString WindowTest::Label(const QString& objectName) const {
   return label == nullptr ? QStringLiteral("<no label %1>").arg(objectName) : label->text();
 }
 
-QString WindowTest::LanguageText(const char* section, const char* key, const std::vector<std::string>& arguments) const {
+QString WindowTest::LanguageText(const char* section, const char* key,
+                                 const std::vector<std::string>& arguments) const {
   return QString::fromStdString(window->Catalog().GetText(section, key, arguments));
 }
 

@@ -1,9 +1,9 @@
 #pragma once
-#include <gtest/gtest.h>
-
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <gtest/gtest.h>
+
 #include <deque>
 #include <memory>
 #include <ostream>

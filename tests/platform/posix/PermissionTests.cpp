@@ -22,10 +22,10 @@ constexpr const char* kNoUserToBecome = "root may not become the nobody user her
 
 // The answer of the work: 0 when every step went as expected, else the
 // number of the first step that did not.
-#define EXPECT_STEPS_HELD(answer)                         \
-  do {                                                    \
-    const std::optional<int> steps = (answer);            \
-    if (!steps) GTEST_SKIP() << kNoUserToBecome;           \
+#define EXPECT_STEPS_HELD(answer)                           \
+  do {                                                      \
+    const std::optional<int> steps = (answer);              \
+    if (!steps) GTEST_SKIP() << kNoUserToBecome;            \
     EXPECT_EQ(*steps, 0) << "step " << *steps << " failed"; \
   } while (false)
 

@@ -1,7 +1,6 @@
-#include "base/NameSplit.h"
-
 #include <gtest/gtest.h>
 
+#include "base/NameSplit.h"
 #include "rename/actions/FrmPrefixSuffix.h"
 
 namespace nomra::rename {

@@ -7,8 +7,8 @@
 #include "rename/ActionFixture.h"
 #include "rename/ActionFrame.h"
 #include "rename/actions/BuiltInActions.h"
-#include "rename/actions/FrmULCase.h"
 #include "rename/actions/FrmFileExtension.h"
+#include "rename/actions/FrmULCase.h"
 #include "script/ScriptPlayback.h"
 #include "support/RealFiles.h"
 

@@ -3,14 +3,12 @@
 // check the answers of a case-sensitive volume and the same-inode rule; the
 // answers of a FUSE volume that ignores case are checked on a FAT volume
 // with the commit tests.
-#include "platform/posix/CaseLookup.h"
-
-#include <unistd.h>
-
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <string>
 
+#include "platform/posix/CaseLookup.h"
 #include "support/TempFolder.h"
 
 namespace nomra::platform {

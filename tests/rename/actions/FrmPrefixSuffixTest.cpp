@@ -1,11 +1,10 @@
-#include "rename/actions/FrmPrefixSuffix.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
 
-#include "rename/ActionFixture.h"
 #include "base/FileNames.h"
+#include "rename/ActionFixture.h"
+#include "rename/actions/FrmPrefixSuffix.h"
 
 namespace nomra::rename {
 namespace {
@@ -82,8 +81,10 @@ TEST_F(PrefixSuffixTest, KeepsItsInputsUnderTheirNamesAndUsesTheOddSharedSection
 }
 
 TEST(PrefixSuffixKeysTest, NameFieldsSwallowTheNineForbiddenCharacters) {
-  for (char32_t c : std::u32string(U"\\/:?*<>|\"")) EXPECT_TRUE(base::IsForbiddenNameCharacter(c)) << static_cast<int>(c);
-  for (char32_t c : std::u32string(U".aZ0 _-äß€ÿ")) EXPECT_FALSE(base::IsForbiddenNameCharacter(c)) << static_cast<int>(c);
+  for (char32_t c : std::u32string(U"\\/:?*<>|\""))
+    EXPECT_TRUE(base::IsForbiddenNameCharacter(c)) << static_cast<int>(c);
+  for (char32_t c : std::u32string(U".aZ0 _-äß€ÿ"))
+    EXPECT_FALSE(base::IsForbiddenNameCharacter(c)) << static_cast<int>(c);
 }
 
 TEST(PrefixSuffixLabelsTest, LabelsComeFromTheCaptionAroundItsSlash) {

@@ -1,9 +1,5 @@
-#include "platform/posix/PosixDataLocations.h"
-#include "platform/posix/PosixFileSystem.h"
-
-#include <sys/stat.h>
-
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <cerrno>
 #include <cstdlib>
@@ -11,6 +7,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/posix/PosixDataLocations.h"
+#include "platform/posix/PosixFileSystem.h"
 #include "support/TempFolder.h"
 
 namespace nomra::platform {

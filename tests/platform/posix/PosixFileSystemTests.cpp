@@ -1,11 +1,8 @@
-#include "platform/posix/PosixFileSystem.h"
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/vfs.h>
 #include <unistd.h>
-
-#include <gtest/gtest.h>
 
 #include <cerrno>
 #include <filesystem>
@@ -16,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/posix/PosixFileSystem.h"
 #include "support/TempFolder.h"
 
 namespace nomra::platform {
@@ -33,8 +31,7 @@ bool OnCaseInsensitiveFileSystemType(const std::string& folder) {
   struct statfs fs {};
   if (statfs(folder.c_str(), &fs) != 0) return false;
   const long type = static_cast<long>(fs.f_type);
-  return type == kMsdosMagic || type == kExfatMagic || type == kCifsMagic || type == kSmb2Magic ||
-         type == kSmbMagic;
+  return type == kMsdosMagic || type == kExfatMagic || type == kCifsMagic || type == kSmb2Magic || type == kSmbMagic;
 }
 
 void SetModified(const std::string& path, std::time_t when) {
@@ -42,8 +39,7 @@ void SetModified(const std::string& path, std::time_t when) {
   ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), times, 0), 0) << path;
 }
 
-std::map<std::string, std::vector<EntryKind>> ListAll(PosixFileSystem& fs, const std::string& folder,
-                                                      bool* ok) {
+std::map<std::string, std::vector<EntryKind>> ListAll(PosixFileSystem& fs, const std::string& folder, bool* ok) {
   std::map<std::string, std::vector<EntryKind>> seen;
   *ok = fs.ListFolder(folder, [&](std::string_view name, EntryKind kind) { seen[std::string(name)].push_back(kind); });
   return seen;
@@ -209,14 +205,10 @@ TEST(PlatformFileSystem, ListFolderVisitsEveryEntryOnceWithItsKind) {
   const auto seen = ListAll(fs, temp.Path(), &ok);
   EXPECT_TRUE(ok);
   const std::map<std::string, std::vector<EntryKind>> expected = {
-      {"a.txt", {EntryKind::File}},
-      {".hidden", {EntryKind::File}},
-      {"sub", {EntryKind::Folder}},
-      {".hidden-folder", {EntryKind::Folder}},
-      {"sub-link", {EntryKind::FolderLink}},
-      {"file-link", {EntryKind::File}},
-      {"dangling", {EntryKind::Other}},
-      {"pipe", {EntryKind::Other}},
+      {"a.txt", {EntryKind::File}},          {".hidden", {EntryKind::File}},
+      {"sub", {EntryKind::Folder}},          {".hidden-folder", {EntryKind::Folder}},
+      {"sub-link", {EntryKind::FolderLink}}, {"file-link", {EntryKind::File}},
+      {"dangling", {EntryKind::Other}},      {"pipe", {EntryKind::Other}},
   };
   EXPECT_EQ(seen, expected);
 }
@@ -365,4 +357,3 @@ TEST(PlatformFileSystem, PathHoldingANulNamesNothing) {
 
 }  // namespace
 }  // namespace nomra::platform
-
