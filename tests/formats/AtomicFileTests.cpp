@@ -14,11 +14,11 @@ namespace nomra::formats {
 namespace {
 
 using nomra::testing::Exists;
+using nomra::testing::FolderOnSecondVolume;
+using nomra::testing::kNoSecondVolume;
 using nomra::testing::PermissionBits;
 using nomra::testing::ReadWholeFile;
 using nomra::testing::RealFiles;
-using nomra::testing::FolderOnSecondVolume;
-using nomra::testing::kNoSecondVolume;
 using nomra::testing::TempFolder;
 
 TEST(FormatsAtomicFile, ReplacesTheContentAndLeavesOnlyTheFile) {
