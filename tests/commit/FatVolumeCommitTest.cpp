@@ -161,7 +161,7 @@ TEST_F(FatVolumeCommit, RandomBatchesKeepEveryFileAndTheListMatchesTheDisk) {
   RecordProperty("seed", std::to_string(seed));
   BatchGenerator generator(seed, false);
   const BatchVolume fat{volume.Path(), data.Path(), CaseMode::Sensitive, true};
-  for (int number = 0; number < kBatches; ++number) {
+  for (int number = 0; number < BatchCount(kBatches); ++number) {
     const BatchPlan plan = generator.Next();
     SCOPED_TRACE("seed " + std::to_string(seed) + ", batch " + std::to_string(number) + ":\n" + plan.Describe());
     RunBatch(fat, generator, plan, number);

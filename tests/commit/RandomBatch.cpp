@@ -59,11 +59,26 @@ bool Reported(const commit::CommitResult& result, const std::string& path) {
 
 }  // namespace
 
+namespace {
+
+constexpr std::uint64_t kFixedSeed = 20261125;
+constexpr int kSoakFactor = 10;
+
+bool Soaking() {
+  const char* soak = std::getenv("NOMRA_RANDOM_SOAK");
+  return soak != nullptr && std::string(soak) == "1";
+}
+
+}  // namespace
+
 std::uint64_t ChooseSeed() {
   if (const char* fixed = std::getenv("NOMRA_COMMIT_SEED")) return std::strtoull(fixed, nullptr, 10);
+  if (!Soaking()) return kFixedSeed;
   std::random_device device;
   return (static_cast<std::uint64_t>(device()) << 32) ^ device();
 }
+
+int BatchCount(int usual) { return Soaking() ? usual * kSoakFactor : usual; }
 
 std::string BatchPlan::Describe() const {
   std::ostringstream out;

@@ -13,8 +13,12 @@
 
 namespace nomra::testing {
 
-// NOMRA_COMMIT_SEED repeats a run; otherwise each run tries new batches.
+// The default run throws the same batches every time, so a failure there
+// is the change's and not the dice's. NOMRA_COMMIT_SEED repeats any run;
+// the soak (NOMRA_RANDOM_SOAK=1, the build target `soak`) draws a new seed
+// each time and throws ten times as many batches.
 std::uint64_t ChooseSeed();
+int BatchCount(int usual);
 
 struct BatchPlan {
   std::vector<std::string> names;  // of the rows, in list order

@@ -30,7 +30,7 @@ TEST_P(RandomCommit, BatchesKeepEveryFileAndTheListMatchesTheDisk) {
   RecordProperty("seed", std::to_string(seed));
   BatchGenerator generator(seed, GetParam() == CaseMode::Sensitive);
   const BatchVolume volume{files.Path(), data.Path(), GetParam(), false};
-  for (int number = 0; number < kBatches; ++number) {
+  for (int number = 0; number < BatchCount(kBatches); ++number) {
     const BatchPlan plan = generator.Next();
     SCOPED_TRACE("seed " + std::to_string(seed) + ", batch " + std::to_string(number) + ":\n" + plan.Describe());
     RunBatch(volume, generator, plan, number);

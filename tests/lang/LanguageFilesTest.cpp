@@ -25,6 +25,13 @@
 namespace nomra::lang {
 namespace {
 
+// "%10" and up: a marker with two digits, which the message formatting reads
+// as marker one followed by a digit.
+bool TwoDigitMarkerAt(const std::string& value, std::size_t i) {
+  return value[i] == '%' && std::isdigit(static_cast<unsigned char>(value[i + 1])) &&
+         std::isdigit(static_cast<unsigned char>(value[i + 2]));
+}
+
 using nomra::testing::TempFolder;
 
 const std::string kLanguageFolder = NOMRA_LANG_DIR;
@@ -462,9 +469,7 @@ TEST(LanguageFiles, NeverNumberAPlaceholderFrom10On) {
     for (const auto& s : file.sections)
       for (const auto& e : s.entries)
         for (std::size_t i = 0; i + 2 < e.value.size(); ++i)
-          EXPECT_FALSE(e.value[i] == '%' && std::isdigit(static_cast<unsigned char>(e.value[i + 1])) &&
-                       std::isdigit(static_cast<unsigned char>(e.value[i + 2])))
-              << "[" << s.name << "] " << e.key;
+          EXPECT_FALSE(TwoDigitMarkerAt(e.value, i)) << "[" << s.name << "] " << e.key << " at " << i;
   }
 }
 

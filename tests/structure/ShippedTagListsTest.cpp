@@ -37,7 +37,8 @@ TEST_F(ShippedTagListsTest, EveryListOffersLabelledTags) {
       EXPECT_FALSE(choices.empty()) << file << " " << list;
       for (const TagChoice& choice : choices) {
         EXPECT_NE(choice.label, choice.tag) << file << " " << list;
-        EXPECT_TRUE(choice.tag.starts_with("<") && choice.tag.ends_with(">")) << file << " " << choice.tag;
+        EXPECT_TRUE(choice.tag.starts_with("<")) << file << " " << choice.tag;
+        EXPECT_TRUE(choice.tag.ends_with(">")) << file << " " << choice.tag;
       }
     }
   }

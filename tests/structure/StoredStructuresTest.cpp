@@ -85,7 +85,8 @@ TEST_F(StoredStructuresTest, RandomBytesLoadAsTextOfOneLineEach) {
     }
     for (const StoredStructure& stored : LoadFrom(content)) {
       ++loaded;
-      EXPECT_TRUE(base::IsValidUtf8(stored.name) && base::IsValidUtf8(stored.structure)) << "round " << round;
+      EXPECT_TRUE(base::IsValidUtf8(stored.name)) << "round " << round << ": the name";
+      EXPECT_TRUE(base::IsValidUtf8(stored.structure)) << "round " << round << ": the structure";
       EXPECT_EQ((stored.name + stored.structure).find('\n'), std::string::npos) << "round " << round;
     }
   }
