@@ -27,11 +27,11 @@ bool IsThere(platform::FileSystem& fileSystem, const std::string& path) {
 
 // Moves a file the journal put under a temporary name; nothing when the
 // move worked, else the reason.
-std::optional<std::string> MoveBack(platform::FileSystem& fileSystem, const std::string& temporary,
-                                    const std::string& to) {
+std::optional<base::Failure> MoveBack(platform::FileSystem& fileSystem, const std::string& temporary,
+                                      const std::string& to) {
   const platform::RenameResult renamed = fileSystem.RenameNoReplace(temporary, to);
   if (renamed.ok) return std::nullopt;
-  return base::SystemErrorText(renamed.error);
+  return base::SystemFailure(renamed.error, temporary, to);
 }
 
 // A "T" record: the file may have gone from its source to the temporary
@@ -61,7 +61,7 @@ void FinishTemporary(platform::FileSystem& fileSystem, const JournalTemporaryEnt
   }
   if (!IsThere(fileSystem, entry.final)) {
     if (const auto failure = MoveBack(fileSystem, entry.temporary, entry.final)) {
-      commit.unresolved.push_back(names + ": " + *failure);
+      commit.unresolved.push_back(names + ": " + failure->systemText);
     } else {
       commit.finished.push_back(names);
     }
@@ -74,7 +74,7 @@ void FinishTemporary(platform::FileSystem& fileSystem, const JournalTemporaryEnt
     return;
   }
   if (const auto failure = MoveBack(fileSystem, entry.temporary, entry.source)) {
-    commit.unresolved.push_back(back + ": " + *failure);
+    commit.unresolved.push_back(back + ": " + failure->systemText);
   } else {
     commit.finished.push_back(back + " (back to its old name: the final name is taken)");
   }
