@@ -6,6 +6,9 @@
 
 #include "commit/RenameFailure.h"
 #include "commit/ReportRow.h"
+#include "commit/ReportRowText.h"
+#include "support/RealFiles.h"
+#include "support/TempFolder.h"
 
 namespace nomra::commit {
 namespace {
@@ -69,6 +72,30 @@ TEST(ReportRowDescribe, RowWithoutNamesNamesItsKeyOrTheProtocol) {
   EXPECT_EQ(Row("MsgText06", {"\"\"", "\"\""}, "No such file or directory", "/d/a").Describe(),
             "\"/d/a\": No such file or directory");
   EXPECT_EQ(Row("MsgText11", {"\"\"", "\"\""}).Describe(), "the rename protocol: access denied or path not found");
+}
+
+// A language file of one message with two markers.
+lang::MessageCatalog CatalogWith(const nomra::testing::TempFolder& temp, const std::string& line) {
+  return lang::MessageCatalog(nomra::testing::RealFiles(), temp.WriteFile("de.lng", "[Messages]\r\n" + line + "\r\n"));
+}
+
+TEST(ReportRowText, TellsTheMessageOfTheKeyWithItsArguments) {
+  nomra::testing::TempFolder temp;
+  const lang::MessageCatalog catalog = CatalogWith(temp, "MsgText05=%1 -> %2: Ziel vorhanden");
+  EXPECT_EQ(ReportRowText(Row("MsgText05", {"\"a\"", "\"b\""}), catalog), "\"a\" -> \"b\": Ziel vorhanden");
+}
+
+TEST(ReportRowText, PutsTheSystemsWordsAfterAndWhatItIsAboutBefore) {
+  nomra::testing::TempFolder temp;
+  const lang::MessageCatalog catalog = CatalogWith(temp, "MsgText11=%1 %2 Fehler");
+  ReportRow row = Row("MsgText11", {"x", "y"}, "Input/output error");
+  row.about = "the commit journal";
+  EXPECT_EQ(ReportRowText(row, catalog), "the commit journal: x y Fehler   Input/output error");
+}
+
+TEST(ReportRowText, WithoutATextForTheKeyTheRowDescribesItself) {
+  const ReportRow row = Row("MsgText05", {"\"a.txt\"", "\"b.txt\""});
+  EXPECT_EQ(ReportRowText(row, lang::MessageCatalog()), row.Describe());
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "commit/ReportRowText.h"
 #include "history/LoadHistory.h"
 #include "ui/common/DialogButtons.h"
 #include "ui/common/DialogTexts.h"
@@ -16,7 +17,6 @@
 #include "ui/common/QtLocalisation.h"
 #include "ui/common/RunShowingFault.h"
 #include "ui/common/TextConversion.h"
-#include "ui/mainwindow/FrmNotRenamedWindow.h"
 
 namespace nomra::ui {
 
@@ -53,7 +53,7 @@ FrmHistoryWindow::FrmHistoryWindow(platform::FileSystem& fileSystem, const std::
     : QDialog(mainWindow), frontEnd_(frontEnd), services_{fileSystem, frontEnd, dataFolder, nullptr} {
   // A failed rename shows its message with the system's own words.
   services_.showFailure = [this, &catalog](const commit::ReportRow& failure) {
-    frontEnd_.AskText(history::FailureMessage(failure), ReportRowText(failure, catalog));
+    frontEnd_.AskText(history::FailureMessage(failure), ToQString(commit::ReportRowText(failure, catalog)));
   };
   setObjectName("frmHistory");
   setWindowTitle("Rename history");

@@ -9,6 +9,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "commit/ReportRowText.h"
 #include "dialog/DialogState.h"
 #include "lang/LanguageKeys.h"
 #include "ui/common/DialogBinder.h"
@@ -31,14 +32,6 @@ constexpr char kChoiceGroup[] = "choice";
 
 }  // namespace
 
-QString ReportRowText(const commit::ReportRow& row, const lang::MessageCatalog& catalog) {
-  std::string text = catalog.GetText(lang::kMessagesSection, row.textKey, row.arguments);
-  if (text.empty()) return ToQString(row.Describe());
-  if (!row.systemText.empty()) text += "   " + row.systemText;
-  if (!row.about.empty()) text = row.about + ": " + text;
-  return ToQString(text);
-}
-
 FrmNotRenamedWindow::FrmNotRenamedWindow(const commit::CommitResult& result, const lang::MessageCatalog& catalog,
                                          QWidget* parent)
     : QDialog(parent) {
@@ -55,7 +48,7 @@ FrmNotRenamedWindow::FrmNotRenamedWindow(const commit::CommitResult& result, con
   for (const commit::ReportRow& row : result.notRenamed) {
     auto* item = new QTreeWidgetItem(notRenamed);
     item->setText(0, QString::number(row.number));
-    item->setText(1, ReportRowText(row, catalog));
+    item->setText(1, ToQString(commit::ReportRowText(row, catalog)));
     item->setToolTip(1, item->text(1));
     item->setData(0, Qt::UserRole, ToQString(row.rowKey));
   }

@@ -12,10 +12,6 @@ class QRadioButton;
 
 namespace nomra::ui {
 
-// The report row's message in the user's language; without a text, a plain
-// English rendering.
-QString ReportRowText(const commit::ReportRow& row, const lang::MessageCatalog& catalog);
-
 // frmNotRenamed: the renames that didn't happen, and what to do with the
 // rows that did: leave them in the list, or take them out.
 class FrmNotRenamedWindow final : public QDialog {
