@@ -9,7 +9,7 @@
 #include "lang/MessageCatalog.h"
 #include "open/PowerFilters.h"
 #include "platform/FileSystem.h"
-#include "ui/open/FolderListing.h"
+#include "ui/open/FileTypeIcons.h"
 
 class QAction;
 class QCheckBox;

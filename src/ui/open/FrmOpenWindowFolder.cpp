@@ -8,6 +8,7 @@
 #include "base/Paths.h"
 #include "core/BusyPointer.h"
 #include "formats/IniFile.h"
+#include "open/FolderRows.h"
 #include "open/StagedFiles.h"
 #include "settings/SettingsKeys.h"
 #include "ui/common/FormNames.h"
@@ -31,26 +32,10 @@ std::string FromBytes(const QVariant& value) {
   return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
 }
 
-// Without a separator at the end, except for the root itself.
-std::string Trimmed(std::string path) {
-  while (path.size() > 1 && path.back() == base::kPathSeparator) path.pop_back();
-  return path;
-}
-
-// The folder above; above the root come the locations, "".
-std::string ParentOf(const std::string& path) {
-  if (path == "/") return {};
-  return Trimmed(base::FolderOf(path));
-}
-
 }  // namespace
 
 void FrmOpenWindow::setPath(const std::string& path) {
-  std::string folder = path.empty() ? std::string() : Trimmed(services_.fileSystem.AbsolutePath(path));
-  // A folder that is gone gives way to the nearest one above it.
-  while (!folder.empty() && services_.fileSystem.Status(folder).kind != platform::EntryKind::Folder) {
-    folder = ParentOf(folder);
-  }
+  const std::string folder = open::NearestExistingFolder(services_.fileSystem, path);
   atLocations_ = folder.empty();
   folder_ = folder;
   path_->setText(ToQString(folder_));
@@ -60,7 +45,7 @@ void FrmOpenWindow::setPath(const std::string& path) {
 
 void FrmOpenWindow::FolderUp() {
   if (atLocations_) return;
-  setPath(ParentOf(folder_));
+  setPath(open::ParentFolder(folder_));
 }
 
 // The root row, then the places, then one row for each level of the folder
@@ -80,7 +65,8 @@ void FrmOpenWindow::FillLocations() {
     return;
   }
   std::vector<std::string> levels;
-  for (std::string level = folder_; !level.empty(); level = ParentOf(level)) levels.insert(levels.begin(), level);
+  for (std::string level = folder_; !level.empty(); level = open::ParentFolder(level))
+    levels.insert(levels.begin(), level);
   for (std::size_t depth = 0; depth < levels.size(); ++depth) {
     const std::string& level = levels[depth];
     const std::string name = level == "/" ? level : base::NameOf(level);
@@ -114,10 +100,10 @@ void FrmOpenWindow::Add2lstFiles() {
       }
     } else {
       const std::string shown = base::AddBackslash(folder_);
-      for (const FolderRow& row :
-           ListFolderRows(services_.fileSystem, folder_, open::CheckedPattern(filters_), showHiddenFiles_)) {
+      for (const open::FolderRow& row :
+           open::ListFolderRows(services_.fileSystem, folder_, open::CheckedPattern(filters_), showHiddenFiles_)) {
         const QIcon icon = row.folder ? icons_.ClosedFolder() : icons_.ForFile(ToQString(shown + row.key));
-        AddRow(icon, row.text, row.key, row.folder);
+        AddRow(icon, ToQString(row.name), row.key, row.folder);
       }
     }
   }
