@@ -1,5 +1,7 @@
 #include "open/OpenCommand.h"
 
+#include <limits>
+
 #include "base/Fault.h"
 #include "base/Paths.h"
 #include "core/AddFile.h"
@@ -104,6 +106,20 @@ std::string InitialFolder(const formats::IniFile& settingsFile, const std::strin
   const std::string lastPath = settingsFile.ReadString(settings::kSettingsSection, settings::kLastPathKey);
   if (!lastPath.empty() && settingsFile.Files().Status(lastPath).kind == platform::EntryKind::Folder) return lastPath;
   return base::AddBackslash(homeFolder.empty() ? "/" : homeFolder);
+}
+
+int LastFilterIndex(const formats::IniFile& settingsFile) {
+  try {
+    const long stored = settingsFile.ReadInt(settings::kSettingsSection, settings::kLastFilterKey);
+    if (stored >= 1 && stored <= std::numeric_limits<int>::max()) return static_cast<int>(stored);
+  } catch (const base::RuntimeFault&) {
+    // A damaged index shows the first row, as a missing one does.
+  }
+  return 1;
+}
+
+void RememberLastPath(formats::IniFile& settingsFile, const std::string& folder) {
+  settingsFile.Write(settings::kSettingsSection, settings::kLastPathKey, base::AddBackslash(folder));
 }
 
 }  // namespace nomra::open

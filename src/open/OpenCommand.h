@@ -49,4 +49,12 @@ LoadOutcome RunOpenChoice(core::ListLoad& load, core::Preview& preview, const Op
 // missing or gone (the root when there is no home folder).
 std::string InitialFolder(const formats::IniFile& settingsFile, const std::string& homeFolder);
 
+// The filter row the files dialog starts on: "lastfilter", from 1; the first
+// row where it is missing, below 1 or damaged.
+int LastFilterIndex(const formats::IniFile& settingsFile);
+
+// Nomra's own open dialog took files from `folder`: the dialogs open there
+// next time.
+void RememberLastPath(formats::IniFile& settingsFile, const std::string& folder);
+
 }  // namespace nomra::open

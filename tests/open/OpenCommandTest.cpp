@@ -292,5 +292,26 @@ TEST_F(OpenCommandTest, InitialFolderIsHomeWhenTheRememberedOneIsGone) {
   EXPECT_EQ(InitialFolder(Ini(settingsFile), nomra::testing::RealLocations().HomeFolder()), temp.Path() + "home/");
 }
 
+TEST_F(OpenCommandTest, LastFilterIndexIsTheStoredRow) {
+  Ini(settingsFile).Write("Settings", "lastfilter", "3");
+  EXPECT_EQ(LastFilterIndex(Ini(settingsFile)), 3);
+}
+
+TEST_F(OpenCommandTest, LastFilterIndexIsTheFirstRowWhenMissingBelowOneOrDamaged) {
+  EXPECT_EQ(LastFilterIndex(Ini(settingsFile)), 1);
+  for (const char* stored : {"0", "-4", "99999999999999999999", "three"}) {
+    Ini(settingsFile).Write("Settings", "lastfilter", stored);
+    EXPECT_EQ(LastFilterIndex(Ini(settingsFile)), 1) << stored;
+  }
+}
+
+TEST_F(OpenCommandTest, RememberedLastPathEndsWithTheSeparatorAndIsWhereTheDialogsOpen) {
+  const std::string music = temp.MakeFolder("music");
+  formats::IniFile settings = Ini(settingsFile);
+  RememberLastPath(settings, temp.Path() + "music");
+  EXPECT_EQ(Setting("lastpath"), music);
+  EXPECT_EQ(InitialFolder(Ini(settingsFile), nomra::testing::RealLocations().HomeFolder()), music);
+}
+
 }  // namespace
 }  // namespace nomra::open

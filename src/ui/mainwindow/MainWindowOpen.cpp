@@ -54,13 +54,7 @@ void MainWindow::OpenFilesDialog(open::OpenMode mode) {
   SystemOpenDialog::Setup setup;
   setup.mode = mode;
   setup.folder = ToQString(open::InitialFolder(SettingsFile(), system_.Locations().HomeFolder()));
-  int filesFilterIndex = 1;
-  try {
-    const long stored = SettingsFile().ReadInt(settings::kSettingsSection, settings::kLastFilterKey);
-    if (stored >= 1) filesFilterIndex = static_cast<int>(stored);
-  } catch (const base::RuntimeFault&) {
-    // A damaged index shows the first row, as a missing one does.
-  }
+  const int filesFilterIndex = open::LastFilterIndex(SettingsFile());
   if (mode == open::OpenMode::Files) {
     std::string allRows = catalog_.GetText(kOpenDialogName, "FilterAll");
     if (allRows.empty()) allRows = "All files (*.*)";

@@ -9,6 +9,7 @@
 #include "core/BusyPointer.h"
 #include "formats/IniFile.h"
 #include "open/FolderRows.h"
+#include "open/OpenCommand.h"
 #include "open/StagedFiles.h"
 #include "settings/SettingsKeys.h"
 #include "ui/common/FormNames.h"
@@ -165,7 +166,7 @@ void FrmOpenWindow::cmdOpen() {
   open::WritePowerFilters(filters_, services_.settingsFile);
   accept();
   if (!staged_.empty() && !atLocations_) {
-    services_.settingsFile.Write(settings::kSettingsSection, settings::kLastPathKey, base::AddBackslash(folder_));
+    open::RememberLastPath(services_.settingsFile, folder_);
   }
 }
 
