@@ -3,11 +3,11 @@
 #include <limits>
 #include <system_error>
 
+#include "actions/BuiltInActions.h"
 #include "base/Fault.h"
 #include "base/Quoting.h"
 #include "formats/IniFile.h"
 #include "rename/ActionFrame.h"
-#include "rename/actions/BuiltInActions.h"
 #include "script/ScriptFiles.h"
 
 namespace nomra::script {
@@ -58,7 +58,7 @@ void PlayScript(dialog::ScriptSession& session, platform::FileSystem& fileSystem
 }
 
 void PlayStepWithoutWindow(const rename::ActionContext& context, int stepType) {
-  const std::unique_ptr<rename::ActionDialog> dialog = rename::CreateActionDialog(stepType);
+  const std::unique_ptr<rename::ActionDialog> dialog = actions::CreateActionDialog(stepType);
   if (dialog) rename::PlayActionWithoutWindow(*dialog, context);
 }
 

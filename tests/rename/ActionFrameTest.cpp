@@ -2,11 +2,11 @@
 
 #include <vector>
 
+#include "actions/BuiltInActions.h"
+#include "actions/FrmPrefixSuffix.h"
 #include "rename/ActionFixture.h"
 #include "rename/ActionFrame.h"
 #include "rename/ActionScope.h"
-#include "rename/actions/BuiltInActions.h"
-#include "rename/actions/FrmPrefixSuffix.h"
 
 namespace nomra::rename {
 namespace {
@@ -60,7 +60,7 @@ class ActionFrameTest : public testing::ActionTest {
     data.WriteFile(settings::kSettingsFileName, "[FrmPS]\r\ntxtPr=" + prefix + "\r\n");
   }
 
-  FrmPrefixSuffix prefixSuffix;
+  actions::FrmPrefixSuffix prefixSuffix;
 };
 
 TEST_F(ActionFrameTest, ApplyRemembersTheInputsUnderFrmPSWhenRememberingIsOn) {
@@ -143,7 +143,7 @@ TEST_F(ActionFrameTest, LoadRestoresTheRememberedInputsFromFrmPS) {
 TEST_F(ActionFrameTest, InputsRememberedOnApplyComeBackAtTheNextOpening) {
   script.saveDialogSettings = true;
   ASSERT_TRUE(Apply(" two  blanks ", "."));
-  FrmPrefixSuffix reopened;
+  actions::FrmPrefixSuffix reopened;
   LoadActionDialog(reopened, Actions());
   EXPECT_EQ(reopened.Model().Text("txtPr"), " two  blanks ");
   EXPECT_EQ(reopened.Model().Text("txtSu"), ".");
@@ -159,7 +159,7 @@ TEST_F(ActionFrameTest, LoadDuringPlaybackTakesThePlayedStepAndNotTheSettings) {
   script.saveDialogSettings = true;
   WriteRememberedPrefix("mine");
   for (int runMode : {1, 2}) {
-    FrmPrefixSuffix dialog;
+    actions::FrmPrefixSuffix dialog;
     PlayOneStepScript(runMode, "played");
     LoadActionDialog(dialog, Actions());
     EXPECT_EQ(dialog.Model().Text("txtPr"), "played") << runMode;
@@ -229,23 +229,23 @@ TEST_F(ActionFrameTest, PlayingWithoutWindowInSingleStepsLeavesTheNames) {
 }
 
 TEST(BuiltInActionsTest, StepTypeFiveOpensThePrefixAndSuffixDialog) {
-  const std::unique_ptr<ActionDialog> dialog = CreateActionDialog(5);
+  const std::unique_ptr<ActionDialog> dialog = actions::CreateActionDialog(5);
   ASSERT_NE(dialog, nullptr);
   EXPECT_EQ(dialog->Model().Name(), "frmPrefixSuffix");
   EXPECT_EQ(dialog->Traits().stepType, 5);
 }
 
 TEST(BuiltInActionsTest, TypesWithoutADialogGiveNone) {
-  for (int type : {-1, 0, 11, 32767}) EXPECT_EQ(CreateActionDialog(type), nullptr) << type;
+  for (int type : {-1, 0, 11, 32767}) EXPECT_EQ(actions::CreateActionDialog(type), nullptr) << type;
 }
 
 TEST(BuiltInActionsTest, EveryKnownTypeOpensADialogOfThatType) {
-  const std::vector<int> types = KnownStepTypes();
+  const std::vector<int> types = actions::KnownStepTypes();
   EXPECT_FALSE(types.empty());
   for (int type : types) {
     EXPECT_GE(type, 1);
     EXPECT_LE(type, 10);
-    const std::unique_ptr<ActionDialog> dialog = CreateActionDialog(type);
+    const std::unique_ptr<ActionDialog> dialog = actions::CreateActionDialog(type);
     ASSERT_NE(dialog, nullptr) << type;
     EXPECT_EQ(dialog->Traits().stepType, type);
   }

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "actions/FrmPrefixSuffix.h"
 #include "rename/ActionFrame.h"
-#include "rename/actions/FrmPrefixSuffix.h"
 #include "script/ScriptFixture.h"
 #include "script/ScriptRecording.h"
 #include "support/RealFiles.h"
@@ -18,7 +18,7 @@ class ScriptRecordingTest : public testing::ScriptTest {
 
   // The user fills the prefix and suffix dialog and presses Apply.
   void ApplyPrefixSuffix(const std::string& prefix, const std::string& suffix = "") {
-    rename::FrmPrefixSuffix dialog;
+    actions::FrmPrefixSuffix dialog;
     dialog.Model().SetText("txtPr", prefix);
     dialog.Model().SetText("txtSu", suffix);
     rename::ApplyActionDialog(dialog, Actions());

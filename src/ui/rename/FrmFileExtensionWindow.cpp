@@ -7,7 +7,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "rename/actions/FrmFileExtension.h"
+#include "actions/FrmFileExtension.h"
 #include "ui/common/NameKeyFilter.h"
 
 namespace nomra::ui {
@@ -29,7 +29,7 @@ class ExtensionKeyFilter final : public QObject {
 }  // namespace
 
 FrmFileExtensionWindow::FrmFileExtensionWindow(ActionWindowServices services)
-    : ActionDialogWindow(std::make_unique<rename::FrmFileExtension>(), std::move(services)) {
+    : ActionDialogWindow(std::make_unique<actions::FrmFileExtension>(), std::move(services)) {
   setWindowTitle("File extension");
   auto* grid = new QGridLayout;
   change_ = new QRadioButton("&Change the extension to:", this);

@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include "rename/actions/FrmPrefixSuffix.h"
+#include "actions/FrmPrefixSuffix.h"
 #include "ui/common/NameKeyFilter.h"
 #include "ui/common/NamedControls.h"
 #include "ui/common/TextConversion.h"
@@ -13,7 +13,7 @@
 namespace nomra::ui {
 
 FrmPrefixSuffixWindow::FrmPrefixSuffixWindow(ActionWindowServices services)
-    : ActionDialogWindow(std::make_unique<rename::FrmPrefixSuffix>(), std::move(services)) {
+    : ActionDialogWindow(std::make_unique<actions::FrmPrefixSuffix>(), std::move(services)) {
   setWindowTitle("Prefix/Suffix");
   auto* filter = new NameKeyFilter(this);
   auto* grid = new QGridLayout;
@@ -32,7 +32,7 @@ FrmPrefixSuffixWindow::FrmPrefixSuffixWindow(ActionWindowServices services)
 }
 
 void FrmPrefixSuffixWindow::AfterLocalised() {
-  const auto labels = rename::PrefixSuffixLabels(ToEngineText(UsualCaption()));
+  const auto labels = actions::PrefixSuffixLabels(ToEngineText(UsualCaption()));
   if (!labels) return;
   prefixLabel_->setText(ToQString(labels->first));
   suffixLabel_->setText(ToQString(labels->second));

@@ -4,7 +4,7 @@
 #include <QHBoxLayout>
 #include <QRadioButton>
 
-#include "rename/actions/FrmULCase.h"
+#include "actions/FrmULCase.h"
 #include "ui/common/NamedControls.h"
 #include "ui/common/QtLocalisation.h"
 #include "ui/common/TextConversion.h"
@@ -31,7 +31,7 @@ QGroupBox* AddOptionGroup(QWidget& parent, const char* frameName, const QString&
 }  // namespace
 
 FrmULCaseWindow::FrmULCaseWindow(ActionWindowServices services)
-    : ActionDialogWindow(std::make_unique<rename::FrmULCase>(), std::move(services)) {
+    : ActionDialogWindow(std::make_unique<actions::FrmULCase>(), std::move(services)) {
   setWindowTitle("Upper/lower case");
   auto* row = new QHBoxLayout;
   row->addWidget(AddOptionGroup(

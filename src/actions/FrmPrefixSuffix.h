@@ -6,15 +6,15 @@
 
 #include "rename/ActionDialog.h"
 
-namespace nomra::rename {
+namespace nomra::actions {
 
 // Prefix and suffix: txtPr before the stem, txtSu between stem and
 // extension. Tags are not evaluated; both empty leaves each name as it is.
-class FrmPrefixSuffix final : public ActionDialog {
+class FrmPrefixSuffix final : public rename::ActionDialog {
  public:
   FrmPrefixSuffix();
-  const ActionTraits& Traits() const override;
-  void Run(const ActionContext& context) override;
+  const rename::ActionTraits& Traits() const override;
+  void Run(const rename::ActionContext& context) override;
 };
 
 // prefix + stem + suffix + extension.
@@ -26,4 +26,4 @@ std::string AddPrefixAndSuffix(std::string_view name, std::string_view prefix, s
 // holds no "/", so the labels keep their own texts.
 std::optional<std::pair<std::string, std::string>> PrefixSuffixLabels(std::string_view caption);
 
-}  // namespace nomra::rename
+}  // namespace nomra::actions

@@ -1,10 +1,10 @@
-#include "rename/actions/FrmULCase.h"
+#include "actions/FrmULCase.h"
 
 #include <array>
 
 #include "structure/ApplyStructure.h"
 
-namespace nomra::rename {
+namespace nomra::actions {
 
 namespace {
 
@@ -21,20 +21,21 @@ int ChosenIndex(const dialog::DialogModel& model, const char* group, int count) 
 
 }  // namespace
 
-FrmULCase::FrmULCase() : ActionDialog("frmULCase") {
+FrmULCase::FrmULCase() : rename::ActionDialog("frmULCase") {
   dialog::DialogModel& model = Model();
   model.AddNoValue("frameOpt");
   for (int index = 1; index <= static_cast<int>(kCodes.size()); ++index) model.AddOption("opt1", "opt1", index);
   model.AddNoValue("frameapply");
   for (int index = 1; index <= kApplyChoices; ++index) model.AddOption("opt2", "opt2", index);
-  AddFrameButtons(model);
+  rename::AddFrameButtons(model);
   // With nothing stored: the first conversion, on the name.
   model.SetOption("opt1(1)", true);
   model.SetOption("opt2(1)", true);
 }
 
-const ActionTraits& FrmULCase::Traits() const {
-  static const ActionTraits traits{"frmULCase", "frmULCase", "frmULCase", 4, true, RestoreMoment::OnLoad};
+const rename::ActionTraits& FrmULCase::Traits() const {
+  static const rename::ActionTraits traits{"frmULCase", "frmULCase", "frmULCase",
+                                           4,           true,        rename::RestoreMoment::OnLoad};
   return traits;
 }
 
@@ -49,6 +50,6 @@ std::string FrmULCase::Structure() const {
   }
 }
 
-void FrmULCase::Run(const ActionContext& context) { structure::ApplyStructure(context, Structure()); }
+void FrmULCase::Run(const rename::ActionContext& context) { structure::ApplyStructure(context, Structure()); }
 
-}  // namespace nomra::rename
+}  // namespace nomra::actions

@@ -2,11 +2,11 @@
 
 #include <vector>
 
+#include "actions/FrmPrefixSuffix.h"
 #include "base/FileNames.h"
 #include "rename/ActionFixture.h"
-#include "rename/actions/FrmPrefixSuffix.h"
 
-namespace nomra::rename {
+namespace nomra::actions {
 namespace {
 
 class PrefixSuffixTest : public testing::ActionTest {
@@ -72,12 +72,12 @@ TEST_F(PrefixSuffixTest, KeepsItsInputsUnderTheirNamesAndUsesTheOddSharedSection
   EXPECT_EQ(dialog.Model().Name(), "frmPrefixSuffix");
   EXPECT_NE(dialog.Model().Find("txtPr"), nullptr);
   EXPECT_NE(dialog.Model().Find("txtSu"), nullptr);
-  const ActionTraits& traits = dialog.Traits();
+  const rename::ActionTraits& traits = dialog.Traits();
   EXPECT_EQ(traits.storeSection, "FrmPS");
   EXPECT_EQ(traits.restoreSection, "FrmPS");
   EXPECT_EQ(traits.stepType, 5);
   EXPECT_FALSE(traits.disablesButtonsWhileRunning);
-  EXPECT_EQ(traits.restoreMoment, RestoreMoment::OnLoad);
+  EXPECT_EQ(traits.restoreMoment, rename::RestoreMoment::OnLoad);
 }
 
 TEST(PrefixSuffixKeysTest, NameFieldsSwallowTheNineForbiddenCharacters) {
@@ -106,4 +106,4 @@ TEST(PrefixSuffixLabelsTest, CaptionWithoutSlashLeavesTheLabelsAlone) {
 }
 
 }  // namespace
-}  // namespace nomra::rename
+}  // namespace nomra::actions

@@ -4,17 +4,17 @@
 
 #include <vector>
 
+#include "actions/BuiltInActions.h"
+#include "actions/FrmFileExtension.h"
+#include "actions/FrmULCase.h"
 #include "rename/ActionFixture.h"
 #include "rename/ActionFrame.h"
-#include "rename/actions/BuiltInActions.h"
-#include "rename/actions/FrmFileExtension.h"
-#include "rename/actions/FrmULCase.h"
 #include "script/ScriptPlayback.h"
 #include "support/RealFiles.h"
 
 using nomra::testing::Ini;
 
-namespace nomra::rename {
+namespace nomra::actions {
 namespace {
 
 class CaseActionTest : public testing::ActionTest {
@@ -72,7 +72,7 @@ TEST_F(CaseActionTest, RemembersItsInputsUnderItsOwnNameAndRecordsTypeFour) {
   Ini(script.tempPath).Write("Main", "Steps", 0L);
   AddFiles({"a.txt"});
   Choose(4, 3);
-  ApplyActionDialog(dialog, Actions());
+  rename::ApplyActionDialog(dialog, Actions());
   EXPECT_EQ(Ini(script.settingsPath).ReadString("frmULCase", "opt1(4)"), "-1");
   EXPECT_EQ(Ini(script.settingsPath).ReadString("frmULCase", "opt2(3)"), "-1");
   EXPECT_EQ(Ini(script.tempPath).ReadString("1", "Type"), "4");
@@ -144,7 +144,7 @@ TEST_F(ExtensionActionTest, RemembersItsInputsInFrmFEAndRecordsTypeThree) {
   Ini(script.tempPath).Write("Main", "Steps", 0L);
   AddFiles({"a.txt"});
   Choose(true, true, "bak");
-  ApplyActionDialog(dialog, Actions());
+  rename::ApplyActionDialog(dialog, Actions());
   EXPECT_EQ(Ini(script.settingsPath).ReadString("FrmFE", "txtFE"), "bak");
   EXPECT_EQ(Ini(script.settingsPath).ReadString("FrmFE", "chkAddOldFE"), "1");
   EXPECT_EQ(Ini(script.tempPath).ReadString("1", "Type"), "3");
@@ -165,4 +165,4 @@ TEST(BuiltInActions, TheCaseExtensionAndPrefixDialogsAreRegistered) {
 }
 
 }  // namespace
-}  // namespace nomra::rename
+}  // namespace nomra::actions

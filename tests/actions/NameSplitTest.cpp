@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "actions/FrmPrefixSuffix.h"
 #include "base/NameSplit.h"
-#include "rename/actions/FrmPrefixSuffix.h"
 
-namespace nomra::rename {
+namespace nomra::actions {
 namespace {
 
 struct Split {
@@ -67,4 +67,4 @@ TEST(NameSplitTest, MultibyteNamesSplitAtTheirLastDot) {
 }
 
 }  // namespace
-}  // namespace nomra::rename
+}  // namespace nomra::actions

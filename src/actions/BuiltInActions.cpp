@@ -1,19 +1,19 @@
-#include "rename/actions/BuiltInActions.h"
+#include "actions/BuiltInActions.h"
 
 #include <functional>
 #include <map>
 
-#include "rename/actions/FrmFileExtension.h"
-#include "rename/actions/FrmPrefixSuffix.h"
-#include "rename/actions/FrmULCase.h"
+#include "actions/FrmFileExtension.h"
+#include "actions/FrmPrefixSuffix.h"
+#include "actions/FrmULCase.h"
 
-namespace nomra::rename {
+namespace nomra::actions {
 
 namespace {
 
 // Adding an action dialog is one line here.
-const std::map<int, std::function<std::unique_ptr<ActionDialog>()>>& Factories() {
-  static const std::map<int, std::function<std::unique_ptr<ActionDialog>()>> factories{
+const std::map<int, std::function<std::unique_ptr<rename::ActionDialog>()>>& Factories() {
+  static const std::map<int, std::function<std::unique_ptr<rename::ActionDialog>()>> factories{
       {3, [] { return std::make_unique<FrmFileExtension>(); }},
       {4, [] { return std::make_unique<FrmULCase>(); }},
       {5, [] { return std::make_unique<FrmPrefixSuffix>(); }},
@@ -23,7 +23,7 @@ const std::map<int, std::function<std::unique_ptr<ActionDialog>()>>& Factories()
 
 }  // namespace
 
-std::unique_ptr<ActionDialog> CreateActionDialog(int stepType) {
+std::unique_ptr<rename::ActionDialog> CreateActionDialog(int stepType) {
   const auto found = Factories().find(stepType);
   if (found == Factories().end()) return nullptr;
   return found->second();
@@ -35,4 +35,4 @@ std::vector<int> KnownStepTypes() {
   return types;
 }
 
-}  // namespace nomra::rename
+}  // namespace nomra::actions

@@ -1,9 +1,9 @@
-#include "rename/actions/FrmFileExtension.h"
+#include "actions/FrmFileExtension.h"
 
 #include "base/Trim.h"
 #include "structure/ApplyStructure.h"
 
-namespace nomra::rename {
+namespace nomra::actions {
 
 namespace {
 
@@ -13,18 +13,19 @@ constexpr char kNewExtension[] = "txtFE";
 
 }  // namespace
 
-FrmFileExtension::FrmFileExtension() : ActionDialog("frmFileExtension") {
+FrmFileExtension::FrmFileExtension() : rename::ActionDialog("frmFileExtension") {
   dialog::DialogModel& model = Model();
   model.AddOption("optFE", "optFE", 1);
   model.AddOption("optFE", "optFE", 2);
   model.AddCheck(kAddOld);
   model.AddText(kNewExtension);
-  AddFrameButtons(model);
+  rename::AddFrameButtons(model);
   model.SetOption(kChange, true);
 }
 
-const ActionTraits& FrmFileExtension::Traits() const {
-  static const ActionTraits traits{"frmFileExtension", "FrmFE", "FrmFE", 3, true, RestoreMoment::OnLoad};
+const rename::ActionTraits& FrmFileExtension::Traits() const {
+  static const rename::ActionTraits traits{"frmFileExtension",           "FrmFE", "FrmFE", 3, true,
+                                           rename::RestoreMoment::OnLoad};
   return traits;
 }
 
@@ -45,9 +46,9 @@ std::string FrmFileExtension::Structure() const {
 
 bool FrmFileExtension::ChangeInputsEnabled() const { return Model().IsSelected(kChange); }
 
-void FrmFileExtension::Run(const ActionContext& context) {
+void FrmFileExtension::Run(const rename::ActionContext& context) {
   Model().SetText(kNewExtension, CleanExtensionInput(Model().Text(kNewExtension)));
   structure::ApplyStructure(context, Structure());
 }
 
-}  // namespace nomra::rename
+}  // namespace nomra::actions

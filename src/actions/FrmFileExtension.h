@@ -3,17 +3,17 @@
 
 #include "rename/ActionDialog.h"
 
-namespace nomra::rename {
+namespace nomra::actions {
 
 // File extension: optFE(1) changes it to txtFE (behind the old one when
 // chkAddOldFE is on), optFE(2) removes the last one.
-class FrmFileExtension final : public ActionDialog {
+class FrmFileExtension final : public rename::ActionDialog {
  public:
   FrmFileExtension();
-  const ActionTraits& Traits() const override;
+  const rename::ActionTraits& Traits() const override;
   // Cleans txtFE (blanks around it, then its leading dots), writes it back
   // and applies the structure.
-  void Run(const ActionContext& context) override;
+  void Run(const rename::ActionContext& context) override;
 
   // The structure of the inputs as they stand.
   std::string Structure() const;
@@ -24,4 +24,4 @@ class FrmFileExtension final : public ActionDialog {
 // txtFE without the blanks around it and without its leading dots.
 std::string CleanExtensionInput(std::string_view text);
 
-}  // namespace nomra::rename
+}  // namespace nomra::actions

@@ -1,9 +1,9 @@
-#include "rename/actions/FrmPrefixSuffix.h"
+#include "actions/FrmPrefixSuffix.h"
 
 #include "base/NameSplit.h"
 #include "rename/ActionScope.h"
 
-namespace nomra::rename {
+namespace nomra::actions {
 
 namespace {
 
@@ -12,24 +12,25 @@ constexpr char kSuffixInput[] = "txtSu";
 
 }  // namespace
 
-FrmPrefixSuffix::FrmPrefixSuffix() : ActionDialog("frmPrefixSuffix") {
+FrmPrefixSuffix::FrmPrefixSuffix() : rename::ActionDialog("frmPrefixSuffix") {
   dialog::DialogModel& model = Model();
   model.AddText(kPrefixInput);
   model.AddText(kSuffixInput);
   model.AddNoValue("lblPrefix");
   model.AddNoValue("lblSuffix");
-  AddFrameButtons(model);
+  rename::AddFrameButtons(model);
 }
 
-const ActionTraits& FrmPrefixSuffix::Traits() const {
-  static const ActionTraits traits{"frmPrefixSuffix", "FrmPS", "FrmPS", 5, false, RestoreMoment::OnLoad};
+const rename::ActionTraits& FrmPrefixSuffix::Traits() const {
+  static const rename::ActionTraits traits{
+      "frmPrefixSuffix", "FrmPS", "FrmPS", 5, false, rename::RestoreMoment::OnLoad};
   return traits;
 }
 
-void FrmPrefixSuffix::Run(const ActionContext& context) {
+void FrmPrefixSuffix::Run(const rename::ActionContext& context) {
   const std::string prefix = Model().Text(kPrefixInput);
   const std::string suffix = Model().Text(kSuffixInput);
-  RewritePendingNames(context, [&](int, const core::FileEntry& entry) {
+  rename::RewritePendingNames(context, [&](int, const core::FileEntry& entry) {
     return AddPrefixAndSuffix(entry[core::kColNewName], prefix, suffix);
   });
 }
@@ -53,4 +54,4 @@ std::optional<std::pair<std::string, std::string>> PrefixSuffixLabels(std::strin
   return std::make_pair(std::string(caption.substr(0, slash)) + ":", std::string(suffix) + ":");
 }
 
-}  // namespace nomra::rename
+}  // namespace nomra::actions
