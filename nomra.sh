@@ -9,7 +9,7 @@ BUILD_DIR=${NOMRA_BUILD_DIR:-build}
 
 # Debian packages by name; only the missing ones are installed.
 PACKAGES=(cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev libutf8proc-dev
-          qt6-base-dev libqt6svg6 fonts-dejavu-core dosfstools fusefat locales
+          qt6-base-dev libqt6svg6 fonts-dejavu-core dosfstools fusefat locales libpcre2-dev
           clang-format)
 
 missing_packages() {

@@ -5,6 +5,7 @@
 
 #include "actions/FrmFileExtension.h"
 #include "actions/FrmPrefixSuffix.h"
+#include "actions/FrmReplace.h"
 #include "actions/FrmULCase.h"
 
 namespace nomra::actions {
@@ -17,6 +18,7 @@ const std::map<int, std::function<std::unique_ptr<rename::ActionDialog>()>>& Fac
       {3, [] { return std::make_unique<FrmFileExtension>(); }},
       {4, [] { return std::make_unique<FrmULCase>(); }},
       {5, [] { return std::make_unique<FrmPrefixSuffix>(); }},
+      {6, [] { return std::make_unique<FrmReplace>(); }},
   };
   return factories;
 }

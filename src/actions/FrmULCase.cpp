@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "actions/ActionNumbers.h"
 #include "structure/ApplyStructure.h"
 
 namespace nomra::actions {
@@ -10,14 +11,6 @@ namespace {
 
 constexpr std::array<const char*, 5> kCodes = {"1C", "WC", "UC", "LC", "SC"};
 constexpr int kApplyChoices = 3;
-
-// The index (from 1) of the selected button of a group; 1 when none is.
-int ChosenIndex(const dialog::DialogModel& model, const char* group, int count) {
-  for (int index = 1; index <= count; ++index) {
-    if (model.IsSelected(std::string(group) + "(" + std::to_string(index) + ")")) return index;
-  }
-  return 1;
-}
 
 }  // namespace
 

@@ -98,4 +98,13 @@ inline constexpr char kMoving[] = "msgMoving";
 inline constexpr char kTrashing[] = "msgTrashing";
 inline constexpr char kDeleting[] = "msgDeleting";
 
+// Replacing: a text to find, the replacement, a pattern that can't be used
+// (%1 PCRE2's words, %2 the character at fault).
+inline constexpr char kInputMissingCaption[] = "MsgCap05";
+inline constexpr char kFindTextMissing[] = "MsgText09";
+inline constexpr char kReplacementMissing[] = "MsgText10";
+inline constexpr char kPatternFault[] = "msgPatternFault";
+inline constexpr char kPatternReplacementFault[] = "msgPatternReplacementFault";
+inline constexpr char kPatternCaption[] = "msgCapPattern";
+
 }  // namespace nomra::lang

@@ -157,10 +157,18 @@ TEST(CleanExtensionInput, BlanksThenDots) {
   EXPECT_EQ(CleanExtensionInput("..."), "");
 }
 
-TEST(BuiltInActions, TheCaseExtensionAndPrefixDialogsAreRegistered) {
-  EXPECT_EQ(KnownStepTypes(), (std::vector<int>{3, 4, 5}));
-  EXPECT_EQ(CreateActionDialog(3)->Traits().dialogName, "frmFileExtension");
-  EXPECT_EQ(CreateActionDialog(4)->Traits().dialogName, "frmULCase");
+TEST(BuiltInActions, EachDialogIsRegisteredUnderItsStepType) {
+  const std::vector<std::pair<int, std::string>> registered = {
+      {3, "frmFileExtension"}, {4, "frmULCase"}, {5, "frmPrefixSuffix"}, {6, "frmReplace"}};
+  std::vector<int> types;
+  for (const auto& [type, name] : registered) {
+    types.push_back(type);
+    const auto dialog = CreateActionDialog(type);
+    ASSERT_NE(dialog, nullptr) << type;
+    EXPECT_EQ(dialog->Traits().dialogName, name) << type;
+    EXPECT_EQ(dialog->Traits().stepType, type) << name;
+  }
+  EXPECT_EQ(KnownStepTypes(), types);
   EXPECT_EQ(CreateActionDialog(11), nullptr);
 }
 
