@@ -4,8 +4,10 @@
 #include <map>
 
 #include "actions/FrmFileExtension.h"
+#include "actions/FrmMove.h"
 #include "actions/FrmPrefixSuffix.h"
 #include "actions/FrmReplace.h"
+#include "actions/FrmTrim.h"
 #include "actions/FrmULCase.h"
 
 namespace nomra::actions {
@@ -15,10 +17,9 @@ namespace {
 // Adding an action dialog is one line here.
 const std::map<int, std::function<std::unique_ptr<rename::ActionDialog>()>>& Factories() {
   static const std::map<int, std::function<std::unique_ptr<rename::ActionDialog>()>> factories{
-      {3, [] { return std::make_unique<FrmFileExtension>(); }},
-      {4, [] { return std::make_unique<FrmULCase>(); }},
-      {5, [] { return std::make_unique<FrmPrefixSuffix>(); }},
-      {6, [] { return std::make_unique<FrmReplace>(); }},
+      {3, [] { return std::make_unique<FrmFileExtension>(); }}, {4, [] { return std::make_unique<FrmULCase>(); }},
+      {5, [] { return std::make_unique<FrmPrefixSuffix>(); }},  {6, [] { return std::make_unique<FrmReplace>(); }},
+      {8, [] { return std::make_unique<FrmMove>(); }},          {10, [] { return std::make_unique<FrmTrim>(); }},
   };
   return factories;
 }
