@@ -5,6 +5,7 @@
 
 #include "actions/FrmFileExtension.h"
 #include "actions/FrmMove.h"
+#include "actions/FrmNumber.h"
 #include "actions/FrmPrefixSuffix.h"
 #include "actions/FrmReplace.h"
 #include "actions/FrmTrim.h"
@@ -17,9 +18,10 @@ namespace {
 // Adding an action dialog is one line here.
 const std::map<int, std::function<std::unique_ptr<rename::ActionDialog>()>>& Factories() {
   static const std::map<int, std::function<std::unique_ptr<rename::ActionDialog>()>> factories{
-      {3, [] { return std::make_unique<FrmFileExtension>(); }}, {4, [] { return std::make_unique<FrmULCase>(); }},
-      {5, [] { return std::make_unique<FrmPrefixSuffix>(); }},  {6, [] { return std::make_unique<FrmReplace>(); }},
-      {8, [] { return std::make_unique<FrmMove>(); }},          {10, [] { return std::make_unique<FrmTrim>(); }},
+      {1, [] { return std::make_unique<FrmNumber>(); }},  {3, [] { return std::make_unique<FrmFileExtension>(); }},
+      {4, [] { return std::make_unique<FrmULCase>(); }},  {5, [] { return std::make_unique<FrmPrefixSuffix>(); }},
+      {6, [] { return std::make_unique<FrmReplace>(); }}, {8, [] { return std::make_unique<FrmMove>(); }},
+      {10, [] { return std::make_unique<FrmTrim>(); }},
   };
   return factories;
 }
