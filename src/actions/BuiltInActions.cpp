@@ -7,6 +7,7 @@
 #include "actions/FrmMove.h"
 #include "actions/FrmNumber.h"
 #include "actions/FrmPrefixSuffix.h"
+#include "actions/FrmRenumber.h"
 #include "actions/FrmReplace.h"
 #include "actions/FrmTrim.h"
 #include "actions/FrmULCase.h"

@@ -106,5 +106,7 @@ inline constexpr char kReplacementMissing[] = "MsgText10";
 inline constexpr char kPatternFault[] = "msgPatternFault";
 inline constexpr char kPatternReplacementFault[] = "msgPatternReplacementFault";
 inline constexpr char kPatternCaption[] = "msgCapPattern";
+// Renumbering found too few numbers at either end of the names.
+inline constexpr char kNoNumbersToRenumber[] = "MsgText14";
 
 }  // namespace nomra::lang

@@ -40,6 +40,14 @@ class ActionDialog {
   dialog::DialogModel& Model() { return model_; }
   const dialog::DialogModel& Model() const { return model_; }
 
+  // What the dialog does as it opens, before its inputs are restored: the
+  // renumbering dialog reads the list here.
+  virtual void Open(const ActionContext&) {}
+
+  // True when the dialog found nothing to do as it opened: it closes at
+  // once, and no step plays.
+  virtual bool ClosesAtOnce() const { return false; }
+
   // The dialog's own checks of its inputs, before anything is stored or
   // changed; false stops the apply (the check has told the user why).
   virtual bool CheckInputs(const ActionContext&) { return true; }

@@ -23,10 +23,12 @@ void RestoreInputs(ActionDialog& dialog, const ActionContext& context) {
 }  // namespace
 
 void LoadActionDialog(ActionDialog& dialog, const ActionContext& context) {
+  dialog.Open(context);
   if (dialog.Traits().restoreMoment == RestoreMoment::OnLoad) RestoreInputs(dialog, context);
 }
 
 bool ActivateActionDialog(ActionDialog& dialog, const ActionContext& context, bool firstActivation) {
+  if (dialog.ClosesAtOnce()) return false;
   if (firstActivation && dialog.Traits().restoreMoment == RestoreMoment::OnFirstActivation) {
     RestoreInputs(dialog, context);
   }

@@ -10,7 +10,8 @@ namespace nomra::rename {
 void LoadActionDialog(ActionDialog& dialog, const ActionContext& context);
 
 // Coming to the front; the dialogs that restore then do so the first time.
-// True when a script plays all steps, so the OK handler must run at once.
+// True when a script plays all steps, so the OK handler must run at once;
+// false, too, for a dialog that closes at once (the window then closes).
 bool ActivateActionDialog(ActionDialog& dialog, const ActionContext& context, bool firstActivation);
 
 // The apply button: the dialog's checks, then its inputs remembered (when
