@@ -18,12 +18,18 @@ namespace {
 
 // Adding an action dialog is one line here.
 const std::map<int, std::function<std::unique_ptr<rename::ActionDialog>()>>& Factories() {
+  // clang-format off
   static const std::map<int, std::function<std::unique_ptr<rename::ActionDialog>()>> factories{
-      {1, [] { return std::make_unique<FrmNumber>(); }},  {3, [] { return std::make_unique<FrmFileExtension>(); }},
-      {4, [] { return std::make_unique<FrmULCase>(); }},  {5, [] { return std::make_unique<FrmPrefixSuffix>(); }},
-      {6, [] { return std::make_unique<FrmReplace>(); }}, {8, [] { return std::make_unique<FrmMove>(); }},
+      {1, [] { return std::make_unique<FrmNumber>(); }},
+      {2, [] { return std::make_unique<FrmRenumber>(); }},
+      {3, [] { return std::make_unique<FrmFileExtension>(); }},
+      {4, [] { return std::make_unique<FrmULCase>(); }},
+      {5, [] { return std::make_unique<FrmPrefixSuffix>(); }},
+      {6, [] { return std::make_unique<FrmReplace>(); }},
+      {8, [] { return std::make_unique<FrmMove>(); }},
       {10, [] { return std::make_unique<FrmTrim>(); }},
   };
+  // clang-format on
   return factories;
 }
 

@@ -159,8 +159,8 @@ TEST(CleanExtensionInput, BlanksThenDots) {
 
 TEST(BuiltInActions, EachDialogIsRegisteredUnderItsStepType) {
   const std::vector<std::pair<int, std::string>> registered = {
-      {1, "frmNumber"},  {3, "frmFileExtension"}, {4, "frmULCase"}, {5, "frmPrefixSuffix"},
-      {6, "frmReplace"}, {8, "frmMove"},          {10, "frmTrim"}};
+      {1, "frmNumber"},       {2, "frmRenumber"}, {3, "frmFileExtension"}, {4, "frmULCase"},
+      {5, "frmPrefixSuffix"}, {6, "frmReplace"},  {8, "frmMove"},          {10, "frmTrim"}};
   std::vector<int> types;
   for (const auto& [type, name] : registered) {
     types.push_back(type);
