@@ -52,7 +52,15 @@ Invocation ParseCommandLine(const std::vector<std::string>& arguments) {
       }
       value = arguments[++i];
     }
-    option->apply(invocation, value.value_or(std::string()));
+    if (!option->secondArgument.empty()) {
+      if (i + 1 == arguments.size()) {
+        throw UsageError("option '" + std::string(option->name) + "' needs " + std::string(option->argument) + " " +
+                         std::string(option->secondArgument));
+      }
+      option->applyPair(invocation, *value, arguments[++i]);
+    } else {
+      option->apply(invocation, value.value_or(std::string()));
+    }
     if (invocation.showHelp || invocation.showVersion) return invocation;
   }
   if (invocation.sources.empty()) throw UsageError("no PATH or --playlist given");

@@ -43,6 +43,7 @@ void WriteOption(std::ostream& out, const OptionSpec& option) {
   if (!option.shortName.empty()) out << option.shortName << ", ";
   out << option.name;
   if (!option.argument.empty()) out << ' ' << option.argument;
+  if (!option.secondArgument.empty()) out << ' ' << option.secondArgument;
   out << '\n';
   WriteWrapped(out, option.help);
   out << kIndent << "Example: nomra-cli " << option.example << '\n';

@@ -1,5 +1,6 @@
 #include "cli/OptionTable.h"
 
+#include "cli/ActionSteps.h"
 #include "cli/ArgumentValues.h"
 #include "cli/EditStep.h"
 #include "cli/ListSteps.h"
@@ -102,6 +103,30 @@ const std::vector<OptionSpec>& OptionTable() {
        "Makes TEXT, a name structure, the pending name of every row in the scope, as the name structure "
        "dialog applies it.",
        "--select '*.txt' --scope selected --structure 'notes.txt' ./docs", AddStructure},
+      {"--replace", "", "FIND",
+       "Replaces every FIND in the stem of each pending name of the scope by WITH, as the Replace "
+       "dialog does with a text: case counts, the extension is never touched, a stem is never emptied, and a "
+       "WITH holding tags such as <NAME_L(3)> goes through the structure language. An empty WITH removes FIND.",
+       "--replace '_' ' ' --replace 'Copy of ' '' ~/Downloads", nullptr, "WITH", AddReplace},
+      {"--replace-regex", "", "PATTERN",
+       "As --replace with a regular expression (PCRE2, UTF-8, case-sensitive): every match in the stem is "
+       "replaced by WITH, in which $1 or ${1} is the first group, ${name} a named group and $$ a dollar. A "
+       "pattern or WITH that can't be used is a usage error naming the character at fault.",
+       "--replace-regex '^(\\d+) - (.*)$' '$2 ($1)' ~/Music", nullptr, "WITH", AddReplaceRegex},
+      {"--number", "", "SPEC",
+       "Numbers the rows of the scope in list order, as the Numbering dialog does. SPEC is KEY=VALUE settings "
+       "separated by commas, each optional: start=N and step=N (default 1, may be negative), width=auto or 1 "
+       "to 15 (default 1; shorter numbers are filled with 0, letters with blanks), system=decimal, hex, upper "
+       "or lower (A to Z, then AA), place=prefix (default), suffix, left:N or right:N (N characters into the "
+       "stem), sep= blank or one of the separators ' - ' - ' _ ' _ ' # ' # ' + ' + ' . ' . between number and "
+       "name, name=TEXT in place of the stem, and random for a random order. An empty SPEC numbers with the "
+       "defaults.",
+       "--number 'start=1,width=auto,place=suffix,sep= - ' ~/Pictures/Rome", AddNumber},
+      {"--trim", "", "first:N|last:N|range:A:B|short|path:N",
+       "Cuts the stem of each pending name of the scope, as the Trim dialog does: to its first or last N "
+       "characters, to characters A to B, to the short name, or so that folder and name stay within N "
+       "characters (20 to 256; folder and extension are never cut).",
+       "--trim first:8 ~/Documents/scans", AddTrim},
       {"--commit", "", "",
        "After every other step, renames the files on disk to their pending names, all in one batch: chains, "
        "swaps and cycles of names work, no file is ever overwritten, and a row whose new name stays taken is "

@@ -18,6 +18,10 @@ struct OptionSpec {
   std::string_view example;  // the arguments after "nomra-cli "
   // Appends a step or sets a setting; throws UsageError for a bad value.
   std::function<void(Invocation& invocation, const std::string& argument)> apply;
+  // An option that takes two values ("--replace FIND WITH") names the second
+  // here and gets both through applyPair instead of apply.
+  std::string_view secondArgument = {};
+  std::function<void(Invocation& invocation, const std::string& argument, const std::string& second)> applyPair = {};
 };
 
 const std::vector<OptionSpec>& OptionTable();
