@@ -70,15 +70,19 @@ void FrmMove::Run(const rename::ActionContext& context) {
 }
 
 std::string MoveInName(const std::string& name, long from, long to, long position) {
-  std::string stemText;
+  std::string stem;
   std::string extension;
-  base::SplitNameExtension(name, stemText, extension);
+  base::SplitNameExtension(name, stem, extension);
+  return MoveInStem(stem, from, to, position) + extension;
+}
+
+std::string MoveInStem(const std::string& stemText, long from, long to, long position) {
   const std::u32string stem = base::ToChars(stemText);
   if (to < 1) throw base::RuntimeFault("Invalid procedure call: to " + std::to_string(to));
   const std::u32string moved = Mid(stem, from, std::max(0L, to - from + 1));
   const std::u32string rest = Left(stem, from - 1) + Mid(stem, to + 1);
   const std::u32string newStem = Left(rest, position - 1) + moved + Mid(rest, position);
-  return base::FromChars(newStem) + extension;
+  return base::FromChars(newStem);
 }
 
 }  // namespace nomra::actions

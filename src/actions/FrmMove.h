@@ -23,5 +23,7 @@ class FrmMove final : public rename::ActionDialog {
 // below 1 is a run-time fault; positions beyond the stem only give shorter
 // pieces.
 std::string MoveInName(const std::string& name, long from, long to, long position);
+// The same on a stem alone, as the dialog's preview shows it.
+std::string MoveInStem(const std::string& stem, long from, long to, long position);
 
 }  // namespace nomra::actions

@@ -138,21 +138,19 @@ void FrmRenumber::Open(const rename::ActionContext& context) {
         core::Message{lang::kNoNumbersToRenumber, lang::kAttentionCaption, core::MessageStyle::OkWarning, {}});
     ends.push_back(kNoChoice);
   }
+  ends_ = ends;
   model.At(kEnds).rows = ends;
   ChooseEnd(0);
 }
 
-bool FrmRenumber::ClosesAtOnce() const {
-  const dialog::DialogInput& ends = Model().At(kEnds);
-  return ends.number >= 0 && ends.number < static_cast<int>(ends.rows.size()) &&
-         ends.rows[static_cast<std::size_t>(ends.number)] == kNoChoice;
+std::string FrmRenumber::ChosenEnd() const {
+  const int chosen = Model().Number(kEnds);
+  return chosen >= 0 && chosen < static_cast<int>(ends_.size()) ? ends_[static_cast<std::size_t>(chosen)] : "";
 }
 
-bool FrmRenumber::PrefixChosen() const {
-  const dialog::DialogInput& ends = Model().At(kEnds);
-  return ends.number >= 0 && ends.number < static_cast<int>(ends.rows.size()) &&
-         ends.rows[static_cast<std::size_t>(ends.number)] == kPrefixChoice;
-}
+bool FrmRenumber::ClosesAtOnce() const { return ChosenEnd() == kNoChoice; }
+
+bool FrmRenumber::PrefixChosen() const { return ChosenEnd() == kPrefixChoice; }
 
 void FrmRenumber::ChooseEnd(int row) {
   Model().SetNumber(kEnds, row);

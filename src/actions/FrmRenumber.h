@@ -36,6 +36,8 @@ class FrmRenumber final : public rename::ActionDialog {
   void TakeIntoSeries();    // cmdR2L: from lstFilesUnsorted
   void LeaveOutOfSeries();  // cmdL2R: from lstFilesSorted
   bool IsEnabled(std::string_view key) const;
+  // The chosen row of erkNum: kPrefixChoice, kSuffixChoice or kNoChoice.
+  std::string ChosenEnd() const;
 
  private:
   // A row of the work table: one per row of the scope, in list order.
@@ -55,6 +57,9 @@ class FrmRenumber final : public rename::ActionDialog {
   void ShowLists();
 
   std::vector<Row> rows_;
+  // The choices of erkNum, kept apart from its rows, which a window shows
+  // in the language's words.
+  std::vector<std::string> ends_;
   std::vector<std::string> foundAtStart_;  // vorListe
   std::vector<std::string> foundAtEnd_;    // anListe
   std::vector<int> sorted_;                // indexes into rows_, in numbering order

@@ -90,6 +90,8 @@ TEST_F(FrmMoveTest, SliceGoesToItsPositionInTheRest) {
   EXPECT_EQ(MoveInName("abcde", 4, 5, 1), "deabc");
 }
 
+TEST_F(FrmMoveTest, PreviewMovesInTheStemAloneDotsIncluded) { EXPECT_EQ(MoveInStem("ab.cd", 1, 2, 3), ".cabd"); }
+
 TEST_F(FrmMoveTest, PositionsBeyondTheStemGiveShorterPieces) {
   EXPECT_EQ(MoveInName("ab.txt", 1, 2, 9), "ab.txt");
   EXPECT_EQ(MoveInName("ab.txt", 5, 6, 1), "ab.txt");

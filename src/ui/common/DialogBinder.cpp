@@ -1,5 +1,6 @@
 #include "ui/common/DialogBinder.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -152,7 +153,9 @@ void ReadWidgetsIntoModel(dialog::DialogModel& model, const QWidget& window) {
 QStringList InputsWithoutWidget(const dialog::DialogModel& model, const QWidget& window) {
   QStringList missing;
   for (const DialogInput& input : model.Inputs()) {
-    if (WidgetOf(input, window) == nullptr) missing << ToQString(input.Key());
+    // A menu entry is an action, not a widget.
+    const bool isAction = input.kind == InputKind::NoValue && window.findChild<QAction*>(ToQString(input.Key()));
+    if (WidgetOf(input, window) == nullptr && !isAction) missing << ToQString(input.Key());
   }
   return missing;
 }

@@ -7,7 +7,7 @@
 namespace nomra::ui {
 
 bool NameKeyFilter::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress) {
+  if (event->type() == QEvent::KeyPress && (!active_ || active_())) {
     const QString text = static_cast<QKeyEvent*>(event)->text();
     for (const char32_t character : text.toUcs4()) {
       if (base::IsForbiddenNameCharacter(character)) return true;

@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "base/NameSplit.h"
+#include "core/ListState.h"
 #include "rename/ActionFrame.h"
 #include "ui/common/DialogBinder.h"
 #include "ui/common/DialogButtons.h"
@@ -42,6 +44,31 @@ ActionDialogWindow::ActionDialogWindow(std::unique_ptr<rename::ActionDialog> act
 
 ActionDialogWindow::~ActionDialogWindow() = default;
 
+void ActionDialogWindow::ShowModel() {
+  showingModel_ = true;
+  ShowModelInWidgets(action_->Model(), *this);
+  showingModel_ = false;
+}
+
+void ActionDialogWindow::FollowEnabling(const std::function<bool(std::string_view key)>& isEnabled) {
+  if (showingModel_) return;
+  ReadWidgetsIntoModel(action_->Model(), *this);
+  for (const dialog::DialogInput& input : action_->Model().Inputs()) {
+    if (auto* widget = findChild<QWidget*>(ToQString(input.Key()))) widget->setEnabled(isEnabled(input.Key()));
+  }
+}
+
+void ActionDialogWindow::WithoutApply() { apply_->hide(); }
+
+std::vector<std::string> ActionDialogWindow::PendingStems() const {
+  std::vector<std::string> stems;
+  const core::ListState& state = services_.context.State();
+  for (int row = 1; row <= state.list.Count(); ++row) {
+    stems.push_back(base::NameOnly(state.list.Item(row)[core::kColNewName]));
+  }
+  return stems;
+}
+
 void ActionDialogWindow::FinishBuilding() {
   LocaliseDialog(*this, services_.catalog, services_.mainWindow, services_.appTitle);
   usualCaption_ = windowTitle();
@@ -49,7 +76,7 @@ void ActionDialogWindow::FinishBuilding() {
   for (QLineEdit* edit : findChildren<QLineEdit*>()) edit->installEventFilter(this);
   // The model holds what the dialog shows when nothing is stored.
   rename::LoadActionDialog(*action_, services_.context);
-  ShowModelInWidgets(action_->Model(), *this);
+  ShowModel();
   AfterInputsShown();
 }
 
@@ -69,8 +96,13 @@ void ActionDialogWindow::OnFirstActivation() {
     ok_->setFocus();
   }
   ReadWidgetsIntoModel(action_->Model(), *this);
+  // A dialog that found nothing to do as it opened closes at once.
+  if (action_->ClosesAtOnce()) {
+    QTimer::singleShot(0, this, &QDialog::reject);
+    return;
+  }
   const bool okAtOnce = rename::ActivateActionDialog(*action_, services_.context, true);
-  ShowModelInWidgets(action_->Model(), *this);
+  ShowModel();
   AfterInputsShown();
   // Once the dialog's own loop runs, so that the close ends it.
   if (okAtOnce) QTimer::singleShot(0, this, &ActionDialogWindow::cmdOK);
@@ -85,7 +117,7 @@ void ActionDialogWindow::cmdApply() {
   }
   RunShowingFault(services_.context.User(), [this] { rename::ApplyActionDialog(*action_, services_.context); });
   // An action may tidy its inputs while it runs; the dialog shows them so.
-  ShowModelInWidgets(action_->Model(), *this);
+  ShowModel();
   AfterInputsShown();
   if (disable) {
     apply_->setEnabled(true);

@@ -4,6 +4,9 @@
 
 #include <functional>
 #include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "lang/MessageCatalog.h"
 #include "rename/ActionContext.h"
@@ -50,6 +53,18 @@ class ActionDialogWindow : public QDialog {
   // inputs are enabled.
   virtual void AfterInputsShown() {}
 
+  // Reads the widgets into the model and enables each input's widget as
+  // `isEnabled` says of its key: the dialogs' rules of which inputs a
+  // choice leaves usable live in the engine.
+  void FollowEnabling(const std::function<bool(std::string_view key)>& isEnabled);
+  // The model's values into the widgets. While they go in, FollowEnabling
+  // does nothing: a half-shown model must not be read back.
+  void ShowModel();
+  // Hides cmdApply, for a dialog whose only action is its OK.
+  void WithoutApply();
+  // The stems of the pending names, one per row, for frmPos.
+  std::vector<std::string> PendingStems() const;
+
   void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   const ActionWindowServices& Services() const { return services_; }
@@ -64,6 +79,7 @@ class ActionDialogWindow : public QDialog {
   QPushButton* ok_ = nullptr;
   QString usualCaption_;
   bool activated_ = false;
+  bool showingModel_ = false;
 };
 
 }  // namespace nomra::ui

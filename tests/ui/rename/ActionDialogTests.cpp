@@ -207,9 +207,12 @@ TEST_F(ActionDialogTest, ExtensionFieldRefusesDotsAndShowsTheCleanedText) {
 TEST_F(ActionDialogTest, ActionsWithoutTheirDialogYetStayDisabled) {
   Open();
   AddFiles({"a.txt"});
-  EXPECT_TRUE(MainTool("Rename05")->isEnabled());
-  EXPECT_TRUE(Menu("mnuRename05")->isEnabled());
-  for (const char* key : {"Rename01", "Rename02", "Rename06", "Rename10"}) {
+  for (const char* key :
+       {"Rename01", "Rename02", "Rename03", "Rename04", "Rename05", "Rename06", "Rename08", "Rename10"}) {
+    EXPECT_TRUE(MainTool(key)->isEnabled()) << key;
+    EXPECT_TRUE(Menu(QString("mnu") + key)->isEnabled()) << key;
+  }
+  for (const char* key : {"Rename07", "Rename09"}) {
     EXPECT_FALSE(MainTool(key)->isEnabled()) << key;
     EXPECT_TRUE(window->IsNotYetBuilt("BtnBarMain", key)) << key;
   }
