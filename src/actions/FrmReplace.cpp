@@ -1,7 +1,9 @@
 #include "actions/FrmReplace.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "actions/ActionNumbers.h"
 #include "base/CaseMap.h"
@@ -56,6 +58,29 @@ bool Removes(const dialog::DialogModel& model) { return model.IsSelected("optRem
 
 bool Holds(std::u32string_view set, char32_t c) { return set.find(c) != std::u32string_view::npos; }
 
+// A set of characters asked once for every character of every name: a bit
+// per character of the first plane, a sorted list beyond it.
+class CharacterSet {
+ public:
+  explicit CharacterSet(std::u32string_view chars) : plane_(0x10000, false) {
+    for (const char32_t c : chars) {
+      if (c < 0x10000) {
+        plane_[c] = true;
+      } else {
+        beyond_.push_back(c);
+      }
+    }
+    std::sort(beyond_.begin(), beyond_.end());
+  }
+  bool Holds(char32_t c) const {
+    return c < 0x10000 ? static_cast<bool>(plane_[c]) : std::binary_search(beyond_.begin(), beyond_.end(), c);
+  }
+
+ private:
+  std::vector<bool> plane_;
+  std::u32string beyond_;
+};
+
 // The characters of `chars` from the 1-based position `from` on; none
 // beyond the end.
 std::u32string From(const std::u32string& chars, long from) {
@@ -94,10 +119,17 @@ std::u32string ByPosition(const std::u32string& stem, Where where, const Positio
   return {};
 }
 
-std::u32string EachCharacter(const std::u32string& stem, std::u32string_view set, bool inSet,
+std::u32string EachCharacter(const std::u32string& stem, const CharacterSet& set, bool inSet,
                              const std::u32string& with) {
   std::u32string out;
-  for (const char32_t c : stem) out += Holds(set, c) == inSet ? with : std::u32string(1, c);
+  out.reserve(stem.size());
+  for (const char32_t c : stem) {
+    if (set.Holds(c) == inSet) {
+      out += with;
+    } else {
+      out += c;
+    }
+  }
   return out;
 }
 
@@ -244,7 +276,7 @@ void FrmReplace::Run(const rename::ActionContext& context) {
   const Where where = WhereOf(model);
   const std::string& find = model.Text(kFind);
   const std::string& with = model.Text(kWith);
-  const std::u32string findChars = base::ToChars(find);
+  const CharacterSet findSet(base::ToChars(find));
   const std::u32string withChars = base::ToChars(with);
   std::optional<base::RegexReplace> regex;
   if (what == What::Text && model.Number(kRegex) == 1) {
@@ -261,12 +293,8 @@ void FrmReplace::Run(const rename::ActionContext& context) {
     switch (what) {
       case What::Text: out = regex ? regex->ReplaceAll(stem) : base::ReplaceText(stem, find, with); break;
       case What::Position: out = base::FromChars(ByPosition(base::ToChars(stem), where, at, withChars)); break;
-      case What::Following:
-        out = base::FromChars(EachCharacter(base::ToChars(stem), findChars, true, withChars));
-        break;
-      case What::AllExcept:
-        out = base::FromChars(EachCharacter(base::ToChars(stem), findChars, false, withChars));
-        break;
+      case What::Following: out = base::FromChars(EachCharacter(base::ToChars(stem), findSet, true, withChars)); break;
+      case What::AllExcept: out = base::FromChars(EachCharacter(base::ToChars(stem), findSet, false, withChars)); break;
     }
     // A stem is never removed whole: nothing left keeps the name as it was.
     std::string name = out.empty() ? row[core::kColNewName] : out + extension;

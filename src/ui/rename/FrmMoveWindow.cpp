@@ -25,6 +25,7 @@ FrmMoveWindow::FrmMoveWindow(ActionWindowServices services)
   auto* rows = new QScrollBar(Qt::Vertical, this);
   rows->setObjectName("VScroll1");
   rows->setRange(1, std::max(1, Services().context.State().list.Count()));
+  rows->setFixedHeight(name->sizeHint().height());
   AddLabelledWidget(*grid, 0, "lblChr", "Select the characters to move:", *name);
   grid->addWidget(rows, 0, 2);
   QLineEdit* from = NamedEdit(*this, "txtFrom");
