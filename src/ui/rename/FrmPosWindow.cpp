@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -98,6 +99,25 @@ std::optional<FrmPosWindow::Result> FrmPosWindow::Pick(actions::PickMode mode, s
   FrmPosWindow window(mode, std::move(stems), withSide, catalog, parent);
   if (window.exec() != QDialog::Accepted) return std::nullopt;
   return window.Current();
+}
+
+void PickRangeInto(QWidget& dialog, const PickedRangeTargets& targets, std::vector<std::string> stems,
+                   const lang::MessageCatalog& catalog) {
+  const auto checked = [&dialog](const QString& name) { return dialog.findChild<QRadioButton*>(name)->isChecked(); };
+  const actions::PickMode mode = checked(targets.firstChoice)  ? actions::PickMode::First
+                                 : checked(targets.lastChoice) ? actions::PickMode::Last
+                                                               : actions::PickMode::FromTo;
+  const auto picked = FrmPosWindow::Pick(mode, std::move(stems), false, catalog, &dialog);
+  if (!picked) return;
+  const auto show = [&dialog](const QString& bar, const QString& box, long value) {
+    ShowPickedNumber(dialog, bar, box, value, false);
+  };
+  if (mode == actions::PickMode::First) show(targets.firstBar, targets.firstBox, picked->picked.first);
+  if (mode == actions::PickMode::Last) show(targets.lastBar, targets.lastBox, picked->picked.last);
+  if (mode == actions::PickMode::FromTo) {
+    show(targets.fromBar, targets.fromBox, picked->picked.from);
+    show(targets.toBar, targets.toBox, picked->picked.to);
+  }
 }
 
 }  // namespace nomra::ui

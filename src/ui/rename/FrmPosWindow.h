@@ -1,5 +1,6 @@
 #pragma once
 #include <QDialog>
+#include <QString>
 
 #include <optional>
 #include <string>
@@ -49,5 +50,21 @@ class FrmPosWindow final : public QDialog {
   QLabel* position_ = nullptr;
   QComboBox* side_ = nullptr;
 };
+
+// The controls of a dialog that picks a first or last position or a range
+// with frmPos: the radio buttons that choose which, and the box and spin
+// bar each picked number goes to.
+struct PickedRangeTargets {
+  QString firstChoice, lastChoice;
+  QString firstBar, firstBox;
+  QString lastBar, lastBox;
+  QString fromBar, fromBox;
+  QString toBar, toBox;
+};
+
+// Runs frmPos in the mode the dialog's radio buttons choose and writes what
+// was picked into that mode's boxes; a cancel leaves them as they were.
+void PickRangeInto(QWidget& dialog, const PickedRangeTargets& targets, std::vector<std::string> stems,
+                   const lang::MessageCatalog& catalog);
 
 }  // namespace nomra::ui

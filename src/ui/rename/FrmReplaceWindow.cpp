@@ -109,22 +109,10 @@ void FrmReplaceWindow::cmdGetPos() {
     findChild<QLineEdit*>("txtFrom")->setText(findChild<QLineEdit*>("txtTo")->text());
     findChild<QLineEdit*>("txtTo")->setText(from);
   }
-  const bool first = findChild<QRadioButton*>("optChrFirst")->isChecked();
-  const bool last = findChild<QRadioButton*>("optChrLast")->isChecked();
-  const actions::PickMode mode = first  ? actions::PickMode::First
-                                 : last ? actions::PickMode::Last
-                                        : actions::PickMode::FromTo;
-  const auto picked = FrmPosWindow::Pick(mode, PendingStems(), false, Services().catalog, this);
-  if (!picked) return;
-  const auto set = [this](const char* bar, const char* box, long value) {
-    ShowPickedNumber(*this, bar, box, value, false);
-  };
-  if (mode == actions::PickMode::First) set("VScroll1(0)", "txtPos(0)", picked->picked.first);
-  if (mode == actions::PickMode::Last) set("VScroll1(1)", "txtPos(1)", picked->picked.last);
-  if (mode == actions::PickMode::FromTo) {
-    set("VScrollVon", "txtFrom", picked->picked.from);
-    set("VScrollBis", "txtTo", picked->picked.to);
-  }
+  PickRangeInto(*this,
+                {"optChrFirst", "optChrLast", "VScroll1(0)", "txtPos(0)", "VScroll1(1)", "txtPos(1)", "VScrollVon",
+                 "txtFrom", "VScrollBis", "txtTo"},
+                PendingStems(), Services().catalog);
 }
 
 }  // namespace nomra::ui

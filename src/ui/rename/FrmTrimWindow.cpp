@@ -50,22 +50,10 @@ void FrmTrimWindow::FollowChoice() {
 }
 
 void FrmTrimWindow::cmdGetPos() {
-  const bool first = findChild<QRadioButton*>("opt1(1)")->isChecked();
-  const bool last = findChild<QRadioButton*>("opt1(2)")->isChecked();
-  const actions::PickMode mode = first  ? actions::PickMode::First
-                                 : last ? actions::PickMode::Last
-                                        : actions::PickMode::FromTo;
-  const auto picked = FrmPosWindow::Pick(mode, PendingStems(), false, Services().catalog, this);
-  if (!picked) return;
-  const auto set = [this](const char* bar, const char* box, long value) {
-    ShowPickedNumber(*this, bar, box, value, false);
-  };
-  if (mode == actions::PickMode::First) set("VScrollPos(0)", "txtPos(0)", picked->picked.first);
-  if (mode == actions::PickMode::Last) set("VScrollPos(1)", "txtPos(1)", picked->picked.last);
-  if (mode == actions::PickMode::FromTo) {
-    set("VScrollFrom", "txtFrom", picked->picked.from);
-    set("VScrollTo", "txtTo", picked->picked.to);
-  }
+  PickRangeInto(*this,
+                {"opt1(1)", "opt1(2)", "VScrollPos(0)", "txtPos(0)", "VScrollPos(1)", "txtPos(1)", "VScrollFrom",
+                 "txtFrom", "VScrollTo", "txtTo"},
+                PendingStems(), Services().catalog);
 }
 
 }  // namespace nomra::ui
