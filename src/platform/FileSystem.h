@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/InputFile.h"
 #include "platform/OpenFile.h"
 
 namespace nomra::platform {
@@ -152,6 +153,10 @@ class FileSystem {
     int error = 0;
     return ReadFile(path, error);
   }
+
+  // Opens a file for reading parts of it; nothing, with the errno in
+  // `error`, when it is missing, a folder, or can't be read.
+  virtual std::unique_ptr<InputFile> OpenForReading(const std::string& path, int& error) = 0;
 
   // A file that must not exist yet, holding `content`, readable by its owner
   // alone. Nothing is left behind when it fails.

@@ -35,6 +35,13 @@ class FaultyFileSystem final : public ForwardingFileSystem {
     }
     return real.ReadFile(path, error);
   }
+  std::unique_ptr<platform::InputFile> OpenForReading(const std::string& path, int& error) override {
+    if (const int fault = ReadFault(path)) {
+      error = Refuse(fault);
+      return nullptr;
+    }
+    return real.OpenForReading(path, error);
+  }
   bool ListFolder(const std::string& folder, const EntryVisitor& visit) override {
     if (IsLocked(AsFolder(folder))) return Refuse(false);
     return real.ListFolder(folder, visit);

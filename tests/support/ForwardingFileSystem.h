@@ -42,6 +42,9 @@ class ForwardingFileSystem : public platform::FileSystem {
   std::optional<std::string> ReadFile(const std::string& path, int& error) override {
     return real.ReadFile(path, error);
   }
+  std::unique_ptr<platform::InputFile> OpenForReading(const std::string& path, int& error) override {
+    return real.OpenForReading(path, error);
+  }
   int WriteNewFile(const std::string& path, std::string_view content) override {
     return real.WriteNewFile(path, content);
   }

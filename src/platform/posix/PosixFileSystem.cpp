@@ -19,6 +19,7 @@
 #include "platform/posix/FileLocks.h"
 #include "platform/posix/FileProperties.h"
 #include "platform/posix/NoReplaceRename.h"
+#include "platform/posix/PosixInputFile.h"
 
 namespace nomra::platform {
 
@@ -240,6 +241,10 @@ int PosixFileSystem::MakeFolderPath(const std::string& path) {
 
 std::optional<std::string> PosixFileSystem::ReadFile(const std::string& path, int& error) {
   return ReadWholeFile(path, error);
+}
+
+std::unique_ptr<InputFile> PosixFileSystem::OpenForReading(const std::string& path, int& error) {
+  return OpenInputFile(path, error);
 }
 
 int PosixFileSystem::WriteNewFile(const std::string& path, std::string_view content) {

@@ -28,6 +28,7 @@ class PosixFileSystem final : public FileSystem {
 
   using FileSystem::ReadFile;
   std::optional<std::string> ReadFile(const std::string& path, int& error) override;
+  std::unique_ptr<InputFile> OpenForReading(const std::string& path, int& error) override;
   int WriteNewFile(const std::string& path, std::string_view content) override;
   int WriteFile(const std::string& path, std::string_view content, const std::string& permissionsFrom) override;
   int ReplaceFile(const std::string& path, std::string_view content) override;
