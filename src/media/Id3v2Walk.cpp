@@ -44,7 +44,8 @@ std::string CommentText(const std::string& data) {
   if (nul != std::string_view::npos && nul < 5) {
     start = nul + 1;
   } else {
-    const std::string_view head = raw.substr(0, 5);
+    // A mark that starts at the fifth byte still counts.
+    const std::string_view head = raw.substr(0, 6);
     std::size_t mark = head.find("\xFF\xFE");
     if (mark == std::string_view::npos) mark = head.find("\xFE\xFF");
     if (mark != std::string_view::npos) start = mark + 2;
