@@ -15,6 +15,7 @@
 #include "base/Utf8.h"
 #include "lang/MessageKeys.h"
 #include "rename/ActionScope.h"
+#include "structure/FileTagSteps.h"
 #include "structure/LanguageNumber.h"
 #include "structure/StructureEngine.h"
 
@@ -300,7 +301,7 @@ void FrmReplace::Run(const rename::ActionContext& context) {
     std::string name = out.empty() ? row[core::kColNewName] : out + extension;
     if (name.find('<') != std::string::npos) {
       row[core::kColNewName] = name;
-      name = structure::EvaluateStructure(row, "");
+      name = structure::EvaluateStructure(row, "", structure::FileTagSteps(context.fileSystem));
     }
     return name;
   });

@@ -9,6 +9,7 @@
 #include "cli/HelpText.h"
 #include "cli/HistoryRun.h"
 #include "cli/ScriptSteps.h"
+#include "cli/TagsCommand.h"
 #include "cli/UsageError.h"
 
 namespace nomra::cli {
@@ -20,6 +21,9 @@ int RunCliArguments(platform::Platform& system, const std::vector<std::string>& 
   }
   if (!arguments.empty() && arguments.front() == "scripts") {
     return RunScriptsCommand(system, {arguments.begin() + 1, arguments.end()}, out, messages);
+  }
+  if (!arguments.empty() && arguments.front() == kTagsCommand) {
+    return RunTagsCommand(system, {arguments.begin() + 1, arguments.end()}, out, messages);
   }
   if (!arguments.empty() && arguments.front() == kHistoryCommand) {
     return RunHistoryCommand(system, {arguments.begin() + 1, arguments.end()}, out, messages);

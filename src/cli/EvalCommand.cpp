@@ -7,6 +7,7 @@
 #include "cli/LoadSources.h"
 #include "core/ExifDateReader.h"
 #include "shell/Startup.h"
+#include "structure/FileTagSteps.h"
 #include "structure/StructureEngine.h"
 
 namespace nomra::cli {
@@ -59,6 +60,7 @@ int RunEvalCommand(platform::Platform& system, const std::vector<std::string>& a
   session.Start(paths);
   LoadSources(session, request.sources);
 
+  const structure::FileTagSteps fileTags(system.Files());
   bool faulted = frontEnd.FaultShown();
   bool first = true;
   if (request.json) out << '[';
@@ -66,7 +68,7 @@ int RunEvalCommand(platform::Platform& system, const std::vector<std::string>& a
     const std::string& path = session.state.list.Item(row).key;
     std::string result;
     try {
-      result = structure::EvaluateStructure(session.state.list.Item(row), request.structure);
+      result = structure::EvaluateStructure(session.state.list.Item(row), request.structure, fileTags);
     } catch (const base::RuntimeFault& fault) {
       messages << "nomra-cli: eval: " << path << ": " << fault.what() << '\n';
       faulted = true;

@@ -74,6 +74,7 @@ void WriteHelp(std::ostream& out) {
   out << "       nomra-cli [OPTIONS] --playlist FILE [PATH...]\n";
   out << "       nomra-cli scripts [--data-dir DIR] [--json]\n";
   out << "       nomra-cli eval STRUCTURE PATH... [--data-dir DIR] [--json]\n";
+  out << "       nomra-cli tags FILE... [--json]\n";
   out << "       nomra-cli history [--undo N[,N...] | --clear] [--data-dir DIR] [--json]\n\n";
   WriteWrapped(out,
                "Loads each PATH into the list (a folder with everything in it, subfolders included) and the "
@@ -97,6 +98,15 @@ void WriteHelp(std::ostream& out) {
                "with path and result. A file whose evaluation meets a fault is printed on stderr and makes the "
                "exit status 1.");
   out << kIndent << "Example: nomra-cli eval '<NAME>_<NAME_M(2,5)>_<UC><EXT></UC>.<EXT>' ~/Pictures\n";
+  out << "  tags FILE... [--json]\n";
+  WriteWrapped(out,
+               "Prints what the readers find in each FILE: the first MPEG audio frame's header (version, layer, "
+               "bit rate, frequency, channel mode, frame size, length), the ID3v1 record and every ID3v2 frame "
+               "by its id, and what each file tag of a name structure gives for the file (<ID3_Artist>, "
+               "<ID3_SongTitle>, <MP3_Length>, <CRC32>, <CRC32_D> and the rest). Changes nothing. With --json, "
+               "an array of objects with path, mpeg, id3v1, id3v2 (null where there is none) and tags. A file "
+               "that can't be read is printed on stderr and makes the exit status 1.");
+  out << kIndent << "Example: nomra-cli tags ~/Music/track01.mp3\n";
   WriteHistoryCommand(out);
   out << "\nExit status:\n";
   out << kIndent << "0  success\n";

@@ -9,6 +9,7 @@
 #include "lang/MessageKeys.h"
 #include "rename/ActionDialog.h"
 #include "structure/ApplyStructure.h"
+#include "structure/FileTagSteps.h"
 #include "structure/PreviewRow.h"
 #include "structure/StructureEngine.h"
 
@@ -99,8 +100,8 @@ void FrmNameStructure::RefreshPreview() {
   // key typed would be in the way of mending it.
   std::string result;
   try {
-    result =
-        EvaluateStructure(context_.State().list.Item(dialog_.Number(kPreviewScrollBar)), dialog_.Text(kStructureInput));
+    result = EvaluateStructure(context_.State().list.Item(dialog_.Number(kPreviewScrollBar)),
+                               dialog_.Text(kStructureInput), FileTagSteps(context_.fileSystem));
   } catch (const base::RuntimeFault& fault) {
     result = fault.what();
   }
@@ -164,7 +165,8 @@ bool FrmNameStructure::CheckStructure() {
   const SyntaxTexts texts{catalog_.GetText(lang::kMessagesSection, lang::kCheckInputQuestion),
                           catalog_.GetText(lang::kMessagesSection, lang::kCorrectSyntaxText)};
   try {
-    lastFailure_ = CheckStructureSyntax(context_.State().list, dialog_.Text(kStructureInput), texts);
+    lastFailure_ = CheckStructureSyntax(context_.State().list, dialog_.Text(kStructureInput), texts,
+                                        FileTagSteps(context_.fileSystem));
   } catch (const base::RuntimeFault& fault) {
     // The test evaluation met one of the language's faults: the structure
     // can't be used as it stands.

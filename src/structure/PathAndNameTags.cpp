@@ -17,7 +17,6 @@ namespace nomra::structure {
 namespace {
 
 constexpr char kNoNumber[] = "<No_Number>";
-constexpr int kIgnoreCase = 1;
 
 // A numeric argument after find( is resolved: its number, or nothing.
 std::optional<double> NumericArgument(const std::string& arg, std::string_view haystack) {
@@ -49,10 +48,6 @@ std::string FolderName(std::string_view folderColumn) {
 
 // Most structures hold few of the plain tags: a tag that isn't there costs
 // a look, not a new text.
-void ReplaceTag(std::string& s, std::string_view tag, std::string_view value) {
-  if (HoldsTagNoCase(s, tag)) s = base::ReplaceText(s, tag, value, 1, base::kReplaceAll, kIgnoreCase);
-}
-
 }  // namespace
 
 void ReplacePathTags(std::string& s, std::string_view folderColumn) {

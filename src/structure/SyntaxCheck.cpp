@@ -71,13 +71,13 @@ std::optional<SyntaxFailure> CheckCaseBrackets(std::string_view text, std::strin
 }
 
 std::optional<SyntaxFailure> CheckStructureSyntax(core::FileList& list, std::string_view structure,
-                                                  const SyntaxTexts& texts) {
+                                                  const SyntaxTexts& texts, const MetadataSteps& metadata) {
   if (auto failure = CheckBracketWalk(structure, texts)) return failure;
   for (const std::string_view code : kCheckedCaseCodes) {
     if (auto failure = CheckCaseBrackets(structure, code, texts)) return failure;
   }
   if (list.Count() == 0) return std::nullopt;
-  const std::string result = EvaluateStructure(list.Item(1), structure);
+  const std::string result = EvaluateStructure(list.Item(1), structure, metadata);
   if (result.find_first_of("<>") == std::string::npos) return std::nullopt;
   return Failure(lang::kStructureError3, {texts.checkInput + kLineBreaks + texts.correctSyntax});
 }

@@ -5,6 +5,7 @@
 
 #include "core/FileList.h"
 #include "core/FrontEnd.h"
+#include "structure/MetadataSteps.h"
 
 namespace nomra::structure {
 
@@ -35,6 +36,7 @@ std::optional<SyntaxFailure> CheckCaseBrackets(std::string_view text, std::strin
 // ">". An empty list has no row to test on, so that step is left out there.
 // A run-time fault of the test evaluation is thrown on to the caller.
 std::optional<SyntaxFailure> CheckStructureSyntax(core::FileList& list, std::string_view structure,
-                                                  const SyntaxTexts& texts);
+                                                  const SyntaxTexts& texts,
+                                                  const MetadataSteps& metadata = NoMetadataReaders());
 
 }  // namespace nomra::structure

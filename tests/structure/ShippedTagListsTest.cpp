@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "lang/MessageCatalog.h"
+#include "structure/FileTagSteps.h"
 #include "structure/SyntaxCheck.h"
 #include "structure/TagChoices.h"
 #include "support/ListFixture.h"
@@ -76,6 +77,20 @@ TEST_F(ShippedTagListsTest, NameAndFunctionTagsResolveOnARealFile) {
     if (tag.starts_with("<DT(")) continue;  // the dates come with their reader
     EXPECT_EQ(CheckStructureSyntax(state.list, tag, {}), std::nullopt) << tag;
   }
+}
+
+TEST_F(ShippedTagListsTest, EveryMp3AndChecksumTagOfferedResolvesOnARealFile) {
+  AddFiles({"Music/Rock/first-song.mp3"});
+  const FileTagSteps readers(fileSystem);
+  int checked = 0;
+  for (const std::string list : {"cmbMP3Tag", "cmbDOSTag"}) {
+    for (const TagChoice& choice : ReadTagChoices(Shipped(kLanguageFiles[0]), list)) {
+      if (choice.tag.starts_with("<DOSNAME")) continue;  // the short names come with their reader
+      EXPECT_EQ(CheckStructureSyntax(state.list, choice.tag, {}, readers), std::nullopt) << choice.tag;
+      ++checked;
+    }
+  }
+  EXPECT_EQ(checked, 17);
 }
 
 }  // namespace

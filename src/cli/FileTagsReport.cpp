@@ -1,0 +1,120 @@
+#include "cli/FileTagsReport.h"
+
+#include <cerrno>
+
+#include "base/Failure.h"
+#include "media/Crc32.h"
+#include "media/Mp3Infos.h"
+
+namespace nomra::cli {
+
+namespace {
+
+std::string YesNo(bool value) { return value ? "yes" : "no"; }
+
+FileTagsReport::Fields MpegFields(const media::Mp3Infos& infos) {
+  const media::MpegHeader& h = infos.Header();
+  return {
+      {"position", std::to_string(h.headerPosition)},
+      {"version", media::VersionText(h.version)},
+      {"layer", media::LayerText(h.layer)},
+      {"bitrate", std::to_string(infos.BitrateKbps()) + " kbit/s"},
+      {"frequency", std::to_string(h.frequency) + " Hz"},
+      {"channel mode", media::ChannelModeText(h.channelMode)},
+      {"mode extension", std::to_string(h.channelModeExtension)},
+      {"emphasis", media::EmphasisText(h.emphasis)},
+      {"crc protected", YesNo(h.crcProtected)},
+      {"padding", YesNo(h.padding)},
+      {"private", YesNo(h.privateBit)},
+      {"copyright", YesNo(h.copyright)},
+      {"original", YesNo(h.original)},
+      {"file size", std::to_string(h.fileSize)},
+      {"frame size", std::to_string(h.frameSize)},
+      {"frames", std::to_string(h.frames)},
+      {"seconds", std::to_string(h.seconds)},
+  };
+}
+
+FileTagsReport::Fields Id3v1Fields(const media::Mp3Infos& infos) {
+  const std::string genre = infos.Id3GenreV1();
+  const char* name = media::Id3v1GenreName(std::stoi(genre));
+  return {
+      {"title", infos.Id3SongTitleV1()},
+      {"artist", infos.Id3ArtistV1()},
+      {"album", infos.Id3AlbumV1()},
+      {"year", infos.Id3YearV1()},
+      {"comment", infos.Id3CommentV1()},
+      {"track", infos.Id3TrackV1()},
+      {"genre", name != nullptr ? genre + " (" + name + ")" : genre},
+  };
+}
+
+// Text frames and links show their text; other frames (pictures, private
+// data) their length, as their bytes would mean nothing on a terminal.
+bool IsTextFrame(const std::string& id) {
+  return !id.empty() && (id.front() == 'T' || id.front() == 'W' || id == "COMM" || id == "USLT");
+}
+
+FileTagsReport::Fields Id3v2Fields(const media::Mp3Infos& infos) {
+  FileTagsReport::Fields fields = {{"version", std::to_string(infos.Id3v2Version())},
+                                   {"size", std::to_string(infos.Id3v2Size())}};
+  for (const auto& [id, raw] : infos.Frames()) {
+    if (raw.empty()) continue;
+    fields.emplace_back(id, IsTextFrame(id) ? infos.FrameText(id) : std::to_string(raw.size()) + " bytes");
+  }
+  if (!infos.Id3GenreV2().empty()) fields.emplace_back("genre", infos.Id3GenreV2());
+  return fields;
+}
+
+FileTagsReport::Fields StructureTags(const media::Mp3Infos& infos) {
+  return {
+      {"<ID3_Artist>", infos.Id3Artist()},
+      {"<ID3_Artist_v1>", infos.Id3ArtistV1()},
+      {"<ID3_Artist_v2>", infos.Id3ArtistV2()},
+      {"<ID3_SongTitle>", infos.Id3SongTitle()},
+      {"<ID3_SongTitle_v1>", infos.Id3SongTitleV1()},
+      {"<ID3_SongTitle_v2>", infos.Id3SongTitleV2()},
+      {"<ID3_Album>", infos.Id3Album()},
+      {"<ID3_Album_v1>", infos.Id3AlbumV1()},
+      {"<ID3_Album_v2>", infos.Id3AlbumV2()},
+      {"<ID3_Year>", infos.Id3Year()},
+      {"<ID3_Comment>", infos.Id3Comment()},
+      {"<ID3_Comment_v1>", infos.Id3CommentV1()},
+      {"<ID3_Comment_v2>", infos.Id3CommentV2()},
+      {"<ID3_Track>", infos.Id3Track()},
+      {"<MP3_Length>", infos.Mp3Length()},
+  };
+}
+
+}  // namespace
+
+FileTagsReport ReadFileTags(platform::FileSystem& files, const std::string& path) {
+  FileTagsReport report;
+  report.path = path;
+  const platform::FileStatus status = files.Status(path);
+  if (status.kind == platform::EntryKind::Missing) {
+    report.fault = base::SystemErrorText(status.error != 0 ? status.error : ENOENT);
+    return report;
+  }
+  if (status.kind == platform::EntryKind::Folder) {
+    report.fault = "a folder, not a file";
+    return report;
+  }
+  media::Mp3Infos infos;
+  infos.GetFileInfos(files, path);
+  if (infos.Header().bitrate != 0) report.mpeg = MpegFields(infos);
+  if (infos.HasId3v1()) report.id3v1 = Id3v1Fields(infos);
+  if (infos.HasId3v2()) report.id3v2 = Id3v2Fields(infos);
+  report.tags = StructureTags(infos);
+  int error = 0;
+  const std::optional<std::uint32_t> crc = media::FileCrc32(files, path, error);
+  if (crc) {
+    report.tags.emplace_back("<CRC32>", media::Crc32Hex(*crc));
+    report.tags.emplace_back("<CRC32_D>", media::Crc32Decimal(*crc));
+  } else {
+    report.fault = base::SystemErrorText(error);
+  }
+  return report;
+}
+
+}  // namespace nomra::cli
