@@ -5,19 +5,16 @@
 namespace nomra::media {
 
 bool FilePieces::Fill(std::uint64_t offset, std::size_t wanted) {
-  if (blockValid_ && offset >= blockStart_ && offset < blockStart_ + block_.size()) return true;
+  if (offset >= blockStart_ && offset < blockStart_ + blockSize_) return true;
   const std::size_t size = std::max(wanted, kBlock);
-  block_.resize(size);
-  const std::int64_t got = file_.ReadAt(offset, block_.data(), size);
-  if (got <= 0) {
-    blockValid_ = false;
-    block_.clear();
-    return false;
+  if (size > capacity_) {
+    block_ = std::make_unique_for_overwrite<char[]>(size);
+    capacity_ = size;
   }
-  block_.resize(static_cast<std::size_t>(got));
+  const std::int64_t got = file_.ReadAt(offset, block_.get(), size);
   blockStart_ = offset;
-  blockValid_ = true;
-  return true;
+  blockSize_ = got > 0 ? static_cast<std::size_t>(got) : 0;
+  return blockSize_ > 0;
 }
 
 std::string FilePieces::Padded(std::uint64_t offset, std::size_t count) {
@@ -26,8 +23,8 @@ std::string FilePieces::Padded(std::uint64_t offset, std::size_t count) {
   while (done < count && offset + done < file_.Size()) {
     if (!Fill(offset + done, count - done)) break;
     const std::size_t from = static_cast<std::size_t>(offset + done - blockStart_);
-    const std::size_t take = std::min(count - done, block_.size() - from);
-    std::copy_n(block_.data() + from, take, out.data() + done);
+    const std::size_t take = std::min(count - done, blockSize_ - from);
+    std::copy_n(block_.get() + from, take, out.data() + done);
     done += take;
   }
   return out;
@@ -40,8 +37,8 @@ std::optional<std::string> FilePieces::Exact(std::uint64_t offset, std::size_t c
   while (done < count) {
     if (!Fill(offset + done, count - done)) return std::nullopt;
     const std::size_t from = static_cast<std::size_t>(offset + done - blockStart_);
-    const std::size_t take = std::min(count - done, block_.size() - from);
-    std::copy_n(block_.data() + from, take, out.data() + done);
+    const std::size_t take = std::min(count - done, blockSize_ - from);
+    std::copy_n(block_.get() + from, take, out.data() + done);
     done += take;
   }
   return out;

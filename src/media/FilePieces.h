@@ -1,5 +1,6 @@
 #pragma once
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -27,11 +28,14 @@ class FilePieces {
   // Makes the cache hold `offset`, reading at least `wanted` bytes there.
   bool Fill(std::uint64_t offset, std::size_t wanted);
 
-  static constexpr std::size_t kBlock = 16 * 1024;
+  // The first read of a file asks for 8 KiB, as much as the frame search
+  // needs; asking for more would only cost copying.
+  static constexpr std::size_t kBlock = 8 * 1024;
   platform::InputFile& file_;
-  std::string block_;
+  std::unique_ptr<char[]> block_;
+  std::size_t capacity_ = 0;
+  std::size_t blockSize_ = 0;
   std::uint64_t blockStart_ = 0;
-  bool blockValid_ = false;
 };
 
 }  // namespace nomra::media

@@ -74,7 +74,6 @@ const std::array<std::string_view, 38>& KnownFrameIds() {
 
 Id3v2Walked WalkId3v2Frames(FilePieces& file, std::int32_t tagSize) {
   Id3v2Walked walked;
-  for (const std::string_view id : KnownFrameIds()) walked.frames[std::string(id)] = "";
   // p counts from 1 and starts behind the ten bytes of the tag header.
   std::int64_t p = 11;
   while (p < tagSize) {

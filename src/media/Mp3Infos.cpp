@@ -1,6 +1,7 @@
 #include "media/Mp3Infos.h"
 
 #include <array>
+#include <cerrno>
 #include <limits>
 
 #include "base/Cp1252.h"
@@ -84,11 +85,12 @@ std::string EmphasisText(std::uint8_t emphasis) {
 
 bool Mp3Infos::GetFileInfos(platform::FileSystem& files, const std::string& path) {
   *this = Mp3Infos();
-  if (files.Status(path).kind == platform::EntryKind::Missing) return false;
   int error = 0;
   const auto file = files.OpenForReading(path, error);
-  // A file that is there but can't be read gives nothing, and no word.
-  if (file) Read(*file);
+  // Only a path that leads nowhere is no file; one that is there but can't
+  // be read (a folder, no permission) gives nothing, and no word.
+  if (!file) return error != ENOENT && error != ENOTDIR;
+  Read(*file);
   return true;
 }
 

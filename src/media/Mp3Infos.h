@@ -99,8 +99,8 @@ class Mp3Infos {
   std::string Id3Track() const;
   std::string Id3Genre() const;
 
-  // Every frame read (and every known id, empty until read), keyed by its
-  // id in upper case: raw bytes as stored, the comment's cleaned text.
+  // Every frame read, keyed by its id in upper case: raw bytes as stored,
+  // the comment's cleaned text. An id without a frame reads as empty.
   const std::map<std::string, std::string>& Frames() const { return frames_; }
   // The stored value of a frame id through the text cleaning, as UTF-8.
   std::string FrameText(std::string_view id) const;

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "media/Id3v2Walk.h"
 #include "media/Mp3Bytes.h"
 #include "media/Mp3Infos.h"
 
@@ -265,6 +268,14 @@ TEST(Id3v2, UnknownIdsAreKeptButOnlyKnownOnesAreHandedOut) {
   EXPECT_EQ(infos.Id3SongTitleV2(), "T");
   EXPECT_EQ(infos.Id3Element(23), "");
   EXPECT_EQ(infos.Id3Element(-1), "");
+}
+
+TEST(Id3v2FrameTable, HoldsThe38KnownIdsInWritingOrderWithWxxxLastAndNoWpub) {
+  const auto& ids = KnownFrameIds();
+  EXPECT_EQ(ids.front(), "COMM");
+  EXPECT_EQ(ids[8], "TIT2");
+  EXPECT_EQ(ids.back(), "WXXX");
+  EXPECT_EQ(std::find(ids.begin(), ids.end(), "WPUB"), ids.end());
 }
 
 }  // namespace
