@@ -5,6 +5,7 @@
 #include "base/Failure.h"
 #include "media/Crc32.h"
 #include "media/Mp3Infos.h"
+#include "structure/FileTagSteps.h"
 
 namespace nomra::cli {
 
@@ -67,23 +68,9 @@ FileTagsReport::Fields Id3v2Fields(const media::Mp3Infos& infos) {
 }
 
 FileTagsReport::Fields StructureTags(const media::Mp3Infos& infos) {
-  return {
-      {"<ID3_Artist>", infos.Id3Artist()},
-      {"<ID3_Artist_v1>", infos.Id3ArtistV1()},
-      {"<ID3_Artist_v2>", infos.Id3ArtistV2()},
-      {"<ID3_SongTitle>", infos.Id3SongTitle()},
-      {"<ID3_SongTitle_v1>", infos.Id3SongTitleV1()},
-      {"<ID3_SongTitle_v2>", infos.Id3SongTitleV2()},
-      {"<ID3_Album>", infos.Id3Album()},
-      {"<ID3_Album_v1>", infos.Id3AlbumV1()},
-      {"<ID3_Album_v2>", infos.Id3AlbumV2()},
-      {"<ID3_Year>", infos.Id3Year()},
-      {"<ID3_Comment>", infos.Id3Comment()},
-      {"<ID3_Comment_v1>", infos.Id3CommentV1()},
-      {"<ID3_Comment_v2>", infos.Id3CommentV2()},
-      {"<ID3_Track>", infos.Id3Track()},
-      {"<MP3_Length>", infos.Mp3Length()},
-  };
+  FileTagsReport::Fields fields;
+  for (const structure::Mp3Tag& tag : structure::Mp3Tags()) fields.emplace_back(tag.tag, (infos.*tag.value)());
+  return fields;
 }
 
 }  // namespace

@@ -12,31 +12,6 @@ namespace nomra::structure {
 
 namespace {
 
-// The ID3 and MPEG tags, matched exactly as written, in the order they are
-// replaced.
-using Mp3Value = std::string (media::Mp3Infos::*)() const;
-struct Mp3Tag {
-  std::string_view tag;
-  Mp3Value value;
-};
-constexpr std::array<Mp3Tag, 15> kMp3Tags = {{
-    {"<ID3_Artist>", &media::Mp3Infos::Id3Artist},
-    {"<ID3_Artist_v1>", &media::Mp3Infos::Id3ArtistV1},
-    {"<ID3_Artist_v2>", &media::Mp3Infos::Id3ArtistV2},
-    {"<ID3_SongTitle>", &media::Mp3Infos::Id3SongTitle},
-    {"<ID3_SongTitle_v1>", &media::Mp3Infos::Id3SongTitleV1},
-    {"<ID3_SongTitle_v2>", &media::Mp3Infos::Id3SongTitleV2},
-    {"<ID3_Album>", &media::Mp3Infos::Id3Album},
-    {"<ID3_Album_v1>", &media::Mp3Infos::Id3AlbumV1},
-    {"<ID3_Album_v2>", &media::Mp3Infos::Id3AlbumV2},
-    {"<ID3_Year>", &media::Mp3Infos::Id3Year},
-    {"<ID3_Comment>", &media::Mp3Infos::Id3Comment},
-    {"<ID3_Comment_v1>", &media::Mp3Infos::Id3CommentV1},
-    {"<ID3_Comment_v2>", &media::Mp3Infos::Id3CommentV2},
-    {"<ID3_Track>", &media::Mp3Infos::Id3Track},
-    {"<MP3_Length>", &media::Mp3Infos::Mp3Length},
-}};
-
 // Replaces every exact occurrence, searching on behind each value.
 void ReplaceExactly(std::string& s, std::string_view tag, std::string_view value) {
   std::size_t at = s.find(tag);
@@ -47,6 +22,27 @@ void ReplaceExactly(std::string& s, std::string_view tag, std::string_view value
 }
 
 }  // namespace
+
+const std::array<Mp3Tag, 15>& Mp3Tags() {
+  static constexpr std::array<Mp3Tag, 15> kMp3Tags = {{
+      {"<ID3_Artist>", &media::Mp3Infos::Id3Artist},
+      {"<ID3_Artist_v1>", &media::Mp3Infos::Id3ArtistV1},
+      {"<ID3_Artist_v2>", &media::Mp3Infos::Id3ArtistV2},
+      {"<ID3_SongTitle>", &media::Mp3Infos::Id3SongTitle},
+      {"<ID3_SongTitle_v1>", &media::Mp3Infos::Id3SongTitleV1},
+      {"<ID3_SongTitle_v2>", &media::Mp3Infos::Id3SongTitleV2},
+      {"<ID3_Album>", &media::Mp3Infos::Id3Album},
+      {"<ID3_Album_v1>", &media::Mp3Infos::Id3AlbumV1},
+      {"<ID3_Album_v2>", &media::Mp3Infos::Id3AlbumV2},
+      {"<ID3_Year>", &media::Mp3Infos::Id3Year},
+      {"<ID3_Comment>", &media::Mp3Infos::Id3Comment},
+      {"<ID3_Comment_v1>", &media::Mp3Infos::Id3CommentV1},
+      {"<ID3_Comment_v2>", &media::Mp3Infos::Id3CommentV2},
+      {"<ID3_Track>", &media::Mp3Infos::Id3Track},
+      {"<MP3_Length>", &media::Mp3Infos::Mp3Length},
+  }};
+  return kMp3Tags;
+}
 
 void FileTagSteps::ShortNameAndChecksumTags(core::FileEntry& row, std::string& s) const {
   if (!HoldsTagNoCase(s, "<CRC32>") && !HoldsTagNoCase(s, "<CRC32_D>")) return;
@@ -62,7 +58,7 @@ void FileTagSteps::ShortNameAndChecksumTags(core::FileEntry& row, std::string& s
 void FileTagSteps::Id3AndMpegTags(core::FileEntry& row, std::string& s) const {
   media::Mp3Infos infos;
   infos.GetFileInfos(files_, row.key);
-  for (const Mp3Tag& tag : kMp3Tags) {
+  for (const Mp3Tag& tag : Mp3Tags()) {
     if (s.find(tag.tag) != std::string::npos) ReplaceExactly(s, tag.tag, (infos.*tag.value)());
   }
 }

@@ -1,8 +1,21 @@
 #pragma once
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "media/Mp3Infos.h"
 #include "platform/FileSystem.h"
 #include "structure/MetadataSteps.h"
 
 namespace nomra::structure {
+
+// An ID3 or MPEG tag of the language and the value of the MP3 reader it
+// gives; the tags are matched exactly as written, in this order.
+struct Mp3Tag {
+  std::string_view tag;
+  std::string (media::Mp3Infos::*value)() const;
+};
+const std::array<Mp3Tag, 15>& Mp3Tags();
 
 // The steps that read the file of a row from the disk: the CRC-32 tags
 // and the ID3 and MPEG tags of an MP3. Nothing is kept from one evaluation

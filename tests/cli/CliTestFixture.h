@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "cli/CliProcess.h"
-#include "cli/JsonReader.h"
 #include "core/FileEntry.h"
 #include "platform/Platform.h"
+#include "support/JsonReader.h"
 #include "support/TempFolder.h"
 
 namespace nomra::testing {

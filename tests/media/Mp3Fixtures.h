@@ -1,15 +1,47 @@
 #pragma once
+#include <cstdio>
 #include <cstdlib>
 #include <map>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "media/FlatJson.h"
+#include "support/JsonReader.h"
 #include "support/TempFolder.h"
 
 namespace nomra::testing {
+
+// What mutagen read, one flat JSON object, as field texts: numbers as
+// stod and stoi read them back, true and false as words, null as "".
+// Nothing when the text is no such object, so a broken oracle fails the
+// tests that read it.
+inline std::optional<std::map<std::string, std::string>> OracleFields(const std::string& text) {
+  JsonValue document;
+  try {
+    document = ParseJson(text);
+  } catch (const std::runtime_error&) {
+    return std::nullopt;
+  }
+  if (document.kind != JsonValue::Kind::Object) return std::nullopt;
+  std::map<std::string, std::string> fields;
+  for (const auto& [key, value] : document.members) {
+    switch (value.kind) {
+      case JsonValue::Kind::String: fields[key] = value.text; break;
+      case JsonValue::Kind::Boolean: fields[key] = value.boolean ? "true" : "false"; break;
+      case JsonValue::Kind::Null: fields[key] = ""; break;
+      case JsonValue::Kind::Number: {
+        char text[32];
+        std::snprintf(text, sizeof text, "%.17g", value.number);
+        fields[key] = text;
+        break;
+      }
+      default: return std::nullopt;
+    }
+  }
+  return fields;
+}
 
 // The real MP3 files scripts/make-mp3-fixtures.sh makes from generated
 // sound with lame, id3v2, eyeD3 and mutagen, and what mutagen reads from
@@ -63,7 +95,7 @@ class Mp3Fixtures {
     if (status != 0) problems_ += "\nmake-mp3-fixtures.sh failed with status " + std::to_string(status);
     for (const std::string& name : Names()) {
       const std::string bytes = ReadWholeFile(folder_ + name);
-      auto oracle = FlatJson::Parse(ReadWholeFile(folder_ + name + ".json"));
+      auto oracle = OracleFields(ReadWholeFile(folder_ + name + ".json"));
       if (bytes.empty() || !oracle) {
         problems_ += "\nno file or no oracle for " + name;
         continue;

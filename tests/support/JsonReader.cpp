@@ -1,4 +1,4 @@
-#include "cli/JsonReader.h"
+#include "support/JsonReader.h"
 
 #include <cstdlib>
 #include <stdexcept>
