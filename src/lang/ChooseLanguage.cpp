@@ -64,4 +64,10 @@ std::string NoLanguageFilesText(std::string_view appTitle) {
          " erneut.\n\nNo language files found in the application directory. Please install " + title + " again.";
 }
 
+std::string NoLanguageFilesText(std::string_view appTitle, const std::vector<std::string>& foldersSearched) {
+  std::string text = NoLanguageFilesText(appTitle) + "\n\nGesucht in / Searched in:";
+  for (const std::string& folder : foldersSearched) text += "\n" + folder;
+  return text;
+}
+
 }  // namespace nomra::lang

@@ -9,7 +9,7 @@
 namespace nomra::lang {
 
 enum class LanguageOutcome {
-  NoLanguageFiles,  // show NoLanguageFilesText under kNoLanguageFilesCaption and end
+  NoLanguageFiles,  // show NoLanguageFilesText under kNoLanguageFilesCaption; design captions stay
   Chosen,           // `file` is the language file to use
   UserMustChoose,   // several files and none matches the setting "lng"
 };
@@ -38,5 +38,8 @@ std::vector<LanguageFile> ListLanguageFiles(platform::FileSystem& fileSystem, co
 // The one text the program holds of its own, in German and English.
 inline constexpr char kNoLanguageFilesCaption[] = "Fehler/Error";
 std::string NoLanguageFilesText(std::string_view appTitle);
+// The same text followed by the folders that were searched, one a line, so
+// a broken installation shows where the files should lie.
+std::string NoLanguageFilesText(std::string_view appTitle, const std::vector<std::string>& foldersSearched);
 
 }  // namespace nomra::lang

@@ -38,12 +38,18 @@ std::string FindDataFolder(platform::FileSystem& fileSystem, platform::DataLocat
   return folder;
 }
 
-std::string FindAppFolderFrom(platform::FileSystem& fileSystem, const std::string& executableFolder) {
+std::vector<std::string> AppFolderCandidates(const std::string& executableFolder) {
   const std::string own = base::AddBackslash(executableFolder);
-  if (HoldsAppFiles(fileSystem, own)) return own;
   // The executable's folder comes from the system whole, without "." or
   // "..", so its parent is found by text.
-  const std::string installed = base::FolderOf(base::WithoutTrailingSeparators(own)) + kInstalledAppFolder;
+  return {own, base::FolderOf(base::WithoutTrailingSeparators(own)) + kInstalledAppFolder};
+}
+
+std::string FindAppFolderFrom(platform::FileSystem& fileSystem, const std::string& executableFolder) {
+  const std::vector<std::string> candidates = AppFolderCandidates(executableFolder);
+  const std::string& own = candidates.front();
+  if (HoldsAppFiles(fileSystem, own)) return own;
+  const std::string& installed = candidates.back();
   if (fileSystem.Status(installed).kind == platform::EntryKind::Folder) return installed;
   return own;
 }

@@ -1,5 +1,6 @@
 #pragma once
 #include <string>
+#include <vector>
 
 #include "platform/DataLocations.h"
 #include "platform/FileSystem.h"
@@ -17,6 +18,11 @@ std::string FindDataFolder(platform::FileSystem& fileSystem, platform::DataLocat
 // executable's folder.
 std::string FindAppFolder(platform::FileSystem& fileSystem, platform::DataLocations& locations);
 std::string FindAppFolderFrom(platform::FileSystem& fileSystem, const std::string& executableFolder);
+
+// Where FindAppFolder looks, in its order: the executable's folder and the
+// installed "../share/nomra/" beside it. A message about missing language
+// files names them.
+std::vector<std::string> AppFolderCandidates(const std::string& executableFolder);
 
 // The start-up order over a data folder: create it when missing, copy the
 // first-run files, merge the application folder's "update.nrp" into

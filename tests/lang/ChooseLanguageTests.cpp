@@ -40,6 +40,12 @@ TEST(ChooseLanguage, NoLanguageFilesTextNamesTheApplicationInBothLanguages) {
   EXPECT_STREQ(kNoLanguageFilesCaption, "Fehler/Error");
 }
 
+TEST(ChooseLanguage, NoLanguageFilesTextListsTheFoldersSearched) {
+  const std::string text = NoLanguageFilesText("Nomra", {"/usr/bin/", "/usr/share/nomra/"});
+  EXPECT_TRUE(text.starts_with(NoLanguageFilesText("Nomra"))) << text;
+  EXPECT_TRUE(text.ends_with("\n/usr/bin/\n/usr/share/nomra/")) << text;
+}
+
 TEST(ChooseLanguage, OneLanguageFileIsTakenWithoutReadingTheSetting) {
   Folders folders;
   const auto file = WriteLanguageFile(folders.app, "English.lng", {"[Main]", "lngname=English", "charset=0"});

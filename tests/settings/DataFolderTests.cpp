@@ -2,6 +2,7 @@
 #include <sys/stat.h>
 
 #include <string>
+#include <vector>
 
 #include "settings/CompactIniFile.h"
 #include "settings/DataFolder.h"
@@ -123,6 +124,12 @@ TEST(SettingsDataFolder, AppFolderFallsBackToTheExecutablesFolder) {
   TempFolder temp;
   temp.WriteFile("bin/nomra", "");
   EXPECT_EQ(FindAppFolderFrom(RealFiles(), temp.Path() + "bin/"), temp.Path() + "bin/");
+}
+
+TEST(SettingsDataFolder, AppFolderCandidatesAreTheExecutablesFolderThenTheInstalledOne) {
+  EXPECT_EQ(AppFolderCandidates("/usr/bin"), (std::vector<std::string>{"/usr/bin/", "/usr/share/nomra/"}));
+  EXPECT_EQ(AppFolderCandidates("/opt/nomra/bin/"),
+            (std::vector<std::string>{"/opt/nomra/bin/", "/opt/nomra/share/nomra/"}));
 }
 
 }  // namespace
