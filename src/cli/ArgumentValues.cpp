@@ -73,4 +73,10 @@ std::vector<std::string> SplitPatterns(std::string_view text) {
   return patterns;
 }
 
+std::vector<std::string_view> SortHeadNames() {
+  std::vector<std::string_view> names;
+  for (const auto& [name, head] : kSortHeadNames) names.push_back(name);
+  return names;
+}
+
 }  // namespace nomra::cli

@@ -21,6 +21,9 @@ struct SortRequest {
 // name: folder, old, new, created, modified, exif, size, unsorted.
 std::optional<SortRequest> ParseSortRequest(std::string_view text);
 
+// The names ParseSortRequest knows, in the list's order of the heads.
+std::vector<std::string_view> SortHeadNames();
+
 // The wildcards of "PATTERN;PATTERN;...", empty parts left out.
 std::vector<std::string> SplitPatterns(std::string_view text);
 

@@ -63,6 +63,12 @@ Invocation ParseCommandLine(const std::vector<std::string>& arguments) {
     }
     if (invocation.showHelp || invocation.showVersion) return invocation;
   }
+  if (invocation.integration != IntegrationRequest::None) {
+    if (!invocation.sources.empty() || !invocation.steps.empty()) {
+      throw UsageError("--install-integration and --remove-integration take no PATH and no step");
+    }
+    return invocation;
+  }
   if (invocation.sources.empty()) throw UsageError("no PATH or --playlist given");
   return invocation;
 }

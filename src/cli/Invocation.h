@@ -15,6 +15,9 @@ struct LoadSource {
   std::string path;  // as given
 };
 
+// "Rename with Nomra" in the user's file managers, asked for instead of a run.
+enum class IntegrationRequest { None, Install, Remove };
+
 // What one command line asks for.
 struct Invocation {
   std::vector<LoadSource> sources;      // loaded first, in command-line order
@@ -26,6 +29,7 @@ struct Invocation {
   bool answerYes = false;
   bool showHelp = false;
   bool showVersion = false;
+  IntegrationRequest integration = IntegrationRequest::None;
 };
 
 }  // namespace nomra::cli

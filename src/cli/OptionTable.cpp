@@ -159,9 +159,22 @@ const std::vector<OptionSpec>& OptionTable() {
        "is noted on stderr with its answer.",
        "--yes --edit 'draft.txt' --reject ./docs",
        [](Invocation& invocation, const std::string&) { invocation.answerYes = true; }},
+      {"--install-integration", "", "",
+       "Puts \"Rename with Nomra\" into the file managers of the user: a Dolphin service menu in "
+       "~/.local/share/kio/servicemenus, a Nautilus script in ~/.local/share/nautilus/scripts and a Thunar custom "
+       "action added to ~/.config/Thunar/uca.xml. Each starts the window nomra beside this nomra-cli with the "
+       "chosen files. A file of the user's own that stands where one of these would is left alone and printed "
+       "on stderr; the exit status is then 1. Takes no PATH.",
+       "--install-integration",
+       [](Invocation& invocation, const std::string&) { invocation.integration = IntegrationRequest::Install; }},
+      {"--remove-integration", "", "",
+       "Takes away what --install-integration put there: its two files and its Thunar action, nothing else.",
+       "--remove-integration",
+       [](Invocation& invocation, const std::string&) { invocation.integration = IntegrationRequest::Remove; }},
       {"--help", "-h", "", "Shows this help and ends.", "--help",
        [](Invocation& invocation, const std::string&) { invocation.showHelp = true; }},
-      {"--version", "", "", "Shows the version and ends.", "--version",
+      {"--version", "", "",
+       "Shows the version, the program folder this copy found and the language files in it, and ends.", "--version",
        [](Invocation& invocation, const std::string&) { invocation.showVersion = true; }},
   };
   return table;

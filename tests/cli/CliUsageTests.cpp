@@ -55,6 +55,15 @@ TEST_F(CliUsage, VersionPrintsTheProgramAndItsVersion) {
   EXPECT_NE(result.out.find_first_of("0123456789"), std::string::npos) << result.out;
 }
 
+TEST_F(CliUsage, VersionNamesTheProgramFolderBesideTheBuiltProgramAndItsLanguageFiles) {
+  const CliResult result = Run({"--version"});
+  EXPECT_EQ(result.exitStatus, 0);
+  const std::string cli = NOMRA_CLI_PATH;
+  const std::string folder = cli.substr(0, cli.rfind('/') + 1);
+  EXPECT_NE(result.out.find("\nprogram folder: " + folder + "\n"), std::string::npos) << result.out;
+  EXPECT_NE(result.out.find("\nlanguage files: Deutsch.lng English.lng\n"), std::string::npos) << result.out;
+}
+
 TEST_F(CliUsage, NoArgumentsIsBadUsageWithTheHint) {
   const CliResult result = Run({});
   EXPECT_EQ(result.exitStatus, 2);
