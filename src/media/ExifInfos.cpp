@@ -84,11 +84,10 @@ class ExifFile {
 
  private:
   static std::optional<std::uint64_t> FindPair(std::string_view bytes, std::uint64_t at) {
-    for (std::size_t i = 0; i + 1 < bytes.size(); ++i) {
-      if (at + i < 2) continue;
-      if (static_cast<unsigned char>(bytes[i]) == 0xFF && static_cast<unsigned char>(bytes[i + 1]) == 0xE1) {
-        return at + i;
-      }
+    std::size_t i = at < 2 ? static_cast<std::size_t>(2 - at) : 0;
+    while ((i = bytes.find('\xFF', i)) != std::string_view::npos && i + 1 < bytes.size()) {
+      if (static_cast<unsigned char>(bytes[i + 1]) == 0xE1) return at + i;
+      ++i;
     }
     return std::nullopt;
   }
@@ -488,7 +487,7 @@ bool ExifInfos::Read(platform::InputFile& input) {
     if (!n) return false;
     const auto bytesOfDirectory = static_cast<std::uint64_t>(2 + 12 * *n + 4);
     if (!inSub) {
-      if (bytesOfDirectory > directoryBudget) return true;
+      if (bytesOfDirectory > directoryBudget) return false;
       directoryBudget -= bytesOfDirectory;
       visited.insert(offset);
     }
