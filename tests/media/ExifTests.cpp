@@ -224,6 +224,47 @@ TEST_P(ExifOrder, AnExifPointerToIfd0ReadsIfd0OnceMore) {
   EXPECT_EQ(infos.Tag(0), "4");
 }
 
+TEST(Exif, DirectoriesThatOverlapSoTheyOutgrowTheFileEndTheWalk) {
+  // Empty directories four bytes apart, each one's next field running into
+  // the next one's count: no directory comes twice, yet together they are
+  // half as large again as their bytes. The old program read them all;
+  // the reader stops once they outgrow the file, so a made chain can't run
+  // on for each of its bytes.
+  const ExifBytes b(true);
+  std::string tiff = "II*\0"s + b.U32(8);
+  for (std::uint32_t p = 8; p < 8 + 4 * 400; p += 4) tiff += b.U16(0) + b.U16(p + 4);
+  tiff += b.U16(0) + b.U16(0) + b.U16(0);
+  bool loaded = true;
+  ExifInfos infos = ReadBytes(ExifBytes::Jpeg(tiff), &loaded);
+  EXPECT_TRUE(infos.Loaded());
+  EXPECT_FALSE(loaded);
+  // Directories side by side are read to the end of the chain.
+  std::string sideBySide = "II*\0"s + b.U32(8);
+  for (std::uint32_t p = 8; p < 8 + 6 * 400; p += 6) sideBySide += b.U16(0) + b.U32(p + 6);
+  sideBySide += b.U16(0) + b.U32(0);
+  EXPECT_TRUE(ReadBytes(ExifBytes::Jpeg(sideBySide), &loaded).Loaded());
+  EXPECT_TRUE(loaded);
+}
+
+TEST_P(ExifOrder, ValuesThatShareMoreBytesThanTheFileHoldsEndTheWalk) {
+  // Entries whose values all lie on the same 1,000 bytes: the reader takes
+  // no more value bytes than the file holds, so a made directory can't ask
+  // for gigabytes; real files don't share value bytes.
+  std::vector<ExifBytes::Entry> entries = {{700, kUndefined, 1000, std::string(1000, 'v')}};
+  for (std::uint16_t k = 1; k < 40; ++k) {
+    ExifBytes::Entry shared{static_cast<std::uint16_t>(700 + k), kUndefined, 1000, ""};
+    shared.rawField = 8 + 2 + 12 * 40 + 4;
+    entries.push_back(shared);
+  }
+  bool loaded = true;
+  ExifInfos infos = ReadBytes(ExifBytes::Jpeg(b.Tiff({Directory{entries}})), &loaded);
+  EXPECT_FALSE(loaded);
+  EXPECT_EQ(infos.Tag(700), std::string(1000, 'v'));
+  // The file is some 1,600 bytes: the second 1,000 are more than it holds.
+  EXPECT_EQ(infos.Tag(701), "");
+  EXPECT_EQ(infos.Entries()[1].count, 1000);
+}
+
 TEST_P(ExifOrder, AnOffsetOutsideTheFileEndsTheWalkAndKeepsWhatWasRead) {
   ExifBytes::Entry far = b.Ascii(272, "a model name");
   far.rawField = 0x100000;
