@@ -71,11 +71,11 @@ void WriteHistoryCommand(std::ostream& out) {
 
 void WriteHelp(std::ostream& out) {
   out << "Usage: nomra-cli [OPTIONS] PATH...\n";
-  out << "       nomra-cli [OPTIONS] --playlist FILE [PATH...]\n";
-  out << "       nomra-cli scripts [--data-dir DIR] [--json]\n";
-  out << "       nomra-cli eval STRUCTURE PATH... [--data-dir DIR] [--json]\n";
-  out << "       nomra-cli tags FILE... [--json]\n";
-  out << "       nomra-cli history [--undo N[,N...] | --clear] [--data-dir DIR] [--json]\n\n";
+  out << "   or: nomra-cli [OPTIONS] --playlist FILE [PATH...]\n";
+  out << "   or: nomra-cli scripts [--data-dir DIR] [--json]\n";
+  out << "   or: nomra-cli eval STRUCTURE PATH... [--data-dir DIR] [--json]\n";
+  out << "   or: nomra-cli tags FILE... [--json]\n";
+  out << "   or: nomra-cli history [--undo N[,N...] | --clear] [--data-dir DIR] [--json]\n\n";
   WriteWrapped(out,
                "Loads each PATH into the list (a folder with everything in it, subfolders included) and the "
                "entries of each --playlist, then runs the other options in the order they are given, each one a "
