@@ -3,6 +3,7 @@
 // at the offset tag 37500 gave, as a later caller would run it.
 #include <cstddef>
 #include <cstdint>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -28,9 +29,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         infos.ExifImageDescription(), infos.ExifDate(), infos.Tag(0)}) {
     total += text.size();
   }
+  std::set<std::int32_t> tags;
   for (const nomra::media::ExifEntry& entry : infos.Entries()) {
-    total += entry.Value().size() + infos.MakerNoteTag(entry.tag).size();
+    total += entry.Value().size();
+    tags.insert(entry.tag);
   }
+  for (const std::int32_t tag : tags) total += infos.MakerNoteTag(tag).size();
   sink = total;
   return 0;
 }

@@ -487,8 +487,10 @@ bool ExifInfos::Read(platform::InputFile& input) {
     if (!n) return false;
     const auto bytesOfDirectory = static_cast<std::uint64_t>(2 + 12 * *n + 4);
     if (!inSub) {
-      if (bytesOfDirectory > directoryBudget) return false;
-      directoryBudget -= bytesOfDirectory;
+      // A directory that runs past the end is read up to there, as any.
+      const bool inFile = static_cast<std::uint64_t>(position) + bytesOfDirectory <= file.Size();
+      if (inFile && bytesOfDirectory > directoryBudget) return false;
+      directoryBudget -= std::min(bytesOfDirectory, directoryBudget);
       visited.insert(offset);
     }
     const std::size_t firstEntry = entries_.size();

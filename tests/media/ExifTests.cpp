@@ -280,6 +280,20 @@ TEST_P(ExifOrder, AnOffsetOutsideTheFileEndsTheWalkAndKeepsWhatWasRead) {
   EXPECT_EQ(infos.Entries()[2].tag, 0);
 }
 
+TEST_P(ExifOrder, ADirectoryThatRunsPastTheFilesEndKeepsItsCountOfEntries) {
+  const std::string tiff = b.Tiff({Directory{{b.Short(274, 1), b.Short(296, 2), b.Short(531, 1)}}});
+  std::string jpeg = ExifBytes::Jpeg(tiff);
+  // The file ends inside the second entry.
+  jpeg.resize(jpeg.find("Exif") + 6 + 8 + 2 + 12 + 6);
+  bool loaded = true;
+  ExifInfos infos = ReadBytes(jpeg, &loaded);
+  EXPECT_FALSE(loaded);
+  EXPECT_EQ(infos.Tag(274), "1");
+  EXPECT_EQ(infos.Tag(0), "3");
+  EXPECT_EQ(infos.Entries()[1].tag, 296);
+  EXPECT_EQ(infos.Entries()[1].kind, ExifEntry::Kind::Empty);
+}
+
 TEST_P(ExifOrder, ALongOf2To31OrMoreEndsTheWalk) {
   const std::string tiff = b.Tiff({Directory{{b.Long(256, 0x7FFFFFFF), b.Long(257, 0x80000000), b.Short(274, 1)}}});
   bool loaded = true;
