@@ -11,7 +11,8 @@ BUILD_DIR=${NOMRA_BUILD_DIR:-build}
 PACKAGES=(cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev libutf8proc-dev
           qt6-base-dev libqt6svg6 fonts-dejavu-core dosfstools fusefat locales libpcre2-dev
           clang-format lame id3v2 eyed3 python3-mutagen libtag1-dev imagemagick libimage-exiftool-perl exiv2
-          libisal-dev zlib1g-dev)
+          libisal-dev zlib1g-dev
+          desktop-file-utils appstream help2man librsvg2-bin groff-base)
 
 missing_packages() {
   local p
