@@ -2,9 +2,12 @@
 
 #include <array>
 
+#include "base/CaseMap.h"
 #include "base/Failure.h"
 #include "base/Fault.h"
+#include "base/NameSplit.h"
 #include "media/Crc32.h"
+#include "media/ExifInfos.h"
 #include "media/Mp3Infos.h"
 #include "structure/TextSearch.h"
 
@@ -21,7 +24,51 @@ void ReplaceExactly(std::string& s, std::string_view tag, std::string_view value
   }
 }
 
+// The EXIF tags and the entries they read. The resolutions are divided
+// out; where that fails the stored text stands.
+struct ExifTag {
+  std::string_view tag;
+  std::int32_t id;
+  bool resolution;
+};
+constexpr std::array<ExifTag, 8> kExifTags = {{
+    {"<EXIF_ImageW>", 40962, false},
+    {"<EXIF_ImageH>", 40963, false},
+    {"<EXIF_XResolution>", 282, true},
+    {"<EXIF_YResolution>", 283, true},
+    {"<EXIF_Make>", 271, false},
+    {"<EXIF_Model>", 272, false},
+    {"<EXIF_ImageNumber>", 37393, false},
+    {"<EXIF_ImageDescription>", 270, false},
+}};
+
+std::string ResolutionText(const std::string& stored) {
+  const std::string divided = media::ExifInfos::Resolution(stored);
+  return divided.empty() ? stored : divided;
+}
+
+// The load goes by the pending name's extension, not by the file on disk.
+bool NamedAsJpeg(std::string_view pending) {
+  const std::string extension = base::ToLower(base::ExtensionOnly(pending, true));
+  return extension == ".jpg" || extension == ".jpeg";
+}
+
 }  // namespace
+
+void FileTagSteps::ExifTags(core::FileEntry& row, std::string_view pending, std::string& s) const {
+  if (!HoldsTagNoCase(s, "<EXIF")) return;
+  // A file that is not loaded gives "" for every tag, as does a tag the
+  // file lacks; the object goes with the call, so nothing reaches the next.
+  media::ExifInfos exif;
+  if (NamedAsJpeg(pending)) exif.Load(files_, row.key);
+  ReplaceTag(s, "<EXIF_ImageWH>", "<EXIF_ImageW> x <EXIF_ImageH>");
+  ReplaceTag(s, "<EXIF_XYResolution>", "<EXIF_XResolution> x <EXIF_YResolution>");
+  for (const ExifTag& tag : kExifTags) {
+    if (!HoldsTagNoCase(s, tag.tag)) continue;
+    const std::string stored = exif.Loaded() ? exif.Tag(tag.id) : std::string();
+    ReplaceTag(s, tag.tag, tag.resolution ? ResolutionText(stored) : stored);
+  }
+}
 
 const std::array<Mp3Tag, 15>& Mp3Tags() {
   static constexpr std::array<Mp3Tag, 15> kMp3Tags = {{

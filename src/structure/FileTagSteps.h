@@ -17,13 +17,14 @@ struct Mp3Tag {
 };
 const std::array<Mp3Tag, 15>& Mp3Tags();
 
-// The steps that read the file of a row from the disk: the CRC-32 tags
-// and the ID3 and MPEG tags of an MP3. Nothing is kept from one evaluation
+// The steps that read the file of a row from the disk: the EXIF tags of a
+// JPEG, the CRC-32 tags and the ID3 and MPEG tags of an MP3. Nothing is kept from one evaluation
 // to the next, so every call sees the file as it is now.
 class FileTagSteps : public MetadataSteps {
  public:
   explicit FileTagSteps(platform::FileSystem& files) : files_(files) {}
 
+  void ExifTags(core::FileEntry& row, std::string_view pending, std::string& s) const override;
   void ShortNameAndChecksumTags(core::FileEntry& row, std::string& s) const override;
   void Id3AndMpegTags(core::FileEntry& row, std::string& s) const override;
 

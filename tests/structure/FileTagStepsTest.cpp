@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "base/Fault.h"
+#include "media/ExifBytes.h"
 #include "media/Mp3Bytes.h"
 #include "structure/FileTagSteps.h"
 #include "structure/StructureFixture.h"
@@ -94,6 +95,53 @@ TEST_F(FileTagStepsTest, AChecksumOfAFileThatIsGoneIsAFaultAtItsRow) {
   core::FileEntry& row = Row("gone.txt", "x");
   std::remove(row.key.c_str());
   EXPECT_THROW(Evaluate(row, "<CRC32>"), nomra::base::RuntimeFault);
+}
+
+std::string CameraJpeg(bool intel) {
+  const ExifBytes b(intel);
+  return ExifBytes::Jpeg(b.Tiff({
+      {{b.Ascii(270, "Harbour"), b.Ascii(271, "Canon"), b.Ascii(272, "EOS 5D"), b.Rat(282, 300, 2), b.Rat(283, 72, 0),
+        b.Pointer(34665, 1)}},
+      {{b.Long(40962, 4000), b.Long(40963, 3000), b.Long(37393, 17)}},
+  }));
+}
+
+// A text entry keeps the NUL that ends it, as the reader hands it out; the
+// commit refuses a name holding one.
+TEST_F(FileTagStepsTest, ExifTagsComeFromAJpegInEitherByteOrder) {
+  for (const bool intel : {true, false}) {
+    core::FileEntry& row = Row("IMG_0001.JPG", CameraJpeg(intel));
+    EXPECT_EQ(Evaluate(row, "<EXIF_Make> <exif_model> <EXIF_ImageWH> #<EXIF_ImageNumber> <EXIF_ImageDescription>"),
+              "Canon\0 EOS 5D\0 4000 x 3000 #17 Harbour\0"s)
+        << (intel ? "II" : "MM");
+  }
+}
+
+TEST_F(FileTagStepsTest, AResolutionIsDividedOutAndAZeroDenominatorLeavesTheStoredText) {
+  core::FileEntry& row = Row("a.jpg", CameraJpeg(true));
+  EXPECT_EQ(Evaluate(row, "<EXIF_XYResolution>"), "150 x 72/0");
+}
+
+TEST_F(FileTagStepsTest, ExifTagsOfAFileNotNamedAsAJpegAreEmpty) {
+  core::FileEntry& row = Row("picture.png", CameraJpeg(true));
+  EXPECT_EQ(Evaluate(row, "[<EXIF_Make>]"), "[]");
+  EXPECT_EQ(counting.opened, 0);
+}
+
+TEST_F(FileTagStepsTest, TheLoadGoesByThePendingExtensionNotTheFileOnDisk) {
+  core::FileEntry& row = Row("picture.png", CameraJpeg(true));
+  row[core::kColNewName] = "picture.jpeg";
+  EXPECT_EQ(Evaluate(row, "<EXIF_Make>"), "Canon\0"s);
+}
+
+TEST_F(FileTagStepsTest, WidthAndHeightOfAFileWithoutThemLeaveTheSeparatorAlone) {
+  core::FileEntry& row = Row("plain.jpg", "\xFF\xD8\xFF\xD9"s);
+  EXPECT_EQ(Evaluate(row, "<EXIF_ImageWH>"), " x ");
+}
+
+TEST_F(FileTagStepsTest, AnUnknownExifNameStaysAsText) {
+  core::FileEntry& row = Row("a.jpg", CameraJpeg(true));
+  EXPECT_EQ(Evaluate(row, "<EXIF_Lens>"), "<EXIF_Lens>");
 }
 
 }  // namespace
