@@ -10,7 +10,7 @@ BUILD_DIR=${NOMRA_BUILD_DIR:-build}
 # Debian packages by name; only the missing ones are installed.
 PACKAGES=(cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev libutf8proc-dev
           qt6-base-dev libqt6svg6 fonts-dejavu-core dosfstools fusefat locales libpcre2-dev
-          clang-format lame id3v2 eyed3 python3-mutagen libtag1-dev imagemagick libimage-exiftool-perl exiv2
+          clang-format lame id3v2 eyed3 python3-mutagen libtag1-dev imagemagick libimage-exiftool-perl exiv2 libexiv2-dev
           libisal-dev zlib1g-dev
           desktop-file-utils appstream help2man librsvg2-bin groff-base)
 
