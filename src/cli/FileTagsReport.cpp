@@ -3,9 +3,13 @@
 #include <cerrno>
 
 #include "base/Failure.h"
+#include "base/Paths.h"
+#include "core/FileEntry.h"
 #include "media/Crc32.h"
+#include "media/ExifInfos.h"
 #include "media/Mp3Infos.h"
 #include "structure/FileTagSteps.h"
+#include "structure/StructureEngine.h"
 
 namespace nomra::cli {
 
@@ -73,6 +77,29 @@ FileTagsReport::Fields StructureTags(const media::Mp3Infos& infos) {
   return fields;
 }
 
+FileTagsReport::Fields ExifFields(const media::ExifInfos& exif) {
+  FileTagsReport::Fields fields;
+  for (const media::ExifEntry& entry : exif.Entries()) {
+    fields.emplace_back(
+        std::to_string(entry.tag) + (entry.makerNote ? " (maker note)" : ""),
+        "type " + std::to_string(entry.dataType) + ", count " + std::to_string(entry.count) + ": " + entry.Value());
+  }
+  return fields;
+}
+
+// What each EXIF tag gives, through the structure language itself, so the
+// list shows exactly what a name would get.
+void AddExifTags(platform::FileSystem& files, const std::string& path, FileTagsReport::Fields& tags) {
+  const structure::FileTagSteps readers(files);
+  core::FileEntry row;
+  row.key = path;
+  row[core::kColNewName] = base::NameOf(path);
+  for (const char* tag : {"<EXIF_Make>", "<EXIF_Model>", "<EXIF_ImageW>", "<EXIF_ImageH>", "<EXIF_XResolution>",
+                          "<EXIF_YResolution>", "<EXIF_ImageNumber>", "<EXIF_ImageDescription>"}) {
+    tags.emplace_back(tag, structure::EvaluateStructure(row, tag, readers));
+  }
+}
+
 }  // namespace
 
 FileTagsReport ReadFileTags(platform::FileSystem& files, const std::string& path) {
@@ -93,6 +120,11 @@ FileTagsReport ReadFileTags(platform::FileSystem& files, const std::string& path
   if (infos.HasId3v1()) report.id3v1 = Id3v1Fields(infos);
   if (infos.HasId3v2()) report.id3v2 = Id3v2Fields(infos);
   report.tags = StructureTags(infos);
+  media::ExifInfos exif;
+  if (exif.Load(files, path) || exif.Loaded()) {
+    report.exif = ExifFields(exif);
+    AddExifTags(files, path, report.tags);
+  }
   int error = 0;
   const std::optional<std::uint32_t> crc = media::FileCrc32(files, path, error);
   if (crc) {

@@ -20,7 +20,8 @@ struct FileTagsReport {
   std::optional<Fields> mpeg;   // nothing when no audio frame was found
   std::optional<Fields> id3v1;  // nothing without a record
   std::optional<Fields> id3v2;  // version and size first, then each frame by its id
-  Fields tags;                  // "<ID3_Artist>" and the rest, "<CRC32>", "<CRC32_D>"
+  std::optional<Fields> exif;   // each entry by its tag id: type, count and value
+  Fields tags;                  // "<ID3_Artist>" and the rest, "<EXIF_Make>" and the rest, "<CRC32>", "<CRC32_D>"
 };
 
 FileTagsReport ReadFileTags(platform::FileSystem& files, const std::string& path);

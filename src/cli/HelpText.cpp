@@ -102,9 +102,10 @@ void WriteHelp(std::ostream& out) {
   WriteWrapped(out,
                "Prints what the readers find in each FILE: the first MPEG audio frame's header (version, layer, "
                "bit rate, frequency, channel mode, frame size, length), the ID3v1 record and every ID3v2 frame "
-               "by its id, and what each file tag of a name structure gives for the file (<ID3_Artist>, "
-               "<ID3_SongTitle>, <MP3_Length>, <CRC32>, <CRC32_D> and the rest). Changes nothing. With --json, "
-               "an array of objects with path, mpeg, id3v1, id3v2 (null where there is none) and tags. A file "
+               "by its id, every EXIF entry of a JPEG by its tag number (type, count, value), and what each "
+               "file tag of a name structure gives for the file (<ID3_Artist>, <ID3_SongTitle>, <MP3_Length>, "
+               "<EXIF_Model>, <CRC32>, <CRC32_D> and the rest). Changes nothing. With --json, an array of "
+               "objects with path, mpeg, id3v1, id3v2, exif (null where there is none) and tags. A file "
                "that can't be read is printed on stderr and makes the exit status 1.");
   out << kIndent << "Example: nomra-cli tags ~/Music/track01.mp3\n";
   WriteHistoryCommand(out);

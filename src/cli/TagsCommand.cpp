@@ -41,6 +41,7 @@ void WriteText(std::ostream& out, const FileTagsReport& report) {
   WriteTextGroup(out, "MPEG", report.mpeg, ": no audio frame found");
   WriteTextGroup(out, "ID3v1", report.id3v1, ": none");
   WriteTextGroup(out, "ID3v2", report.id3v2, ": none");
+  WriteTextGroup(out, "EXIF", report.exif, ": none");
   WriteTextGroup(out, "Tags", report.tags, "");
 }
 
@@ -65,6 +66,8 @@ void WriteJson(std::ostream& out, const FileTagsReport& report) {
   WriteJsonFields(out, report.id3v1);
   out << ",\n   \"id3v2\": ";
   WriteJsonFields(out, report.id3v2);
+  out << ",\n   \"exif\": ";
+  WriteJsonFields(out, report.exif);
   out << ",\n   \"tags\": ";
   WriteJsonFields(out, report.tags);
   out << '}';

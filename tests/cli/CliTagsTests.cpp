@@ -1,6 +1,7 @@
 // nomra-cli tags: what the readers find in a file, and what the file tags
 // of a structure give for it, run as a user runs the program.
 #include "cli/CliTestFixture.h"
+#include "media/ExifBytes.h"
 #include "media/Mp3Bytes.h"
 
 namespace nomra::testing {
@@ -71,6 +72,19 @@ TEST_F(CliTags, AMissingFileAndAFolderAreToldAndTheOthersStillShown) {
   EXPECT_NE(result.err.find("missing.mp3: No such file or directory"), std::string::npos) << result.err;
   EXPECT_NE(result.err.find("sub/: a folder, not a file"), std::string::npos) << result.err;
   EXPECT_NE(result.out.find("CBF43926"), std::string::npos) << result.out;
+}
+
+TEST_F(CliTags, AJpegShowsEveryExifEntryAndWhatTheExifTagsGive) {
+  const ExifBytes b(false);
+  const std::string path = files.WriteFile(
+      "IMG_0001.JPG", ExifBytes::Jpeg(b.Tiff({{{b.Ascii(271, "Nikon"), b.Rat(282, 300, 1), b.Short(274, 1)}}})));
+  const JsonValue document = ParseJson(Run({"tags", "--json", path}).out);
+  const JsonValue& file = document.items[0];
+  EXPECT_EQ(file["exif"]["271"].text, "type 2, count 6: Nikon"s + '\0');
+  EXPECT_EQ(file["exif"]["282"].text, "type 5, count 1: 300/1");
+  EXPECT_EQ(file["tags"]["<EXIF_Make>"].text, "Nikon"s + '\0');
+  EXPECT_EQ(file["tags"]["<EXIF_XResolution>"].text, "300");
+  EXPECT_EQ(file["mpeg"].kind, JsonValue::Kind::Null);
 }
 
 TEST_F(CliTags, WithoutAFileItIsAUsageFault) {
