@@ -531,7 +531,7 @@ std::string NoteDirectory(const ExifBytes& b, std::uint32_t valuesAt) {
   return note;
 }
 
-class MakerNote : public ExifOrder {
+class ExifMakerNote : public ExifOrder {
  protected:
   // The Exif IFD holds the note as undefined bytes; the file and where the
   // note starts in it.
@@ -552,10 +552,10 @@ class MakerNote : public ExifOrder {
   }
 };
 
-INSTANTIATE_TEST_SUITE_P(BothByteOrders, MakerNote, ::testing::Values(true, false),
+INSTANTIATE_TEST_SUITE_P(BothByteOrders, ExifMakerNote, ::testing::Values(true, false),
                          [](const auto& info) { return info.param ? "Intel"s : "Motorola"s; });
 
-TEST_P(MakerNote, AfterLoadMakerNoteTagIsEmptyForEveryNumberThoughTheFileHasANote) {
+TEST_P(ExifMakerNote, AfterLoadMakerNoteTagIsEmptyForEveryNumberThoughTheFileHasANote) {
   const auto [file, noteAt] = FileWithNote();
   bool loaded = false;
   ExifInfos infos = ReadBytes(file, &loaded);
@@ -566,7 +566,7 @@ TEST_P(MakerNote, AfterLoadMakerNoteTagIsEmptyForEveryNumberThoughTheFileHasANot
   for (const ExifEntry& e : infos.Entries()) EXPECT_FALSE(e.makerNote);
 }
 
-TEST_P(MakerNote, Tag37500GivesTheNotesRawCharactersAsAnUndefinedValue) {
+TEST_P(ExifMakerNote, Tag37500GivesTheNotesRawCharactersAsAnUndefinedValue) {
   const auto [file, noteAt] = FileWithNote();
   ExifInfos infos = ReadBytes(file);
   const std::string raw = file.substr(static_cast<std::size_t>(noteAt), 2 + 12 * 5 + 8 + 8);
@@ -580,7 +580,7 @@ TEST_P(MakerNote, Tag37500GivesTheNotesRawCharactersAsAnUndefinedValue) {
   EXPECT_EQ(note->bytes, raw);
 }
 
-TEST_P(MakerNote, ProcessMakerNoteReadsThePlainDirectoryWithItsOwnTypeRules) {
+TEST_P(ExifMakerNote, ProcessMakerNoteReadsThePlainDirectoryWithItsOwnTypeRules) {
   const auto [file, noteAt] = FileWithNote();
   platform::MemoryInputFile bytes(file);
   ExifInfos infos;
@@ -598,7 +598,7 @@ TEST_P(MakerNote, ProcessMakerNoteReadsThePlainDirectoryWithItsOwnTypeRules) {
   EXPECT_EQ(infos.Tag(3), "99");
 }
 
-TEST_P(MakerNote, ANoteWithAHeaderOfItsOwnGivesAGarbageCountAndEndsThere) {
+TEST_P(ExifMakerNote, ANoteWithAHeaderOfItsOwnGivesAGarbageCountAndEndsThere) {
   const auto [file, noteAt] = FileWithNote();
   std::string withHeader = file;
   withHeader.replace(static_cast<std::size_t>(noteAt), 2, "\x7F\x7F");
