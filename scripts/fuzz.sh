@@ -11,7 +11,7 @@ cd "$(dirname "$0")/.."
 seconds=${1:-60}
 shift || true
 targets=("$@")
-((${#targets[@]})) || targets=(mpeg_header_fuzzer id3v1_fuzzer id3v2_fuzzer)
+((${#targets[@]})) || targets=(mpeg_header_fuzzer id3v1_fuzzer id3v2_fuzzer exif_fuzzer)
 build=${NOMRA_FUZZ_BUILD_DIR:-build-fuzz}
 
 if ! command -v clang++ >/dev/null; then
