@@ -29,36 +29,19 @@
 #include <string>
 #include <vector>
 
+#include "FileSetBench.h"
 #include "media/ExifInfos.h"
 #include "platform/posix/PosixFileSystem.h"
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
 namespace fs = std::filesystem;
 
 constexpr int kRuns = 5;
 constexpr char kDate[] = "2005:01:02 12:30:00";
 
-double Median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
-}
-
-[[noreturn]] void Fail(const std::string& what) {
-  std::fprintf(stderr, "nomra-bench-exif: %s\n", what.c_str());
-  std::exit(1);
-}
-
-std::string ReadFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream bytes;
-  bytes << in.rdbuf();
-  return bytes.str();
-}
-
 void Shell(const std::string& command) {
-  if (std::system(command.c_str()) != 0) Fail("failed: " + command);
+  if (std::system(command.c_str()) != 0) nomra::bench::Fail("failed: " + command);
 }
 
 // A date of its own for file k, as many bytes as the one written.
@@ -82,9 +65,9 @@ std::vector<std::string> MakeFiles(const std::string& dir, int count) {
       " -Orientation#=1 -XResolution=300 -YResolution=300 -ResolutionUnit=inches -ExifImageWidth=3600"
       " -ExifImageHeight=2400 '-ThumbnailImage<=" +
       thumb + "' '" + picture + "'");
-  const std::string bytes = ReadFile(picture);
+  const std::string bytes = nomra::bench::ReadFile(picture);
   const std::size_t dateAt = bytes.find(std::string(kDate) + '\0');
-  if (dateAt == std::string::npos || bytes.size() < 1000000) Fail("the picture came out wrong");
+  if (dateAt == std::string::npos || bytes.size() < 1000000) nomra::bench::Fail("the picture came out wrong");
   std::printf("picture: %zu bytes, first date at %zu\n", bytes.size(), dateAt);
   std::vector<std::string> paths;
   for (int k = 0; k < count; ++k) {
@@ -102,7 +85,7 @@ std::vector<std::string> MakeFiles(const std::string& dir, int count) {
 std::size_t FloorRead(const std::string& path) {
   static std::vector<char> head(64 * 1024);
   const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (fd < 0) Fail("cannot open " + path);
+  if (fd < 0) nomra::bench::Fail("cannot open " + path);
   const ssize_t got = pread(fd, head.data(), head.size(), 0);
   close(fd);
   return got > 0 ? static_cast<std::size_t>(got) : 0;
@@ -124,42 +107,19 @@ std::size_t Exiv2Read(const std::string& path, std::string* date) {
 
 std::size_t NomraRead(nomra::platform::FileSystem& files, const std::string& path, std::string* date) {
   nomra::media::ExifInfos infos;
-  if (!infos.Load(files, path)) Fail("Nomra cannot read " + path);
+  if (!infos.Load(files, path)) nomra::bench::Fail("Nomra cannot read " + path);
   const std::string taken = infos.ExifDate();
   if (date) *date = taken;
   return infos.ExifMake().size() + infos.ExifModel().size() + taken.size();
 }
 
-double Time(const std::vector<std::string>& paths, const std::function<std::size_t(const std::string&)>& read,
-            std::size_t& sink) {
-  const auto start = Clock::now();
-  for (const std::string& path : paths) sink += read(path);
-  return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
-  int count = 2000;
-  std::string dir;
-  bool keep = false;
-  for (int k = 1; k < argc; ++k) {
-    const std::string arg = argv[k];
-    if (arg == "--files" && k + 1 < argc) count = std::atoi(argv[++k]);
-    else if (arg == "--dir" && k + 1 < argc) dir = argv[++k];
-    else if (arg == "--keep") keep = true;
-    else {
-      std::fprintf(stderr, "usage: nomra-bench-exif [--files N] [--dir PATH] [--keep]\n");
-      return 2;
-    }
-  }
-  if (dir.empty()) {
-    std::string pattern = (fs::temp_directory_path() / "nomra-bench-exif-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) Fail("mkdtemp failed");
-    dir = pattern;
-  }
-  if (dir.back() != '/') dir += '/';
-  fs::create_directories(dir);
+  const nomra::bench::FileSetOptions options = nomra::bench::ParseFileSetOptions(argc, argv, "nomra-bench-exif");
+  const int count = options.count;
+  const std::string& dir = options.folder;
+  const bool keep = options.keep;
   const std::vector<std::string> paths = MakeFiles(dir, count);
 
   nomra::platform::PosixFileSystem files;
@@ -186,10 +146,10 @@ int main(int argc, char** argv) {
 
   std::vector<double> floor, exiv2, nomra;
   for (int run = 0; run < kRuns; ++run) {
-    floor.push_back(Time(paths, FloorRead, sink));
-    exiv2.push_back(Time(
+    floor.push_back(nomra::bench::TimeEach(paths, FloorRead, sink));
+    exiv2.push_back(nomra::bench::TimeEach(
         paths, [](const std::string& p) { return Exiv2Read(p, nullptr); }, sink));
-    nomra.push_back(Time(
+    nomra.push_back(nomra::bench::TimeEach(
         paths, [&files](const std::string& p) { return NomraRead(files, p, nullptr); }, sink));
   }
 
@@ -198,7 +158,8 @@ int main(int argc, char** argv) {
   const auto line = [count](const char* who, double seconds) {
     std::printf("  %-34s %8.1f ms  %10.0f files/s\n", who, seconds * 1000, count / seconds);
   };
-  const double floorTime = Median(floor), exivTime = Median(exiv2), nomraTime = Median(nomra);
+  const double floorTime = nomra::bench::Median(floor), exivTime = nomra::bench::Median(exiv2),
+               nomraTime = nomra::bench::Median(nomra);
   line("floor (open, first 64 KiB, close)", floorTime);
   line("Exiv2 open + readMetadata", exivTime);
   line("Nomra Load", nomraTime);

@@ -33,6 +33,7 @@
 #include <string>
 #include <vector>
 
+#include "FileSetBench.h"
 #include "media/Mp3Infos.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "structure/FileTagSteps.h"
@@ -40,28 +41,10 @@
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
 namespace fs = std::filesystem;
 
 constexpr int kRuns = 5;
 constexpr double kTargetOverTagLib = 2.0;
-
-double Median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
-}
-
-[[noreturn]] void Fail(const std::string& what) {
-  std::fprintf(stderr, "nomra-bench-mp3: %s\n", what.c_str());
-  std::exit(1);
-}
-
-std::string ReadFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream bytes;
-  bytes << in.rdbuf();
-  return bytes.str();
-}
 
 std::string Syncsafe(std::uint32_t size) {
   std::string out(4, '\0');
@@ -115,12 +98,13 @@ std::vector<std::string> MakeFiles(const std::string& folder, int count) {
   const std::string fixtures = folder + "fixtures/";
   const std::string command =
       "bash '" NOMRA_SOURCE_DIR "/scripts/make-mp3-fixtures.sh' '" + fixtures + "' >'" + folder + "fixtures.log' 2>&1";
-  if (std::system(command.c_str()) != 0) Fail("make-mp3-fixtures.sh failed, see " + folder + "fixtures.log");
+  if (std::system(command.c_str()) != 0)
+    nomra::bench::Fail("make-mp3-fixtures.sh failed, see " + folder + "fixtures.log");
   std::vector<std::string> bodies;
   for (const char* name : {"lame_cbr128.mp3", "lame_vbr_v2_xing.mp3", "lame_cbr64_mono.mp3", "lame_cbr128_48k.mp3",
                            "lame_mpeg2_22k_joint.mp3"}) {
-    bodies.push_back(ReadFile(fixtures + name));
-    if (bodies.back().empty()) Fail(std::string("no ") + name);
+    bodies.push_back(nomra::bench::ReadFile(fixtures + name));
+    if (bodies.back().empty()) nomra::bench::Fail(std::string("no ") + name);
   }
   fs::remove_all(fixtures);
   std::vector<std::string> paths;
@@ -137,7 +121,7 @@ std::vector<std::string> MakeFiles(const std::string& folder, int count) {
 
 std::size_t FloorRead(const std::string& path) {
   const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (fd < 0) Fail("cannot open " + path);
+  if (fd < 0) nomra::bench::Fail("cannot open " + path);
   struct stat st {};
   fstat(fd, &st);
   char tail[128], head[8192], behind[8192];
@@ -154,7 +138,7 @@ std::size_t FloorRead(const std::string& path) {
 
 std::size_t TagLibRead(const std::string& path, TagLib::AudioProperties::ReadStyle style, std::string* title) {
   TagLib::MPEG::File file(path.c_str(), true, style);
-  if (!file.isValid() || !file.tag() || !file.audioProperties()) Fail("TagLib cannot read " + path);
+  if (!file.isValid() || !file.tag() || !file.audioProperties()) nomra::bench::Fail("TagLib cannot read " + path);
   if (title) *title = file.tag()->title().to8Bit(true);
   return file.tag()->title().size() + file.tag()->artist().size() +
          static_cast<std::size_t>(file.audioProperties()->lengthInSeconds() + file.audioProperties()->bitrate());
@@ -162,7 +146,7 @@ std::size_t TagLibRead(const std::string& path, TagLib::AudioProperties::ReadSty
 
 std::size_t NomraRead(nomra::platform::FileSystem& files, const std::string& path, std::string* title) {
   nomra::media::Mp3Infos infos;
-  if (!infos.GetFileInfos(files, path)) Fail("Nomra cannot read " + path);
+  if (!infos.GetFileInfos(files, path)) nomra::bench::Fail("Nomra cannot read " + path);
   if (title) *title = infos.Id3SongTitle();
   return infos.Id3Artist().size() + infos.Id3SongTitle().size() + infos.Mp3Length().size();
 }
@@ -176,36 +160,13 @@ std::size_t EvaluateSongName(const nomra::structure::FileTagSteps& readers, cons
   return nomra::structure::EvaluateStructure(row, "<ID3_Artist> - <ID3_SongTitle><.EXT>", readers).size();
 }
 
-double Time(const std::vector<std::string>& paths, const std::function<std::size_t(const std::string&)>& read,
-            std::size_t& sink) {
-  const auto start = Clock::now();
-  for (const std::string& path : paths) sink += read(path);
-  return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
-  int count = 2000;
-  std::string dir;
-  bool keep = false;
-  for (int k = 1; k < argc; ++k) {
-    const std::string arg = argv[k];
-    if (arg == "--files" && k + 1 < argc) count = std::atoi(argv[++k]);
-    else if (arg == "--dir" && k + 1 < argc) dir = argv[++k];
-    else if (arg == "--keep") keep = true;
-    else {
-      std::fprintf(stderr, "usage: nomra-bench-mp3 [--files N] [--dir PATH] [--keep]\n");
-      return 2;
-    }
-  }
-  if (dir.empty()) {
-    std::string pattern = (fs::temp_directory_path() / "nomra-bench-mp3-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) Fail("mkdtemp failed");
-    dir = pattern;
-  }
-  if (dir.back() != '/') dir += '/';
-  fs::create_directories(dir);
+  const nomra::bench::FileSetOptions options = nomra::bench::ParseFileSetOptions(argc, argv, "nomra-bench-mp3");
+  const int count = options.count;
+  const std::string& dir = options.folder;
+  const bool keep = options.keep;
   const std::vector<std::string> paths = MakeFiles(dir, count);
 
   nomra::platform::PosixFileSystem files;
@@ -225,14 +186,14 @@ int main(int argc, char** argv) {
   const nomra::structure::FileTagSteps readers(files);
   std::vector<double> floor, average, fast, nomra, structure;
   for (int run = 0; run < kRuns; ++run) {
-    floor.push_back(Time(paths, FloorRead, sink));
-    average.push_back(Time(
+    floor.push_back(nomra::bench::TimeEach(paths, FloorRead, sink));
+    average.push_back(nomra::bench::TimeEach(
         paths, [](const std::string& p) { return TagLibRead(p, TagLib::AudioProperties::Average, nullptr); }, sink));
-    fast.push_back(Time(
+    fast.push_back(nomra::bench::TimeEach(
         paths, [](const std::string& p) { return TagLibRead(p, TagLib::AudioProperties::Fast, nullptr); }, sink));
-    nomra.push_back(Time(
+    nomra.push_back(nomra::bench::TimeEach(
         paths, [&files](const std::string& p) { return NomraRead(files, p, nullptr); }, sink));
-    structure.push_back(Time(
+    structure.push_back(nomra::bench::TimeEach(
         paths, [&readers](const std::string& p) { return EvaluateSongName(readers, p); }, sink));
   }
 
@@ -240,13 +201,13 @@ int main(int argc, char** argv) {
   const auto line = [count](const char* who, double seconds) {
     std::printf("  %-30s %8.1f ms  %10.0f files/s\n", who, seconds * 1000, count / seconds);
   };
-  const double floorTime = Median(floor), averageTime = Median(average), fastTime = Median(fast),
-               nomraTime = Median(nomra);
+  const double floorTime = nomra::bench::Median(floor), averageTime = nomra::bench::Median(average),
+               fastTime = nomra::bench::Median(fast), nomraTime = nomra::bench::Median(nomra);
   line("floor (the same reads)", floorTime);
   line("TagLib, Average", averageTime);
   line("TagLib, Fast", fastTime);
   line("Nomra", nomraTime);
-  line("<ID3_Artist> - <ID3_SongTitle>", Median(structure));
+  line("<ID3_Artist> - <ID3_SongTitle>", nomra::bench::Median(structure));
   std::printf("  Nomra/floor: %.2f x the time\n", nomraTime / floorTime);
   const bool fastEnough = averageTime / nomraTime >= kTargetOverTagLib && fastTime / nomraTime >= kTargetOverTagLib;
   std::printf("  Nomra vs TagLib: %.1f x as fast (Average), %.1f x (Fast); target at least %.1f x%s\n",
