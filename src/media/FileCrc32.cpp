@@ -10,38 +10,38 @@ namespace {
 // file. Measured on a warm 1 GiB file, reads of 512 KiB and less copy out of
 // the page cache markedly slower, and 4 MiB gains nothing over 2 MiB.
 constexpr std::size_t kBlock = 2 * 1024 * 1024;
-// For a file that reports no size: read in these steps until the end.
-constexpr std::size_t kUnsizedBlock = 64 * 1024;
+// The first read, on the stack: most files end within it.
+constexpr std::size_t kFirstBlock = 64 * 1024;
 
 }  // namespace
 
 std::optional<std::uint32_t> FileCrc32(platform::InputFile& file, int& error) {
   error = 0;
-  // The checksum covers the bytes the file held when it was opened. Asking
-  // for exactly that many lets a small file take one read into a block of
-  // its own size, with no second read to meet the end; a file that shrank
-  // meanwhile ends early. Devices and the like report no size and are read
-  // until a read comes back short.
-  const std::uint64_t size = file.Size();
-  const bool sized = size > 0;
-  const std::size_t capacity = sized ? static_cast<std::size_t>(std::min<std::uint64_t>(size, kBlock)) : kUnsizedBlock;
-  if (size > kBlock) file.ExpectOneSequentialPass();
-  const auto block = std::make_unique_for_overwrite<char[]>(capacity);
+  // The file is read to its end without asking its size first: most files
+  // whose checksum names want are small, and one read that comes back short
+  // (and the one that meets the end) cost less than a size query. A file
+  // that fills the first block is read on in large blocks, front to back.
   std::uint32_t crc = 0;
   std::uint64_t offset = 0;
-  while (!sized || offset < size) {
-    const std::size_t wanted =
-        sized ? static_cast<std::size_t>(std::min<std::uint64_t>(capacity, size - offset)) : capacity;
-    const std::int64_t got = file.ReadAt(offset, block.get(), wanted);
-    if (got < 0) {
-      error = file.Error();
-      return std::nullopt;
-    }
+  const auto take = [&](char* block, std::size_t wanted) -> std::optional<bool> {
+    const std::int64_t got = file.ReadAt(offset, block, wanted);
+    if (got < 0) return std::nullopt;
     const auto count = static_cast<std::size_t>(got);
-    crc = Crc32Update(crc, reinterpret_cast<const unsigned char*>(block.get()), count);
+    crc = Crc32Update(crc, reinterpret_cast<const unsigned char*>(block), count);
     offset += count;
     // A read returns less than asked only at the end of the file.
-    if (count < wanted) break;
+    return count == wanted;
+  };
+  char first[kFirstBlock];
+  std::optional<bool> more = take(first, sizeof first);
+  if (more && *more) {
+    file.ExpectOneSequentialPass();
+    const auto block = std::make_unique_for_overwrite<char[]>(kBlock);
+    while (more && *more) more = take(block.get(), kBlock);
+  }
+  if (!more) {
+    error = file.Error();
+    return std::nullopt;
   }
   return crc;
 }

@@ -155,7 +155,8 @@ class FileSystem {
   }
 
   // Opens a file for reading parts of it; nothing, with the errno in
-  // `error`, when it is missing, a folder, or can't be read.
+  // `error`, when it is missing or may not be read. A folder opens, and
+  // its reads fail (EISDIR).
   virtual std::unique_ptr<InputFile> OpenForReading(const std::string& path, int& error) = 0;
 
   // A file that must not exist yet, holding `content`, readable by its owner

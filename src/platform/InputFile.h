@@ -11,7 +11,8 @@ class InputFile {
  public:
   virtual ~InputFile() = default;
 
-  // The length of the file when it was opened.
+  // The length of the file when first asked; 0 for what is no regular
+  // file.
   virtual std::uint64_t Size() const = 0;
 
   // Reads up to `length` bytes at `offset` into `buffer`: the count read,

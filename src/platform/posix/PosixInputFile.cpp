@@ -28,6 +28,14 @@ void PosixInputFile::ExpectOneSequentialPass() {
   posix_fadvise(fd_.Get(), 0, 0, POSIX_FADV_SEQUENTIAL);
 }
 
+std::uint64_t PosixInputFile::Size() const {
+  if (!size_) {
+    struct stat st {};
+    size_ = fstat(fd_.Get(), &st) == 0 && S_ISREG(st.st_mode) ? static_cast<std::uint64_t>(st.st_size) : 0;
+  }
+  return *size_;
+}
+
 std::unique_ptr<InputFile> OpenInputFile(const std::string& path, int& error) {
   error = 0;
   Descriptor fd(open(path.c_str(), O_RDONLY | O_CLOEXEC));
@@ -35,17 +43,7 @@ std::unique_ptr<InputFile> OpenInputFile(const std::string& path, int& error) {
     error = errno;
     return nullptr;
   }
-  struct stat st {};
-  if (fstat(fd.Get(), &st) != 0) {
-    error = errno;
-    return nullptr;
-  }
-  if (S_ISDIR(st.st_mode)) {
-    error = EISDIR;
-    return nullptr;
-  }
-  const std::uint64_t size = S_ISREG(st.st_mode) ? static_cast<std::uint64_t>(st.st_size) : 0;
-  return std::make_unique<PosixInputFile>(std::move(fd), size);
+  return std::make_unique<PosixInputFile>(std::move(fd));
 }
 
 }  // namespace nomra::platform

@@ -28,12 +28,30 @@ TEST(InputFile, ReadsAPartWhereItLiesAndLessAtTheEnd) {
   EXPECT_EQ(file->ReadAt(1000, buffer, 8), 0);
 }
 
-TEST(InputFile, AFolderIsRefusedAsAFolder) {
+TEST(InputFile, AFolderOpensButEachReadFailsAsAFolder) {
   TempFolder folder;
   PosixFileSystem files;
+  int error = -1;
+  const auto file = files.OpenForReading(folder.MakeFolder("sub"), error);
+  ASSERT_NE(file, nullptr);
+  EXPECT_EQ(error, 0);
+  char buffer[8];
+  EXPECT_EQ(file->ReadAt(0, buffer, sizeof buffer), -1);
+  EXPECT_EQ(file->Error(), EISDIR);
+  EXPECT_EQ(file->Size(), 0u);
+}
+
+TEST(InputFile, TheSizeIsAskedWhenWantedAndKept) {
+  TempFolder folder;
+  const std::string path = folder.WriteFile("grows.txt", "12345");
+  PosixFileSystem files;
   int error = 0;
-  EXPECT_EQ(files.OpenForReading(folder.MakeFolder("sub"), error), nullptr);
-  EXPECT_EQ(error, EISDIR);
+  const auto file = files.OpenForReading(path, error);
+  ASSERT_NE(file, nullptr);
+  folder.WriteFile("grows.txt", "1234567890");
+  EXPECT_EQ(file->Size(), 10u);
+  folder.WriteFile("grows.txt", "1");
+  EXPECT_EQ(file->Size(), 10u);
 }
 
 TEST(InputFile, AMissingFileGivesItsError) {
