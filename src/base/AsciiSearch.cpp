@@ -48,4 +48,12 @@ bool IsAscii(std::string_view text) {
   return true;
 }
 
+std::string ToUpperAscii(std::string_view text) {
+  std::string out(text);
+  for (char& c : out) {
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  }
+  return out;
+}
+
 }  // namespace nomra::base

@@ -1,5 +1,6 @@
 #pragma once
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace nomra::base {
@@ -11,5 +12,9 @@ namespace nomra::base {
 std::size_t FindAsciiNoCase(std::string_view text, std::string_view needle, std::size_t from = 0);
 
 bool IsAscii(std::string_view text);
+
+// ASCII letters in upper case, every other byte as it is: for keys and
+// markers read from binary files, whatever their bytes.
+std::string ToUpperAscii(std::string_view text);
 
 }  // namespace nomra::base

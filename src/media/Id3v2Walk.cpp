@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 
+#include "base/AsciiSearch.h"
 #include "media/Id3Text.h"
 
 namespace nomra::media {
@@ -12,13 +13,6 @@ namespace {
 constexpr std::size_t kIdLength = 4;
 constexpr std::size_t kFrameHeaderLength = 10;
 constexpr int kLargestSize = 32767;
-
-std::string UpperAscii(std::string text) {
-  for (char& c : text) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  }
-  return text;
-}
 
 // b4 x 16384 + b3 x 2048 + b2 x 256 + b1 with every product and sum held
 // to 16 bits; nothing when a step goes beyond.
@@ -86,7 +80,7 @@ Id3v2Walked WalkId3v2Frames(FilePieces& file, std::int32_t tagSize) {
       break;
     }
     p += kFrameHeaderLength;
-    const std::string key = UpperAscii(id);
+    const std::string key = base::ToUpperAscii(id);
     const auto known = walked.frames.find(key);
     if (known != walked.frames.end() && !known->second.empty()) continue;
     const std::string data = file.Padded(static_cast<std::uint64_t>(p - 1), static_cast<std::size_t>(*size));

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <limits>
 
+#include "base/AsciiSearch.h"
 #include "base/Cp1252.h"
 #include "media/FilePieces.h"
 #include "media/Id3Text.h"
@@ -31,14 +32,6 @@ std::int32_t TagSize(std::string_view header) {
     return static_cast<std::int32_t>(static_cast<unsigned char>(header[k]));
   };
   return byte(6) * 2097152 + byte(7) * 16384 + byte(8) * 128 + byte(9);
-}
-
-std::string UpperAscii(std::string_view text) {
-  std::string out(text);
-  for (char& c : out) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  }
-  return out;
 }
 
 std::string PreferV2(const std::string& v2, const std::string& v1) { return v2.empty() ? v1 : v2; }
@@ -102,7 +95,7 @@ void Mp3Infos::Read(platform::InputFile& input) {
   auto record = file.Exact(length - kRecordLength, kRecordLength);
   if (!record) return;
   v1_.bytes = std::move(*record);
-  v1_.present = UpperAscii(std::string_view(v1_.bytes).substr(0, 3)) == "TAG";
+  v1_.present = base::ToUpperAscii(std::string_view(v1_.bytes).substr(0, 3)) == "TAG";
 
   auto buffer = file.Exact(0, kSearchWindow);
   if (!buffer) return;
@@ -168,7 +161,7 @@ std::string Mp3Infos::Id3Element(int n) const {
 }
 
 std::string Mp3Infos::FrameText(std::string_view id) const {
-  const auto found = frames_.find(UpperAscii(id));
+  const auto found = frames_.find(base::ToUpperAscii(id));
   if (found == frames_.end()) return "";
   return base::DecodeCp1252(CleanFrameText(found->second));
 }

@@ -6,6 +6,7 @@
 #include "base/Failure.h"
 #include "base/Fault.h"
 #include "base/NameSplit.h"
+#include "base/ReplaceText.h"
 #include "media/Crc32.h"
 #include "media/ExifInfos.h"
 #include "media/Mp3Infos.h"
@@ -14,15 +15,6 @@
 namespace nomra::structure {
 
 namespace {
-
-// Replaces every exact occurrence, searching on behind each value.
-void ReplaceExactly(std::string& s, std::string_view tag, std::string_view value) {
-  std::size_t at = s.find(tag);
-  while (at != std::string::npos) {
-    s.replace(at, tag.size(), value);
-    at = s.find(tag, at + value.size());
-  }
-}
 
 // The EXIF tags and the entries they read. The resolutions are divided
 // out; where that fails the stored text stands.
@@ -106,7 +98,7 @@ void FileTagSteps::Id3AndMpegTags(core::FileEntry& row, std::string& s) const {
   media::Mp3Infos infos;
   infos.GetFileInfos(files_, row.key);
   for (const Mp3Tag& tag : Mp3Tags()) {
-    if (s.find(tag.tag) != std::string::npos) ReplaceExactly(s, tag.tag, (infos.*tag.value)());
+    if (s.find(tag.tag) != std::string::npos) s = base::ReplaceText(s, tag.tag, (infos.*tag.value)());
   }
 }
 
